@@ -1,0 +1,282 @@
+// Routing: keys in their order, gadgets and their action functions, capture, double clicks,
+// event 33, dropped files, re-entrant turns.
+#include "lumora_input.h"
+
+struct ACTION_CALL {
+    t_gadget *gadget;
+    u16 keyboard_flags, mouse_action;
+    i16 x, y;
+};
+static std::vector<ACTION_CALL> actions;
+static u32 action_result;
+
+static u32 RecordAction(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg) {
+    (void)window;
+    actions.push_back({gadget, msg->keyboard_flags, msg->mouse_action, msg->x, msg->y});
+    return action_result;
+}
+
+struct HANDLER_CALL {
+    u32 event;
+    u16 action;
+};
+static std::vector<HANDLER_CALL> handler_calls;
+static u32 handler_result;
+
+static u32 RecordHandler(t_Handler *handler, u32 event, void *data) {
+    (void)handler;
+    u16 action = 0;
+    if (event == HANDLER_EVENT_MOUSE) action = ((T_MOUSE_MSG *)data)->mouse_action;
+    if (event == HANDLER_EVENT_KEY) action = ((T_KEY_MSG *)data)->key_code;
+    handler_calls.push_back({event, action});
+    return event == HANDLER_EVENT_END ? 0 : handler_result;
+}
+
+static void Reset() {
+    actions.clear();
+    handler_calls.clear();
+    recorded.clear();
+    action_result = 0;
+    handler_result = 0;
+}
+
+static u32 Count(u32 event, u16 action) {
+    u32 n = 0;
+    for (const HANDLER_CALL &c : handler_calls) n += c.event == event && c.action == action;
+    return n;
+}
+
+TEST_F(LumoraTest, KeyGoesToHandlersThenGadgetThenMessage) {
+    struct {
+        u32 handler_takes, gadget_takes;
+        u32 handler_calls, gadget_calls, key_messages;
+    } rows[] = {
+        {1, 0, 1, 0, 0},
+        {0, 1, 1, 1, 0},
+        {0, 0, 1, 1, 1},
+    };
+    for (const auto &row : rows) {
+        t_Window *w = MakeWindow("Keys", 10, 10, 300, 200, 0, IDCMP_KEY);
+        NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
+        t_gadget *g = MakeGadget(w, "g", GADGET_TYPE_BUTTON, 10, 10, 50, 20, 7, 0x73);
+        g->action_fn = RecordAction;
+        Turn();
+        Reset();
+        handler_result = row.handler_takes, action_result = row.gadget_takes;
+        Key('x', QUAL_SHIFT);
+        EXPECT_EQ(Count(HANDLER_EVENT_KEY, 'x'), row.handler_calls);
+        ASSERT_EQ(actions.size(), row.gadget_calls);
+        if (row.gadget_calls) {
+            EXPECT_EQ(actions[0].mouse_action, 'x');
+            EXPECT_EQ(actions[0].keyboard_flags, QUAL_SHIFT | QUAL_GADGET_KEY);
+        }
+        EXPECT_EQ(CountRecorded(ACT_KEY, w), row.key_messages);
+        if (row.key_messages) {
+            EXPECT_EQ(recorded.back().item_code, (u32)'x');
+        }
+        RemoveWindow(w);
+        Turn();
+    }
+}
+
+TEST_F(LumoraTest, TypedTextBecomesKeys) {
+    t_Window *w = MakeWindow("Typing", 10, 10, 300, 200, 0, IDCMP_KEY);
+    Turn();
+    recorded.clear();
+    TypeText("a\xc3\xa9" "b");  // a, e acute (Latin-1 233), b
+    ASSERT_EQ(CountRecorded(ACT_KEY, w), 3u);
+    EXPECT_EQ(recorded[0].item_code, (u32)'a');
+    EXPECT_EQ(recorded[1].item_code, 233u);
+    EXPECT_EQ(recorded[2].item_code, (u32)'b');
+}
+
+TEST_F(LumoraTest, ActionFunctionGetsOnlyItsMaskAndNothingElseDoes) {
+    struct {
+        u32 mask;
+        std::vector<u16> expect;
+    } rows[] = {
+        {ACT_LMOUSE_UP, {ACT_LMOUSE_UP}},
+        {ACT_LMOUSE_DOWN | ACT_LMOUSE_UP, {ACT_LMOUSE_DOWN, ACT_LMOUSE_UP}},
+        {0, {}},
+    };
+    for (const auto &row : rows) {
+        t_Window *w = MakeWindow("Mask", 10, 10, 300, 200, 0, 0);
+        NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
+        t_gadget *g = MakeGadget(w, "g", GADGET_TYPE_BUTTON, 10, 10, 50, 20, 7, row.mask);
+        g->action_fn = RecordAction;
+        Turn();
+        Reset();
+        Click(g->screen_x + 5, g->screen_y + 5);
+        ASSERT_EQ(actions.size(), row.expect.size());
+        for (size_t i = 0; i < actions.size(); i++) EXPECT_EQ(actions[i].mouse_action, row.expect[i]);
+        EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_DOWN), 0u);  // the gadget took the press
+        EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 0u);  // with an action_fn, no report either
+        RemoveWindow(w);
+        Turn();
+    }
+}
+
+TEST_F(LumoraTest, PressMakesCurrentAndReleaseGoesToThePressingGadget) {
+    t_Window *w = MakeWindow("Capture", 10, 10, 400, 300, 0, 0);
+    NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
+    t_gadget *a = MakeGadget(w, "a", GADGET_TYPE_BUTTON, 10, 10, 50, 20, 1, 0x73);
+    t_gadget *b = MakeGadget(w, "b", GADGET_TYPE_BUTTON, 100, 10, 50, 20, 2, 0x73);
+    a->action_fn = b->action_fn = RecordAction;
+    SetCurrentGadget(w, b);
+    Turn();
+    Reset();
+    Press(a->screen_x + 5, a->screen_y + 5);
+    EXPECT_EQ(GetCurrentGadget(w), a);
+    Move(300, 200);
+    Release(300, 200);
+    ASSERT_EQ(actions.size(), 2u);
+    EXPECT_EQ(actions[1].gadget, a);
+    EXPECT_EQ(actions[1].mouse_action, ACT_LMOUSE_UP);
+    EXPECT_EQ(actions[1].x, 300);
+    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_UP), 0u);
+    EXPECT_EQ(lumora_state.capture.window, nullptr);
+}
+
+TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick) {
+    t_Window *w = MakeWindow("Double", 10, 10, 400, 300, 0, 0);
+    t_gadget *g = MakeGadget(w, "g", GADGET_TYPE_BUTTON, 10, 10, 50, 20, 1, 0x73);
+    g->action_fn = RecordAction;
+    Turn();
+    Reset();
+    i16 x = g->screen_x + 5, y = g->screen_y + 5;
+    T_INPUT_EVENT e = {};
+    e.x = x, e.y = y, e.button = 1;
+    for (u16 kind : {INPUT_MOUSE_DOWN, INPUT_MOUSE_UP, INPUT_MOUSE_DOWN, INPUT_MOUSE_UP}) {
+        e.kind = kind;
+        HeadlessPush(&e);
+    }
+    Turn();
+    std::vector<u16> expect = {ACT_LMOUSE_DOWN, ACT_LMOUSE_UP, ACT_LMOUSE_DOWN, ACT_LMOUSE_DBL,
+                               ACT_LMOUSE_UP};
+    ASSERT_EQ(actions.size(), expect.size());
+    for (size_t i = 0; i < expect.size(); i++) EXPECT_EQ(actions[i].mouse_action, expect[i]);
+    Reset();
+    HeadlessAdvance(500);  // too late for a double click
+    e.kind = INPUT_MOUSE_DOWN;
+    HeadlessPush(&e);
+    Turn();
+    ASSERT_EQ(actions.size(), 1u);
+    EXPECT_EQ(actions[0].mouse_action, ACT_LMOUSE_DOWN);
+}
+
+TEST_F(LumoraTest, BackgroundPressGoesToHandlersAndIsCaptured) {
+    t_Window *w = MakeWindow("Back", 10, 10, 400, 300, 0, 0);
+    NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
+    Turn();
+    Reset();
+    handler_result = 1;
+    Press(100, 100);
+    Move(500, 500);  // outside the window: still the handler's
+    Release(500, 500);
+    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_DOWN), 1u);
+    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_MOUSE_MOVE), 1u);
+    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_UP), 1u);
+    Move(100, 100);  // a move with no button down reaches the handler with no action
+    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, 0), 1u);
+}
+
+TEST_F(LumoraTest, FocusLossDuringAPressBreaksIt) {
+    for (int by_display : {0, 1}) {
+        t_Window *a = MakeWindow("A", 10, 10, 200, 200, 0, 0);
+        t_Window *b = MakeWindow("B", 300, 10, 200, 200, 0, 0);
+        NewHandler(&a->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), a);
+        Turn();
+        Reset();
+        handler_result = 1;
+        Press(50, 50);
+        if (by_display) {
+            T_INPUT_EVENT e = {};
+            e.kind = INPUT_FOCUS_LOST;
+            HeadlessPush(&e);
+            Turn();
+        } else {
+            ISetActiveWindow(b);
+        }
+        EXPECT_EQ(Count(HANDLER_EVENT_BREAK, 0), 1u);
+        Release(50, 50);
+        EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_UP), 0u);
+        RemoveWindow(a);
+        RemoveWindow(b);
+        Turn();
+    }
+}
+
+static std::string dropped_directory, dropped_name;
+static u32 TakeDrop(t_Window *window, u32 item_code, u32 msg, void *data) {
+    RecordMessage(window, item_code, msg, data);
+    if (msg == ACT_RECEIVE_OBJECT && item_code == 2) {
+        dropped_directory = ((T_DROPPED_FILE *)data)->directory;
+        dropped_name = ((T_DROPPED_FILE *)data)->name;
+    }
+    return 0;
+}
+
+TEST_F(LumoraTest, DroppedFileReachesTheWindowThatTakesIt) {
+    t_Window *parent = MakeWindow("Main", 0, 0, 600, 500, 0, IDCMP_RECEIVE_OBJECT, nullptr, TakeDrop);
+    MakeWindow("Page", 50, 50, 200, 200, WF_CHILD, 0, parent);  // passes the drop on
+    Move(100, 100);
+    T_INPUT_EVENT e = {};
+    e.kind = INPUT_DROP_FILE;
+    snprintf(e.text, sizeof(e.text), "/home/user/pages/About.cpp");
+    HeadlessPush(&e);
+    Turn();
+    EXPECT_EQ(CountRecorded(ACT_RECEIVE_OBJECT, parent), 1u);
+    EXPECT_EQ(dropped_directory, "/home/user/pages");
+    EXPECT_EQ(dropped_name, "About.cpp");
+}
+
+// A message function that turns the loop itself: the input still queued is taken inside.
+static std::vector<u32> reentrant_log;
+static u32 TurnInside(t_Window *window, u32 item_code, u32 msg, void *data) {
+    (void)window, (void)data;
+    if (msg != ACT_KEY) return 0;
+    reentrant_log.push_back(item_code);
+    if (item_code == 'a') {
+        T_INPUT_EVENT e = {};
+        e.kind = INPUT_KEY_DOWN, e.key = 'b';
+        HeadlessPush(&e);
+        RefreshHandlers(nullptr);
+        reentrant_log.push_back(1000 + _LumoraBase->turn_depth);
+    }
+    return 1;
+}
+
+TEST_F(LumoraTest, MessageFunctionMayTurnTheLoopAgain) {
+    MakeWindow("Nested", 10, 10, 200, 200, 0, IDCMP_KEY, nullptr, TurnInside);
+    Turn();
+    Key('a');
+    std::vector<u32> expect = {'a', 'b', 1001};
+    EXPECT_EQ(reentrant_log, expect);
+    EXPECT_EQ(_LumoraBase->turn_depth, 0u);
+}
+
+TEST_F(LumoraTest, PopupGetsPressesOutsideFirst) {
+    t_Window *w = MakeWindow("Under", 10, 10, 300, 300, 0, 0);
+    NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
+    t_Window *popup = CreatePopupWindow(400, 400, 100, 100, nullptr);
+    NewHandler(&popup->handlers, RecordHandler, nullptr, "popup", 0, sizeof(t_Handler), popup);
+    EXPECT_EQ(FocusWindow(), w);  // a popup never takes the focus
+    Turn();
+    Reset();
+    handler_result = 1;
+    Click(50, 50);
+    EXPECT_EQ(Count(HANDLER_EVENT_OUTSIDE, 0), 1u);
+    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_DOWN), 0u);
+    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_UP), 0u);
+}
+
+TEST_F(LumoraTest, AKeyNobodyAskedForGoesUpToTheParent) {
+    t_Window *main = MakeWindow("Main", 0, 0, 600, 500, 0, IDCMP_KEY);
+    t_Window *tools = MakeWindow("Tools", 10, 10, 100, 50, WF_CHILD, 0, main);
+    EXPECT_EQ(FocusWindow(), tools);
+    Turn();
+    recorded.clear();
+    Key(KEY_CTRL('S'));
+    ASSERT_EQ(CountRecorded(ACT_KEY, main), 1u);
+    EXPECT_EQ(recorded.back().item_code, (u32)KEY_CTRL('S'));
+}

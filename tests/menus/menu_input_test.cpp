@@ -1,0 +1,333 @@
+// Open menus at work: titles opened by click and by Alt+letter, keys and the pointer in them,
+// picks, greyed entries, closing, sub-menus and context menus.
+#include "menus/menu_fixture.h"
+
+class MenuInputTest : public ToolkitTest {
+protected:
+    T_MENU_HANDLER *handler = nullptr;
+    t_Menu *file = nullptr;
+
+    void SetUp() override
+    {
+        ToolkitTest::SetUp();
+        handler = BuildSampleMenus(owner);
+        file = FindMenuInHandler(handler, SAMPLE_FILE);
+        Turn();
+    }
+
+    void ClickTitle(u32 item_code)
+    {
+        i16 x, y;
+        TitleCentre(handler, FindMenuInHandler(handler, item_code), &x, &y);
+        Click(x, y);
+    }
+
+    // The one pick that came, or 0; a pick comes after every menu has closed.
+    u32 Picked()
+    {
+        std::vector<T_SPY_MESSAGE> picks = MessagesOf(ACT_MENU_PICK);
+        if (picks.empty())
+            return 0;
+        EXPECT_EQ(picks.size(), 1u);
+        EXPECT_EQ(picks[0].popups_open, 0u);
+        t_Menu *entry = (t_Menu *)picks[0].data;
+        EXPECT_NE(entry, nullptr);
+        if (entry) {
+            EXPECT_EQ(entry->menu_item_code, picks[0].item_code);
+        }
+        return picks[0].item_code;
+    }
+};
+
+static t_Menu *greyed_entry;
+static void GreyOnOpen(u32 item_code)
+{
+    (void)item_code;
+    greyed_entry->menu_flags |= MENU_FLAG_GREY;
+}
+
+TEST_F(MenuInputTest, OpeningATitleTellsTheOwnerBeforeTheMenuShows)
+{
+    //  how                      title         Alt letter
+    const struct {
+        const char *how;
+        u32 title;
+        u16 letter;
+    } rows[] = {
+        {"click on File", SAMPLE_FILE, 0},
+        {"click on Layout", SAMPLE_LAYOUT, 0},
+        {"Alt+F", SAMPLE_FILE, 'f'},
+        {"Alt+E", SAMPLE_EDIT, 'e'},
+    };
+    for (const auto &row : rows) {
+        spy_messages.clear();
+        if (row.letter)
+            Key(row.letter, QUAL_ALT);
+        else
+            ClickTitle(row.title);
+        std::vector<T_SPY_MESSAGE> opens = MessagesOf(ACT_MENU_OPEN);
+        ASSERT_EQ(opens.size(), 1u) << row.how;
+        EXPECT_EQ(opens[0].item_code, row.title) << row.how;
+        EXPECT_EQ(opens[0].popups_open, 0u) << row.how;
+        EXPECT_EQ(OpenPopups(), 1u) << row.how;
+        EXPECT_EQ(handler->open_title, FindMenuInHandler(handler, row.title)) << row.how;
+        Key(KEY_ESCAPE);
+        EXPECT_EQ(OpenPopups(), 0u) << row.how;
+        EXPECT_EQ(handler->open_title, nullptr) << row.how;
+    }
+}
+
+TEST_F(MenuInputTest, KeysMoveThroughOpenMenusAndPick)
+{
+    typedef struct {
+        u16 key, qualifiers;
+    } T_PRESS;
+    //  what                                          greyed        keys                                       picked
+    const struct {
+        const char *what;
+        u32 grey;
+        std::vector<T_PRESS> keys;
+        u32 picked;
+    } rows[] = {
+        {"Enter picks the first entry", 0, {{'f', QUAL_ALT}, {KEY_RETURN, 0}}, SAMPLE_OPEN},
+        {"Down passes greyed entries and separators", SAMPLE_CLOSE, {{'f', QUAL_ALT}, {KEY_DOWN, 0}, {KEY_RETURN, 0}}, SAMPLE_SAVE},
+        {"Up goes round to the last", 0, {{'f', QUAL_ALT}, {KEY_UP, 0}, {KEY_RETURN, 0}}, SAMPLE_EXIT},
+        {"a letter picks its entry", 0, {{'f', QUAL_ALT}, {'s', 0}}, SAMPLE_SAVE},
+        {"letters are case-insensitive", 0, {{'f', QUAL_ALT}, {'X', 0}}, SAMPLE_EXIT},
+        {"a greyed entry's letter picks nothing", SAMPLE_CLOSE, {{'f', QUAL_ALT}, {'c', 0}}, 0},
+        {"the first highlight passes a greyed entry", SAMPLE_OPEN, {{'f', QUAL_ALT}, {KEY_RETURN, 0}}, SAMPLE_CLOSE},
+        {"a sub-menu's letter opens it", 0, {{'f', QUAL_ALT}, {'r', 0}, {KEY_DOWN, 0}, {KEY_RETURN, 0}}, SAMPLE_TWO},
+        {"Right opens the highlighted sub-menu", 0, {{'f', QUAL_ALT}, {KEY_UP, 0}, {KEY_UP, 0}, {KEY_RIGHT, 0}, {KEY_RETURN, 0}}, SAMPLE_ONE},
+        {"Left leaves a sub-menu only", 0, {{'f', QUAL_ALT}, {'r', 0}, {KEY_LEFT, 0}, {KEY_DOWN, 0}, {KEY_RETURN, 0}}, SAMPLE_EXIT},
+        {"Right on an entry moves to the next title", 0, {{'f', QUAL_ALT}, {KEY_RIGHT, 0}, {KEY_RETURN, 0}}, SAMPLE_UNDO},
+        {"Left from the first title goes round", 0, {{'f', QUAL_ALT}, {KEY_LEFT, 0}, {KEY_RETURN, 0}}, SAMPLE_CENTRE},
+        {"Alt+E again reaches the next title with E", 0, {{'e', QUAL_ALT}, {'e', QUAL_ALT}, {KEY_RETURN, 0}}, SAMPLE_CENTRE},
+        {"Escape closes without a pick", 0, {{'f', QUAL_ALT}, {KEY_ESCAPE, 0}}, 0},
+    };
+    for (const auto &row : rows) {
+        SetAllMenuItemFlags(file, MENU_FLAG_GREY, 0);
+        if (row.grey)
+            FindMenuByItemCode(file, row.grey)->menu_flags |= MENU_FLAG_GREY;
+        spy_messages.clear();
+        for (const T_PRESS &press : row.keys)
+            Key(press.key, press.qualifiers);
+        EXPECT_EQ(Picked(), row.picked) << row.what;
+        if (row.picked) {
+            EXPECT_EQ(OpenPopups(), 0u) << row.what;
+        }
+        CloseOpenMenus();
+    }
+}
+
+TEST_F(MenuInputTest, KeysWaitWhileAMenuIsOpen)
+{
+    Key('f', QUAL_ALT);
+    spy_messages.clear();
+    Key('q');
+    Key(KEY_F1);
+    EXPECT_TRUE(MessagesOf(ACT_KEY).empty());
+    EXPECT_EQ(OpenPopups(), 1u);
+    Key(KEY_ESCAPE);
+    Key('q');
+    EXPECT_EQ(MessagesOf(ACT_KEY).size(), 1u);
+}
+
+TEST_F(MenuInputTest, ClickingAnEntryPicksIt)
+{
+    ClickTitle(SAMPLE_FILE);
+    i16 x, y;
+    EntryCentre(0, file, 3, &x, &y);  // Save
+    Click(x, y);
+    EXPECT_EQ(Picked(), (u32)SAMPLE_SAVE);
+    EXPECT_EQ(OpenPopups(), 0u);
+}
+
+TEST_F(MenuInputTest, PressDragAndReleaseFromTheTitlePicks)
+{
+    i16 tx, ty, x, y;
+    TitleCentre(handler, file, &tx, &ty);
+    Press(tx, ty);
+    EXPECT_EQ(OpenPopups(), 1u);
+    EntryCentre(0, file, 6, &x, &y);  // Exit
+    Move(x, y);
+    Release(x, y);
+    EXPECT_EQ(Picked(), (u32)SAMPLE_EXIT);
+}
+
+TEST_F(MenuInputTest, GreyingDoneOnOpenHoldsForThatOpening)
+{
+    greyed_entry = FindMenuByItemCode(file, SAMPLE_SAVE);
+    spy_on_menu_open = GreyOnOpen;
+    ClickTitle(SAMPLE_FILE);
+    i16 x, y;
+    EntryCentre(0, file, 3, &x, &y);
+    Click(x, y);
+    EXPECT_EQ(Picked(), 0u);
+    EXPECT_EQ(OpenPopups(), 1u) << "a greyed entry leaves the menu open";
+    EntryCentre(0, file, 0, &x, &y);
+    Click(x, y);
+    EXPECT_EQ(Picked(), (u32)SAMPLE_OPEN);
+}
+
+TEST_F(MenuInputTest, PressesOutsideCloseOrSwitch)
+{
+    i16 x, y;
+    ClickTitle(SAMPLE_FILE);
+    Click(700, 550);  // the desktop
+    EXPECT_EQ(OpenPopups(), 0u);
+    EXPECT_EQ(Picked(), 0u);
+
+    ClickTitle(SAMPLE_FILE);
+    Click((i16)(owner->user_x + 200), (i16)(owner->user_y + 200));  // the owner's user area
+    EXPECT_EQ(OpenPopups(), 0u);
+
+    ClickTitle(SAMPLE_FILE);
+    ClickTitle(SAMPLE_FILE);  // the open title again
+    EXPECT_EQ(OpenPopups(), 0u);
+
+    ClickTitle(SAMPLE_FILE);
+    spy_messages.clear();
+    ClickTitle(SAMPLE_EDIT);  // another title of the bar
+    EXPECT_EQ(OpenPopups(), 1u);
+    EXPECT_EQ(handler->open_title, FindMenuInHandler(handler, SAMPLE_EDIT));
+    ASSERT_EQ(MessagesOf(ACT_MENU_OPEN).size(), 1u);
+    EXPECT_EQ(MessagesOf(ACT_MENU_OPEN)[0].item_code, (u32)SAMPLE_EDIT);
+
+    TitleCentre(handler, FindMenuInHandler(handler, SAMPLE_LAYOUT), &x, &y);
+    Move(x, y);  // with a title open, the pointer alone moves along the bar
+    EXPECT_EQ(handler->open_title, FindMenuInHandler(handler, SAMPLE_LAYOUT));
+    EXPECT_EQ(Picked(), 0u);
+}
+
+TEST_F(MenuInputTest, ThePointerOpensSubMenusAndHighlights)
+{
+    ClickTitle(SAMPLE_FILE);
+    i16 x, y;
+    EntryCentre(0, file, 0, &x, &y);
+    Move(x, y);
+    EXPECT_EQ(handler->open_index, 0);
+    EntryCentre(0, file, 4, &x, &y);  // Recent
+    Move(x, y);
+    ASSERT_EQ(OpenPopups(), 2u);
+    EXPECT_EQ(handler->open_submenu, FindMenuByItemCode(file, SAMPLE_RECENT));
+    t_Menu *recent = handler->open_submenu;
+    EntryCentre(1, recent, 1, &x, &y);  // Two
+    Move(x, y);
+    EXPECT_EQ(handler->submenu_index, 1);
+    EntryCentre(0, file, 0, &x, &y);  // back on Open: the sub-menu closes
+    Move(x, y);
+    EXPECT_EQ(OpenPopups(), 1u);
+    EntryCentre(0, file, 4, &x, &y);
+    Move(x, y);
+    EntryCentre(1, recent, 1, &x, &y);
+    Click(x, y);
+    EXPECT_EQ(Picked(), (u32)SAMPLE_TWO);
+}
+
+class ContextMenuTest : public ToolkitTest {
+protected:
+    t_Menu context;
+
+    void SetUp() override
+    {
+        ToolkitTest::SetUp();
+        InitContextMenu(&context, "Multiple Modify");
+        context.menu_item_code = 0xE000;
+        t_List temporary;
+        InitList(&temporary, "temporary");
+        T_MENU_HANDLER *handler = CreateMenuHandler(&temporary);
+        T_MENUOBJECTINIT init;
+        memset(&init, 0, sizeof(init));
+        init.parent_list = &context.items;
+        init.kind = MENU_KIND_ENTRY;
+        const char *labels[] = {"Cut", "Copy", "Paste"};
+        for (u32 i = 0; i < 3; i++) {
+            init.item_code = 0xE001 + i;
+            init.shortcut = (u8)labels[i][0];
+            CreateObject(&handler->head, labels[i], &init);
+        }
+        DelHandler(&handler->head);
+    }
+
+    void TearDown() override
+    {
+        CloseOpenMenus();
+        EmptyList(&context.items, sizeof(t_Menu));
+        ToolkitTest::TearDown();
+    }
+};
+
+TEST_F(ContextMenuTest, OpeningTellsTheWindowOnlyWhenTheMenuAsks)
+{
+    //  flags                   told
+    const struct {
+        u16 flags;
+        int told;
+    } rows[] = {{MENU_FLAG_NOTIFY_OPEN, 1}, {0, 0}};
+    for (const auto &row : rows) {
+        context.menu_flags = row.flags;
+        spy_messages.clear();
+        EXPECT_NE(OpenDetachedMenu(owner, &context, 100, 100), nullptr);
+        std::vector<T_SPY_MESSAGE> opens = MessagesOf(ACT_MENU_OPEN);
+        ASSERT_EQ(opens.size(), (size_t)row.told);
+        if (row.told) {
+            EXPECT_EQ(opens[0].item_code, 0xE000u);
+            EXPECT_EQ(opens[0].popups_open, 0u);
+        }
+        EXPECT_EQ(OpenPopups(), 1u);
+        CloseOpenMenus();
+    }
+}
+
+TEST_F(ContextMenuTest, APickFromTheClassHandlerGoesToTheWindowUnderThePoint)
+{
+    T_DETACH_MENU detach;
+    memset(&detach, 0, sizeof(detach));
+    detach.menu = &context;
+    GetNewMenuDetachBoxPos(&context, &detach.box, (i16)(owner->user_x + 20), (i16)(owner->user_y + 20));
+    ASSERT_NE(CreateObject(CURRENT_DISPLAY->detached_menu_class, "WinEdit", &detach), nullptr);
+    Turn();
+    i16 x, y;
+    EntryCentre(0, &context, 1, &x, &y);
+    Click(x, y, 3);  // the right button picks as well
+    std::vector<T_SPY_MESSAGE> picks = MessagesOf(ACT_MENU_PICK);
+    ASSERT_EQ(picks.size(), 1u);
+    EXPECT_EQ(picks[0].item_code, 0xE002u);
+    EXPECT_EQ(picks[0].data, FindMenuByItemCode(&context, 0xE002));
+}
+
+TEST_F(ContextMenuTest, TheBoxStaysOnTheScreen)
+{
+    //  x    y
+    const struct {
+        i16 x, y;
+    } rows[] = {{10, 10}, {790, 20}, {20, 590}, {799, 599}};
+    for (const auto &row : rows) {
+        T_RPOS box;
+        GetNewMenuDetachBoxPos(&context, &box, row.x, row.y);
+        EXPECT_GT(box.w, 0);
+        EXPECT_EQ(box.h, MenuPanelHeight(&context));
+        EXPECT_GE(box.x, 0);
+        EXPECT_GE(box.y, 0);
+        EXPECT_LE(box.x + box.w, 800);
+        EXPECT_LE(box.y + box.h, 600);
+        if (row.x + box.w + MENU_SHADOW <= 800) {
+            EXPECT_EQ(box.x, row.x);
+        }
+    }
+}
+
+TEST_F(ContextMenuTest, AnOpenMenuIsLaidOutAgainAfterItsEntriesChange)
+{
+    t_Window *popup = OpenDetachedMenu(owner, &context, 100, 100);
+    ASSERT_NE(popup, nullptr);
+    i16 width = popup->w;
+    t_Menu *copy = FindMenuByItemCode(&context, 0xE002);
+    copy->label = AllocString("Copy with every setting of the gadget", &copy->label_string);
+    copy->menu_width = (u16)(GetStringWidth(copy->label) + 2 * GetActiveFontHeight());
+    ReDetachMenu(owner, &context);
+    EXPECT_GT(popup->w, width);
+    EXPECT_EQ(popup->w, context.detached_width + MENU_SHADOW);
+    FreeString(&copy->label_string);
+    copy->label = copy->name;
+}

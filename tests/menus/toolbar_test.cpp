@@ -1,0 +1,75 @@
+// Toolbars: their window, the active entry by click and by call, and the end of the application.
+#include "menus/menu_fixture.h"
+
+static const char *const tool_labels[] = {"Selector", "Checkbox", "Listbox", "Radio button"};
+
+class ToolBarTest : public ToolkitTest {
+protected:
+    T_TOOLBAR_HANDLER *toolbar = nullptr;
+    u64 blocks_before = 0;
+
+    void SetUp() override
+    {
+        ToolkitTest::SetUp();
+        blocks_before = _OstrandBase->blocks_allocated;
+        toolbar = NewToolBar(owner, "qftoolbar");
+        ASSERT_NE(toolbar, nullptr);
+        toolbar->window->extra_flags &= ~TOOLBAR_EXTRA_ENDING;
+        for (u32 i = 0; i < 4; i++)
+            AddToolBarIcon(toolbar, tool_labels[i], (u16)i, 0xF000 + i);
+        Turn();
+    }
+
+    void ClickButton(u32 index)
+    {
+        t_Window *w = toolbar->window;
+        Click((i16)(w->user_x + 2 + index * 30 + 15), (i16)(w->user_y + 17));
+    }
+};
+
+TEST_F(ToolBarTest, ItsWindowSitsInTheOwnerAndFitsTheButtons)
+{
+    t_Window *w = toolbar->window;
+    EXPECT_EQ(w->parent, owner);
+    EXPECT_EQ(w->user_data, toolbar);
+    EXPECT_EQ(toolbar->owner, owner);
+    EXPECT_EQ(w->x, owner->user_x + 4);
+    EXPECT_EQ(w->y, owner->user_y + 4);
+    EXPECT_EQ(w->user_w, 4 * 30 + 4);
+    EXPECT_EQ(w->user_h, 30 + 4);
+    EXPECT_EQ(CURRENT_DISPLAY->window_class->current_window, owner) << "the toolbar never takes the focus";
+    EXPECT_STREQ(((T_TOOLBAR_ENTRY *)FindNodeByIndex(&toolbar->entries, 3))->name, "Radio button");
+}
+
+TEST_F(ToolBarTest, TheActiveEntryFollowsClicksAndCalls)
+{
+    EXPECT_EQ(GetActiveToolBarEntry(toolbar), 0);
+    //  clicked  active after
+    const struct {
+        u32 button;
+        u16 active;
+    } clicks[] = {{2, 2}, {3, 3}, {0, 0}, {1, 1}};
+    for (const auto &row : clicks) {
+        ClickButton(row.button);
+        EXPECT_EQ(GetActiveToolBarEntry(toolbar), row.active) << row.button;
+    }
+    EXPECT_TRUE(MessagesOf(ACT_MENU_PICK).empty()) << "a click sends nothing";
+    EXPECT_EQ(CURRENT_DISPLAY->window_class->current_window, owner) << "the keys stay with the owner";
+    SetActiveToolBarEntry(toolbar, 2);
+    EXPECT_EQ(GetActiveToolBarEntry(toolbar), 2);
+    SetActiveToolBarEntry(toolbar, 4);  // past the last
+    EXPECT_EQ(GetActiveToolBarEntry(toolbar), 2);
+}
+
+TEST_F(ToolBarTest, ItEndsOnlyWhenTheOwnerHasSetTheEndingBit)
+{
+    t_Window *w = toolbar->window;
+    SendWindowMessage(w, 0, ACT_TERMINATE, NULL);
+    EXPECT_TRUE(IsWindowLive(w));
+    w->extra_flags |= TOOLBAR_EXTRA_ENDING;
+    SendWindowMessage(w, 0, ACT_TERMINATE, NULL);
+    EXPECT_FALSE(IsWindowLive(w));
+    Turn();
+    EXPECT_EQ(FindWindowByName(owner, "qftoolbar"), nullptr);
+    EXPECT_EQ(_OstrandBase->blocks_allocated, blocks_before) << "the toolbar's records went with its window";
+}

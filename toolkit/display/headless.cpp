@@ -1,0 +1,137 @@
+// The headless display: a framebuffer in memory, a queue of synthetic input and a virtual clock.
+// Nothing here depends on the machine or the time of day, so a test's run is the same every time.
+#include <deque>
+
+#include "display.h"
+#include "ostrand.h"
+
+static struct {
+    u32 *pixels;
+    i32 width, height;
+    std::deque<T_INPUT_EVENT> queue;
+    u32 time_ms;
+    u16 qualifiers;  // of the last key or mouse event pushed
+    u16 cursor;
+    int mouse_limited;
+    T_RPOS mouse_rect;
+    i16 warp_x, warp_y;
+} headless;
+
+// A framebuffer of width by height, cleared; false (and no framebuffer) when there is no memory.
+static int MakeFramebuffer(i32 width, i32 height) {
+    FreeMem(headless.pixels, (u32)headless.width * headless.height * 4);
+    headless.pixels = nullptr;
+    headless.width = headless.height = 0;
+    if (width <= 0 || height <= 0) return 0;
+    headless.pixels = (u32 *)AllocMemC((u32)width * height * 4);
+    if (!headless.pixels) return 0;
+    headless.width = width;
+    headless.height = height;
+    return 1;
+}
+
+static int HeadlessOpen(i16 width, i16 height, const char *) {
+    headless.queue.clear();
+    headless.time_ms = 0;
+    headless.qualifiers = 0;
+    headless.cursor = 0;
+    headless.mouse_limited = 0;
+    headless.warp_x = headless.warp_y = 0;
+    if (!MakeFramebuffer(width, height)) {
+        myprintf(0, "The headless display can't open a screen of %d by %d\n", width, height);
+        return 0;
+    }
+    return 1;
+}
+
+static void HeadlessClose(void) {
+    MakeFramebuffer(0, 0);
+    headless.queue.clear();
+}
+
+static u32 *HeadlessPixels(i32 *width, i32 *height, i32 *pitch) {
+    *width = headless.width;
+    *height = headless.height;
+    *pitch = headless.width;
+    return headless.pixels;
+}
+
+// A resize takes effect when it is taken from the queue, as a window's would.
+static int HeadlessPoll(T_INPUT_EVENT *event) {
+    if (headless.queue.empty()) return 0;
+    *event = headless.queue.front();
+    headless.queue.pop_front();
+    if (event->kind == INPUT_RESIZE && !MakeFramebuffer(event->x, event->y))
+        myprintf(0, "The headless display can't resize to %d by %d\n", event->x, event->y);
+    return 1;
+}
+
+static void HeadlessPresent(void) {
+}
+
+static u32 HeadlessTicks(void) {
+    return headless.time_ms;
+}
+
+static void HeadlessWait(u32 ms) {
+    headless.time_ms += ms;
+}
+
+static void HeadlessSetCursor(u16 image) {
+    headless.cursor = image;
+}
+
+static void HeadlessSetMouseRect(const T_RPOS *rect) {
+    headless.mouse_limited = rect != nullptr;
+    if (rect) headless.mouse_rect = *rect;
+}
+
+static void HeadlessWarpMouse(i16 x, i16 y) {
+    headless.warp_x = x;
+    headless.warp_y = y;
+}
+
+static u16 HeadlessQualifiers(void) {
+    return headless.qualifiers;
+}
+
+const T_DISPLAY_BACKEND display_headless = {
+    "headless",        HeadlessOpen,      HeadlessClose,        HeadlessPixels,
+    HeadlessPoll,      HeadlessPresent,   HeadlessTicks,        HeadlessWait,
+    HeadlessSetCursor, HeadlessSetMouseRect, HeadlessWarpMouse, HeadlessQualifiers,
+};
+
+void HeadlessPush(const T_INPUT_EVENT *event) {
+    switch (event->kind) {
+    case INPUT_MOUSE_MOVE:
+    case INPUT_MOUSE_DOWN:
+    case INPUT_MOUSE_UP:
+    case INPUT_WHEEL:
+    case INPUT_KEY_DOWN:  // these carry the qualifiers held
+        headless.qualifiers = event->qualifiers;
+        break;
+    }
+    headless.queue.push_back(*event);
+}
+
+u32 HeadlessPending(void) {
+    return (u32)headless.queue.size();
+}
+
+void HeadlessAdvance(u32 ms) {
+    headless.time_ms += ms;
+}
+
+u16 HeadlessCursor(void) {
+    return headless.cursor;
+}
+
+int HeadlessMouseRect(T_RPOS *rect) {
+    if (headless.mouse_limited && rect) *rect = headless.mouse_rect;
+    return headless.mouse_limited;
+}
+
+void HeadlessWarpXY(i16 *x, i16 *y) {
+    *x = headless.warp_x;
+    *y = headless.warp_y;
+}

@@ -1,0 +1,179 @@
+// What the parts of Lumora call of each other and no user of the toolkit sees.
+#pragma once
+#include "toolkit.h"
+#include "display/display.h"
+
+// Menus (menu*.cpp): what CreateObject and RemoveObject do with a menu handler, the menu bar's
+// height, and the painting and input of open menus.
+t_Menu *CreateMenuObject(T_MENU_HANDLER *handler, const char *name, T_MENUOBJECTINIT *init);
+void RemoveMenuObject(T_MENU_HANDLER *handler, t_Menu *menu);
+i16 MenuBarHeight(t_Window *window);  // 0 when the window has no menu bar
+
+// Icons (icons.cpp): the display's standard icon bank; icon 16 is the Save icon.
+T_TEXTURE_BANK *MakeStandardIconBank(void);
+
+// Windows (window.cpp): creation from an init record, used by CreateObject; a popup for menus.
+t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init);
+// A popup (an open menu): a top-level window without frame at x, y, w, h, with WEX_POPUP set,
+// drawn above everything and hit first. It doesn't take the input focus; keys still reach its
+// handlers first. Remove it with RemoveWindow. Null only when memory runs out.
+t_Window *CreatePopupWindow(i16 x, i16 y, i16 w, i16 h, T_MESSAGE_FN message);
+
+// Paints the whole screen and presents it without taking input (progress bars use it).
+void RepaintScreen(void);
+
+// List entries of list boxes, drop boxes and trees (the gadget types' step): what CreateObject
+// makes on a gadget handler when the init record names a parent gadget.
+void *CreateListEntry(t_Gaget_Handler *handler, const char *name, T_GADGETOBJECTINIT *init);
+
+// --- The toolkit's private state -----------------------------------------------------------------
+
+// A window as the toolkit allocates it: the public record first, then what only the toolkit reads.
+typedef struct T_WINDOW_PRIVATE {
+    t_Window window;
+    char *own_name;        // the toolkit's copy of the creation name (the owner may repoint name)
+    u32 own_name_size;
+    u32 message_mask;      // the IDCMP_ mask given at creation; `idcmp` is the owner's to change
+    t_Window *focus_before;  // the focus window when this one was made: it gets the focus back
+} T_WINDOW_PRIVATE;
+
+#define WINDOW_PRIVATE(w) ((T_WINDOW_PRIVATE *)(w))
+
+// Who took the press in progress: every move and the release go there.
+typedef struct T_CAPTURE {
+    t_Window *window;    // null: nobody
+    t_Handler *handler;  // a frame, menu or owner's handler
+    t_gadget *gadget;    // or a gadget
+} T_CAPTURE;
+
+typedef struct T_LUMORA_STATE {
+    t_List class_handlers;  // the window class and detached-menu class handlers
+    t_List removed;         // removed windows, freed when no turn is on the stack
+    t_List posted;          // T_POSTED_MESSAGE, delivered in the next turn
+    t_List bitmaps;         // RESOURCE_TYPE_BITMAP resources of window backgrounds
+    i16 mouse_x, mouse_y;   // the pointer, absolute
+    u16 buttons;            // 1 left, 2 right: held now
+    u16 qualifiers;         // QUAL_ bits of the input event in hand
+    T_CAPTURE capture;
+    u16 broken_buttons;     // buttons whose press was broken off: their release is swallowed
+    u32 last_press_ms;      // for double clicks
+    i16 last_press_x, last_press_y;
+    t_Window *last_press_window;
+    t_Window *press_window;  // the window under the press in progress
+    u16 mouse_image;
+    u16 mouse_image_locked;
+    u16 border_image_shown;  // the frame or a gadget set the image on a hover
+    T_RPOS mouse_limits;
+    u16 mouse_limited;
+    u32 last_move_ms;        // when the pointer last moved: hover texts wait for rest
+    T_TEXTURE_BANK *own_icon_bank;  // made by the toolkit: freed at close
+    T_DISPLAY_RECORD record;
+    T_SURFACE screen;
+} T_LUMORA_STATE;
+
+extern T_LUMORA_STATE lumora_state;
+
+typedef struct T_POSTED_MESSAGE {
+    T_NODE_FIELDS(struct T_POSTED_MESSAGE);
+    t_Window *window;
+    u32 item_code, msg;
+    void *data;
+} T_POSTED_MESSAGE;
+
+// Handlers (handlers.cpp). Calls go through a snapshot of the list, each handler checked to be
+// still on it before its call, so a handler may delete handlers or windows while it runs.
+#define HANDLERS_MAX 64
+u32 SnapshotHandlers(t_Window *window, t_Handler **out, u32 max);
+int HandlerIsOn(t_Window *window, t_Handler *handler);
+void ForgetHandler(t_Handler *handler);  // drops every reference the toolkit holds to it
+
+// Windows (window.cpp).
+t_Window *FocusWindow(void);
+void FreeRemovedWindows(void);            // at the end of the outermost turn
+void FreeWindowNow(t_Window *window);      // handlers, gadgets, children, the block
+void SetWindowFrame(t_Window *window, i16 x, i16 y, i16 w, i16 h);  // children follow a move
+void FreeAllWindows(void);
+int IsPopup(t_Window *window);
+void BreakPress(void);  // event 33 to the window holding the press, and the capture ends
+// Delivers a toolkit message to the message function when the creation mask enables it
+// (ACT_MENU_PICK and mouse bits always pass). Removed windows get nothing. Returns its result.
+u32 DeliverMessage(t_Window *window, u32 item_code, u32 msg, void *data);
+u32 MessageMask(t_Window *window);
+void ReleaseBitmap(T_RESOURCE *bitmap);
+
+// The frame (frame.cpp).
+T_RPOS TitleRect(t_Window *window);      // the title bar, absolute; w 0 without one
+u16 BorderHandleAt(t_Window *window, i16 x, i16 y);  // 1..8 on a resizable border, else 0
+int MinimisedButtonRect(t_Window *window, T_RPOS *rect);  // false unless minimised
+void MinimiseWindow(t_Window *window);
+void RestoreMinimised(t_Window *window);
+void ToggleMaximise(t_Window *window);
+void CloseByFrame(t_Window *window);  // the close gadget and Alt+F4
+t_Handler *FindHandlerOfKind(t_Window *window, u32 kind);
+void PaintFrame(t_Window *window);
+void PaintMinimisedButton(t_Window *window);
+
+// Routing (routing.cpp).
+void RouteInput(T_INPUT_EVENT *event);
+t_Window *WindowAtPoint(i16 x, i16 y, t_Window **minimised);
+
+// Painting (paint.cpp).
+void PaintScreen(void);
+int RectIntersect(T_RPOS *a, const T_RPOS *b);  // a becomes a ∩ b; false when empty
+
+// Gadgets (gadget_handler.cpp, gadget_classes.cpp).
+typedef void (*T_GADGET_DRAW_FN)(t_gadget *gadget, int focused);
+// Behaviour: the event against the gadget's rectangle changes its state and returns the mouse bit
+// to report (0: nothing to report).
+typedef u32 (*T_GADGET_MOUSE_FN)(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+// A key given to the gadget: 0 not taken, else GADGET_KEY_TAKEN or'ed with a mouse bit to report.
+typedef u32 (*T_GADGET_KEY_FN)(t_gadget *gadget, u16 key, u16 qualifiers);
+typedef void (*T_GADGET_FREE_FN)(t_gadget *gadget);
+#define GADGET_KEY_TAKEN 0x10000
+
+typedef struct T_GADGET_CLASS {
+    u16 type;
+    const char *name;
+    T_GADGET_DRAW_FN draw;
+    T_GADGET_MOUSE_FN mouse;
+    T_GADGET_KEY_FN key;
+    T_GADGET_FREE_FN free;  // the class's own belongings (entries), or null
+} T_GADGET_CLASS;
+
+const T_GADGET_CLASS *GadgetClass(u16 type);
+T_RPOS GadgetRect(t_gadget *gadget);  // screen_x, screen_y, base_width, base_height
+int TextBearingType(u16 type);
+void PaintGadgets(t_Window *window);
+void FreeGadgetsOf(t_Gaget_Handler *handler);
+// One mouse event for a gadget, as the routing gives it: its action_fn or its type's behaviour.
+void GadgetMouseEvent(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg);
+// A key for the window's current gadget; true when taken.
+int GadgetKeyEvent(t_Window *window, t_gadget *gadget, u16 key, u16 qualifiers);
+int DialogWindow(t_Window *window);  // no gadget with an action_fn: Tab walks, focus frame shows
+void GadgetTextFont(t_gadget *gadget);  // active font and style of the gadget's text
+void GadgetTextFontEnd(void);
+#define GSTATE_MARKED_BEFORE 0x100  // gadget_state: marked when the rubber band began
+
+// Gadget look (gadget_button.cpp): shared by the types' drawing functions.
+void DrawGadgetBevel(T_RPOS r, int pressed);
+void DrawGadgetFocus(t_gadget *gadget);
+u32 GadgetTextColour(t_gadget *gadget);
+void DrawGenericGadget(t_gadget *gadget, int focused);
+u32 GenericGadgetMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+void DrawButtonGadget(t_gadget *gadget, int focused);
+u32 ButtonMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+u32 ButtonKey(t_gadget *gadget, u16 key, u16 qualifiers);
+void DrawTextGadget(t_gadget *gadget, int focused);
+void DrawCheckBoxGadget(t_gadget *gadget, int focused);
+u32 CheckBoxMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+u32 CheckBoxKey(t_gadget *gadget, u16 key, u16 qualifiers);
+i16 CheckBoxSize(void);  // the side of the box, from the system font
+
+// Message boxes (msgbox.cpp): its glyphs.
+void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind);  // kind: 1 error, 2 information, 3 question
+void ScreenResized(void);  // toolkit.cpp: the framebuffer and the display's size follow the screen
+void PaintWindowBitmap(t_Window *window);  // window_bitmap.cpp
+void CallMouseMoveHooks(void);  // loop.cpp: after a mouse move
+void SetPointer(i16 x, i16 y);          // mouse.cpp: the toolkit's pointer, clamped to the limits
+void ClampToLimits(i16 *x, i16 *y);
+void TabToNextGadget(t_Window *window, int backwards);  // gadget_handler.cpp: Tab in a dialog

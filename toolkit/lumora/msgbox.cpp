@@ -1,0 +1,267 @@
+// Message boxes: a child window with a glyph, the wrapped text and its buttons, which answers
+// its parent with ACT_REQUESTER_OK, _ABORT or _CANCEL and the item code it was given (through
+// the parent's message mask), then goes. Enter answers with the focused button (the first at
+// the start), Escape and the close gadget with Cancel, or OK when there is no Cancel.
+#include <string.h>
+
+#include "lumora/lumora_internal.h"
+
+#define MSGBOX_WRAP 60        // characters on a line before the text wraps at a space
+#define MSGBOX_MAX_LINES 40
+#define MSGBOX_PAD 12
+#define MSGBOX_GLYPH 32
+#define MSGBOX_BUTTON_MIN_W 72
+#define MSGBOX_BUTTON_GAP 8
+#define MSGBOX_FLAGS \
+    (WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_IN_FRONT | WF_DEPENDANT)
+
+typedef struct T_MSGBOX_BUTTON {
+    const char *label;
+    u32 answer;
+} T_MSGBOX_BUTTON;
+
+static const T_MSGBOX_BUTTON ok_buttons[] = {{"OK", ACT_REQUESTER_OK}};
+static const T_MSGBOX_BUTTON question_buttons[] = {
+    {"Yes", ACT_REQUESTER_OK},
+    {"No", ACT_REQUESTER_ABORT},
+    {"Cancel", ACT_REQUESTER_CANCEL},
+};
+
+enum { GLYPH_NONE, GLYPH_ERROR, GLYPH_INFO, GLYPH_QUESTION };
+
+typedef struct T_MSGBOX {
+    t_Handler head;
+    t_Window *parent;
+    u32 item_code;
+    const T_MSGBOX_BUTTON *buttons;
+    u32 button_count;
+    u16 glyph;
+    T_TEXTURE_BANK *icon_bank;  // SetMessageBoxIcon's icon, shown instead of the glyph
+    u16 icon;
+    char *text;  // own copy, cut into lines
+    u32 text_size;
+    u16 line_start[MSGBOX_MAX_LINES], line_length[MSGBOX_MAX_LINES];
+    u16 lines;
+} T_MSGBOX;
+
+// Cuts the text into lines at '\n' and, past MSGBOX_WRAP characters, at the last space.
+static void WrapText(T_MSGBOX *box) {
+    const char *t = box->text;
+    u32 at = 0, length = (u32)strlen(t);
+    while (at <= length && box->lines < MSGBOX_MAX_LINES) {
+        u32 end = at;
+        while (end < length && t[end] != '\n') end++;
+        u32 n = end - at, skip = 1;
+        if (n > MSGBOX_WRAP) {
+            n = MSGBOX_WRAP, skip = 0;
+            for (u32 i = MSGBOX_WRAP; i > MSGBOX_WRAP / 2; i--)
+                if (t[at + i] == ' ') {
+                    n = i, skip = 1;
+                    break;
+                }
+        }
+        box->line_start[box->lines] = (u16)at, box->line_length[box->lines] = (u16)n;
+        box->lines++;
+        at += n + skip;
+        if (at > length) break;
+    }
+}
+
+static T_MSGBOX *BoxOf(t_Window *window) { return (T_MSGBOX *)window->user_data; }
+
+static void Answer(t_Window *window, u32 answer) {
+    T_MSGBOX *box = BoxOf(window);
+    if (!box || !IsWindowLive(window)) return;
+    t_Window *parent = box->parent;
+    u32 item_code = box->item_code;
+    RemoveWindow(window);
+    if (IsWindowLive(parent)) DeliverMessage(parent, item_code, answer, NULL);
+}
+
+static u32 EscapeAnswer(T_MSGBOX *box) {
+    for (u32 i = 0; i < box->button_count; i++)
+        if (box->buttons[i].answer == ACT_REQUESTER_CANCEL) return ACT_REQUESTER_CANCEL;
+    return ACT_REQUESTER_OK;
+}
+
+static u32 MsgBoxMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+    (void)data;
+    T_MSGBOX *box = BoxOf(window);
+    switch (msg) {
+    case ACT_LMOUSE_UP:  // a button: item codes count the buttons from 1
+        if (item_code >= 1 && item_code <= box->button_count)
+            Answer(window, box->buttons[item_code - 1].answer);
+        return 0;
+    case ACT_TERMINATE:  // the close gadget
+        Answer(window, EscapeAnswer(box));
+        return 0;
+    default:
+        return 0;
+    }
+}
+
+static u32 MsgBoxInput(t_Handler *handler, u32 event, void *data) {
+    T_MSGBOX *box = (T_MSGBOX *)handler;
+    t_Window *window = handler->window;
+    switch (event) {
+    case HANDLER_EVENT_KEY: {
+        u16 key = ((T_KEY_MSG *)data)->key_code;
+        if (key == KEY_ESCAPE) {
+            Answer(window, EscapeAnswer(box));
+            return 1;
+        }
+        if (key == KEY_RETURN) {
+            t_gadget *g = GetCurrentGadget(window);
+            u32 i = (g && g->live_item_code >= 1 && g->live_item_code <= box->button_count)
+                        ? g->live_item_code - 1 : 0;
+            Answer(window, box->buttons[i].answer);
+            return 1;
+        }
+        return 0;
+    }
+    case HANDLER_EVENT_END:
+        FreeMem(box->text, box->text_size);
+        box->text = NULL;
+        return 0;
+    default:
+        return 0;
+    }
+}
+
+// A filled circle of `size` pixels with a mark in it: a cross (error), "i" or "?".
+void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind) {
+    static const u32 circle_colours[] = {0, 0x2828D0, 0xC07828, 0xC07828};
+    i32 r = size / 2, cx = x + r, cy = y + r;
+    for (i32 dy = -r; dy < r; dy++) {
+        i32 dx = 0;
+        while ((dx + 1) * (dx + 1) + (dy + 1) * (dy + 1) <= r * r) dx++;
+        DrawRectangle((i16)(cx - dx), (i16)(cy + dy), (i16)(2 * dx), 1, circle_colours[kind]);
+    }
+    u32 white = 0xFFFFFF;
+    i16 q = size / 4;
+    switch (kind) {
+    case GLYPH_ERROR:
+        for (i16 d = -1; d <= 1; d++) {
+            DrawLine(cx - q + d, cy - q, cx + q + d, cy + q, white);
+            DrawLine(cx - q + d, cy + q, cx + q + d, cy - q, white);
+        }
+        break;
+    case GLYPH_INFO:
+        DrawRectangle(cx - 2, cy - q - 3, 4, 4, white);
+        DrawRectangle(cx - 2, cy - q + 3, 4, 2 * q, white);
+        break;
+    case GLYPH_QUESTION:
+        DrawRectangle(cx - q, cy - q - 2, 2 * q, 3, white);
+        DrawRectangle(cx + q - 3, cy - q - 2, 3, q, white);
+        DrawRectangle(cx - 1, cy - 2, q, 3, white);
+        DrawRectangle(cx - 1, cy - 2, 3, q / 2 + 3, white);
+        DrawRectangle(cx - 1, cy + q - 1, 3, 3, white);
+        break;
+    }
+}
+
+static void MsgBoxPaint(t_Handler *handler) {
+    T_MSGBOX *box = (T_MSGBOX *)handler;
+    t_Window *w = handler->window;
+    i16 x = w->user_x + MSGBOX_PAD, y = w->user_y + MSGBOX_PAD;
+    if (box->icon_bank) {
+        DrawIconScaled(box->icon_bank, box->icon, x, y, MSGBOX_GLYPH, MSGBOX_GLYPH);
+        x += MSGBOX_GLYPH + MSGBOX_PAD;
+    } else if (box->glyph != GLYPH_NONE) {
+        DrawInfoGlyph(x, y, MSGBOX_GLYPH, box->glyph);
+        x += MSGBOX_GLYPH + MSGBOX_PAD;
+    }
+    SetActiveFont(NULL);
+    SetFontStyle(0);
+    i16 fh = (i16)GetActiveFontHeight();
+    for (u16 i = 0; i < box->lines; i++)
+        DrawTextN(x, y + i * fh, box->text + box->line_start[i], box->line_length[i],
+                  DISPLAY_RECORD->gadget_text_colour);
+}
+
+t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 style,
+                    u32 item_code) {
+    if (parent && !IsWindowLive(parent)) parent = NULL;
+    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
+    int question = (style & 0x0F) == 3;
+    const T_MSGBOX_BUTTON *buttons = question ? question_buttons : ok_buttons;
+    u32 count = question ? 3 : 1;
+    u16 glyph = (style & 16) ? GLYPH_ERROR : (style & 64) ? GLYPH_INFO : (style & 32) ? GLYPH_QUESTION
+                                                                                    : GLYPH_NONE;
+    // Measure: the text's lines, the buttons' row, the glyph.
+    T_MSGBOX measure = {};
+    measure.text_size = (u32)strlen(text ? text : "") + 1;
+    measure.text = (char *)AllocMemC(measure.text_size);
+    memcpy(measure.text, text ? text : "", measure.text_size);
+    WrapText(&measure);
+    SetActiveFont(NULL);
+    SetFontStyle(0);
+    i16 fh = (i16)GetActiveFontHeight();
+    i16 text_w = 0;
+    for (u16 i = 0; i < measure.lines; i++) {
+        i16 lw = (i16)GetStringWidthN(measure.text + measure.line_start[i], measure.line_length[i]);
+        if (lw > text_w) text_w = lw;
+    }
+    i16 button_w = MSGBOX_BUTTON_MIN_W, button_h = fh + 10;
+    for (u32 i = 0; i < count; i++) {
+        i16 bw = (i16)GetStringWidth(buttons[i].label) + 24;
+        if (bw > button_w) button_w = bw;
+    }
+    i16 row_w = (i16)(count * button_w + (count - 1) * MSGBOX_BUTTON_GAP);
+    i16 glyph_w = glyph != GLYPH_NONE ? MSGBOX_GLYPH + MSGBOX_PAD : 0;
+    i16 user_w = MSGBOX_PAD + glyph_w + text_w + MSGBOX_PAD;
+    if (user_w < row_w + 2 * MSGBOX_PAD) user_w = row_w + 2 * MSGBOX_PAD;
+    i16 body_h = measure.lines * fh;
+    if (glyph != GLYPH_NONE && body_h < MSGBOX_GLYPH) body_h = MSGBOX_GLYPH;
+    i16 user_h = MSGBOX_PAD + body_h + MSGBOX_PAD + button_h + MSGBOX_PAD;
+    i16 frame_w = user_w + 2 * rec->border_size, frame_h = user_h + 2 * rec->border_size + rec->title_height;
+
+    T_WINDOWOBJINIT init = {};
+    init.w = frame_w, init.h = frame_h;
+    if (parent) {  // centred on the parent's frame; the init place counts from its user area
+        init.x = parent->x + (parent->w - frame_w) / 2 - parent->user_x;
+        init.y = parent->y + (parent->h - frame_h) / 2 - parent->user_y;
+    } else {
+        init.x = (CURRENT_DISPLAY->width - frame_w) / 2;
+        init.y = (CURRENT_DISPLAY->height - frame_h) / 2;
+    }
+    init.flags = MSGBOX_FLAGS | (parent ? WF_CHILD : 0);
+    init.idcmp = IDCMP_TERMINATE;
+    init.message = MsgBoxMessage;
+    init.parent = parent;
+    t_Window *window = CreateWindowObject(title ? title : "", &init);
+    if (!window) {
+        FreeMem(measure.text, measure.text_size);
+        return NULL;
+    }
+    window->UserAreaColour = rec->dialog_colour;
+    T_MSGBOX *box = (T_MSGBOX *)NewHandler(&window->handlers, MsgBoxInput, MsgBoxPaint, "msgbox", 0,
+                                           sizeof(T_MSGBOX), window);
+    t_Handler head = box->head;
+    *box = measure;
+    box->head = head;
+    box->parent = parent, box->item_code = item_code;
+    box->buttons = buttons, box->button_count = count, box->glyph = glyph;
+    window->user_data = box;
+
+    t_Gaget_Handler *gh = NewGadgetHandler(window);
+    T_GADGETOBJECTINIT gi = {};
+    gi.type = GADGET_TYPE_BUTTON;
+    gi.base_width = button_w, gi.base_height = button_h;
+    gi.action = ACT_LMOUSE_UP;
+    gi.y = user_h - MSGBOX_PAD - button_h;
+    for (u32 i = 0; i < count; i++) {
+        gi.x = (user_w - row_w) / 2 + (i16)(i * (button_w + MSGBOX_BUTTON_GAP));
+        gi.item_code = i + 1;
+        CreateObject(&gh->head, buttons[i].label, &gi);
+    }
+    gh->current_gadget = gh->first_gadget;
+    return window;
+}
+
+void SetMessageBoxIcon(t_Window *box, T_TEXTURE_BANK *bank, u16 icon) {
+    if (!box || !box->user_data) return;
+    T_MSGBOX *m = BoxOf(box);
+    m->icon_bank = bank;
+    m->icon = icon;
+}

@@ -1,0 +1,121 @@
+// Repainting the screen: the desktop, the windows back to front (frame, user area, gadgets,
+// handlers' paint, children), minimised windows' buttons, popups, and the hover text on top.
+#include "lumora/lumora_internal.h"
+
+#define HOVER_DELAY_MS 600  // the pointer rests this long before a hover text shows
+#define HOVER_OFFSET_X 12
+#define HOVER_OFFSET_Y 20
+#define HOVER_PADDING 4
+
+int RectIntersect(T_RPOS *a, const T_RPOS *b) {
+    i32 x1 = a->x > b->x ? a->x : b->x, y1 = a->y > b->y ? a->y : b->y;
+    i32 ax2 = a->x + a->w, bx2 = b->x + b->w, ay2 = a->y + a->h, by2 = b->y + b->h;
+    i32 x2 = ax2 < bx2 ? ax2 : bx2, y2 = ay2 < by2 ? ay2 : by2;
+    a->x = (i16)x1, a->y = (i16)y1;
+    if (x2 <= x1 || y2 <= y1) {
+        a->w = a->h = 0;
+        return 0;
+    }
+    a->w = (i16)(x2 - x1), a->h = (i16)(y2 - y1);
+    return 1;
+}
+
+static void Clip(const T_RPOS &r) { ClipInsideWindow(r.x, r.y, r.x + r.w, r.y + r.h); }
+
+static void PaintWindow(t_Window *w, T_RPOS clip) {
+    if (!IsWindowLive(w) || w->state != WINDOW_STATE_OPEN) return;
+    T_RPOS frame = {w->x, w->y, w->w, w->h};
+    T_RPOS user = {w->user_x, w->user_y, w->user_w, w->user_h};
+    int frame_visible = RectIntersect(&frame, &clip);
+    int user_visible = RectIntersect(&user, &clip);
+    if (frame_visible) {
+        Clip(frame);
+        PaintFrame(w);
+    }
+    if (user_visible) {
+        Clip(user);
+        if (!(w->flags & WF_NO_BACK)) {
+            DrawRectangle(user.x, user.y, user.w, user.h, w->UserAreaColour);
+            if (w->bitmap) PaintWindowBitmap(w);
+        }
+        PaintGadgets(w);
+    }
+    if (frame_visible) {  // the owner's handlers, the menu bar's above the user area
+        t_Handler *list[HANDLERS_MAX];
+        u32 n = SnapshotHandlers(w, list, HANDLERS_MAX);
+        for (u32 i = 0; i < n; i++) {
+            t_Handler *h = list[i];
+            if (h->kind == HANDLER_KIND_BORDER || h->kind == HANDLER_KIND_TITLEBAR || !h->paint)
+                continue;
+            if (!HandlerIsOn(w, h)) continue;
+            if (h->kind == HANDLER_KIND_MENU)
+                Clip(frame);
+            else if (user_visible)
+                Clip(user);
+            else
+                continue;
+            h->paint(h);
+        }
+    }
+    for (t_Node *c = w->children.first; c->next; c = c->next) {
+        t_Window *child = (t_Window *)c;
+        if (IsPopup(child)) continue;
+        PaintWindow(child, (child->flags & WF_CLIP_PARENT) ? user : clip);
+    }
+    if (user_visible)
+        for (t_Node *c = w->children.first; c->next; c = c->next) {
+            Clip(user);
+            PaintMinimisedButton((t_Window *)c);
+        }
+}
+
+static void PaintHoverText(void) {
+    T_LUMORA_STATE *st = &lumora_state;
+    if (st->buttons || st->capture.window) return;
+    if (_LumoraBase->time_ms - st->last_move_ms < HOVER_DELAY_MS) return;
+    i16 mx = st->mouse_x, my = st->mouse_y;
+    t_Window *w = WindowAtPoint(mx, my, NULL);
+    if (!w) return;
+    const char *text = NULL;
+    t_gadget *g = GadgetAtPoint(w, mx, my);
+    T_RPOS title = TitleRect(w);
+    if (g && g->hover_text && g->hover_text[0])
+        text = g->hover_text;
+    else if (!g && w->hover_title && PointBoxColl(mx, my, &title))
+        text = w->hover_title;
+    if (!text) return;
+    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
+    T_DISPLAY *d = CURRENT_DISPLAY;
+    ClipAll();
+    SetActiveFont(NULL);
+    SetFontStyle(0);
+    i16 tw = (i16)GetStringWidth(text) + 2 * HOVER_PADDING;
+    i16 th = (i16)GetActiveFontHeight() + HOVER_PADDING;
+    i16 x = mx + HOVER_OFFSET_X, y = my + HOVER_OFFSET_Y;
+    if (x + tw > d->width) x = d->width - tw;
+    if (y + th > d->height) y = my - th - HOVER_PADDING;
+    if (x < 0) x = 0;
+    if (y < 0) y = 0;
+    DrawRectangle(x, y, tw, th, rec->hover_back_colour);
+    DrawOutLineBox(x, y, tw, th, rec->gadget_dark_colour);
+    DrawText(x + HOVER_PADDING, y + HOVER_PADDING / 2, text, rec->gadget_text_colour);
+}
+
+void PaintScreen(void) {
+    T_DISPLAY *d = CURRENT_DISPLAY;
+    T_RPOS screen = {0, 0, d->width, d->height};
+    ClipAll();
+    DrawRectangle(0, 0, d->width, d->height, d->record->desktop_colour);
+    t_List *top = &d->window_class->windows;
+    for (t_Node *n = top->first; n->next; n = n->next)
+        if (!IsPopup((t_Window *)n)) PaintWindow((t_Window *)n, screen);
+    for (t_Node *n = top->first; n->next; n = n->next) {
+        ClipAll();
+        PaintMinimisedButton((t_Window *)n);
+    }
+    for (t_Node *n = top->first; n->next; n = n->next)
+        if (IsPopup((t_Window *)n)) PaintWindow((t_Window *)n, screen);
+    PaintHoverText();
+    ClipAll();
+    SetFontStyle(0);
+}

@@ -1,0 +1,91 @@
+// Applications: the base record of Marshalry, application records and the helpers its stores share.
+#include <stdio.h>
+#include <string.h>
+
+#include "marshalry/marshalry_internal.h"
+#include "ostrand/ostrand_internal.h"
+
+static T_MARSHALRY_BASE marshalry_base;
+
+// The lists point into the record itself, so they are set up when the library loads.
+static T_MARSHALRY_BASE *InitMarshalryBase(void) {
+    InitList(&marshalry_base.resources, "resources");
+    InitList(&marshalry_base.applications, "applications");
+    InitList(&marshalry_base.tool_objects, "tool objects");
+    return &marshalry_base;
+}
+
+T_MARSHALRY_BASE *_MarshalryBase = InitMarshalryBase();
+
+T_APPLICATION *NewApplication(const char *name) {
+    T_APPLICATION *app = (T_APPLICATION *)NewNamedNode(sizeof(T_APPLICATION), name ? name : "");
+    if (!app)
+        return NULL;
+    InitList(&app->commands, "commands");
+    InitList(&app->recent_types, "recent types");
+    AddTail(&_MarshalryBase->applications, (t_Node *)app);
+    return app;
+}
+
+void FreeApplication(T_APPLICATION *app) {
+    if (!app)
+        return;
+    ForgetKeyStore(app);
+    EmptyList(&app->commands, sizeof(T_APP_COMMAND));
+    for (T_RECENT_TYPE *type = (T_RECENT_TYPE *)app->recent_types.first; type->next;
+         type = type->next)
+        EmptyList(&type->files, sizeof(T_RECENT_FILE));
+    EmptyList(&app->recent_types, sizeof(T_RECENT_TYPE));
+    SubNode((t_Node *)app);
+    FreeMem(app, NodeBlockSize(sizeof(T_APPLICATION)));
+}
+
+static T_WINDOW_CLASS *CurrentWindowClass(void) {
+    return _LumoraBase ? CURRENT_DISPLAY->window_class : NULL;
+}
+
+t_Window *FindAppWindow(const char *name) {
+    T_WINDOW_CLASS *wc = CurrentWindowClass();
+    if (!wc || !name)
+        return NULL;
+    for (t_Window *w = (t_Window *)wc->windows.first; w->next; w = w->next)
+        if (IsWindowLive(w) && w->name && strcmp(w->name, name) == 0)
+            return w;
+    return NULL;
+}
+
+static int FoundAmong(t_List *windows, t_Window *window) {
+    for (t_Window *w = (t_Window *)windows->first; w->next; w = w->next)
+        if ((w == window && IsWindowLive(w)) || FoundAmong(&w->children, window))
+            return 1;
+    return 0;
+}
+
+int WindowStands(t_Window *window) {
+    T_WINDOW_CLASS *wc = CurrentWindowClass();
+    return window && wc && FoundAmong(&wc->windows, window);
+}
+
+const char *MarshalryStorePath(const char *folder, const char *name, const char *extension,
+                               int make_folder) {
+    if (make_folder && !MakeEntireDirectory(MakePathFromSystem(folder)))
+        return NULL;
+    char relative[256];
+    int prefix = snprintf(relative, sizeof(relative), "%s/", folder);
+    snprintf(relative + prefix, sizeof(relative) - (size_t)prefix, "%s%s", name ? name : "",
+             extension);
+    for (char *c = relative + prefix; *c; c++)
+        if (*c == '/' || *c == '\\')
+            *c = '_';
+    return MakePathFromSystem(relative);
+}
+
+char *LoadStoreText(const char *path, u32 *size) {
+    if (!path || !FileExists(path))
+        return NULL;
+    char *text = (char *)LoadFile(path);
+    if (!text)
+        myprintf(0, "The store %s can't be read; it is ignored", path);
+    *size = text ? GetLoadFileSize() : 0;
+    return text;
+}

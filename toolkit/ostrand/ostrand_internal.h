@@ -1,0 +1,23 @@
+// What the parts of Ostrand and Marshalry call of Ostrand and no user of the toolkit sees.
+#pragma once
+#include "ostrand.h"
+
+// Memory (memory.cpp): a cleared block whose recorded size is `size` but which holds `extra`
+// more cleared bytes behind it, so that FreeMem(block, size) frees the whole. Null when the
+// machine has no memory.
+void *AllocMemExtra(u32 type, u32 size, u32 extra);
+
+// Lists (lists.cpp): a cleared node of `node_size` bytes (at least a t_Node) with its name copied
+// into the same block, behind the node; on no list. Freed with FreeMem(node, NodeBlockSize(size)).
+t_Node *NewNamedNode(u32 node_size, const char *name);
+u32 NodeBlockSize(u32 node_size);
+
+// Paths (paths.cpp): copies `path` into `dest` (dest_size bytes) with '\\' turned into '/';
+// returns false when it had to be cut.
+int NormalisePath(char *dest, const char *path, u32 dest_size);
+// The data root, made (with all levels) on first use when it was never set.
+const char *DataRoot(void);
+
+// Files (files.cpp): writes `size` bytes to a temporary file beside `path`, syncs it and renames
+// it into place. False on failure, with the reason in SaveFileError(); logs nothing.
+int WriteFileAtomic(const char *path, const void *data, u32 size);
