@@ -28,7 +28,10 @@ TEST_F(LumoraTest, CreationFillsTheRecord) {
     EXPECT_EQ(GadgetAtPoint(w, g->screen_x + 1, g->screen_y + 1), g);
     g->live_flags |= GADGET_FLAGS_NO_DISPLAY;
     EXPECT_EQ(GadgetAtPoint(w, g->screen_x + 1, g->screen_y + 1), nullptr);
-    SetGadgetHover(g, "");
+    SetGadgetHover(g, "");  // an empty text stays, apart from none
+    ASSERT_NE(g->hover_text, nullptr);
+    EXPECT_STREQ(g->hover_text, "");
+    SetGadgetHover(g, nullptr);
     EXPECT_EQ(g->hover_text, nullptr);
 
     init.flags = GADGET_FLAGS_AUTOSIZE, init.base_width = 0, init.type = GADGET_TYPE_CHECK_BOX;

@@ -51,12 +51,20 @@ typedef struct T_COLOUR_DATA {
     u16 mode;
 } T_COLOUR_DATA;
 
+// A colour dropped on a colour gadget: copied into its data's rgba (and hsia), then reported as
+// ACT_LMOUSE_DROP to its action_fn, or else to the window, whatever its action mask.
+void DropColourOnGadget(t_Window *window, t_gadget *gadget, T_RGBA *rgba);
+
 // A string gadget given this buffer as its data makes a buffer of its own, with its name as the
 // starting text: what a generated page's "gadinit.data=&PutStringName;" asks for.
 #define STRINGS_MAX_SIZE 255
 extern char PutStringName[STRINGS_MAX_SIZE + 1];
 
+#define BRANCH_OPEN 0x1  // NewBranch: the entry starts open
+
 T_LIST_ENTRY *NewBranch(t_List *list, T_LIST_ENTRY *after, const char *text, u32 flags);
+// Frees every entry of the list with its children; the list is left empty.
+void FreeListEntries(t_List *entries);
 // Gadgets created between these two go into the combo whose list is `list`.
 void SaveSetGadgetList(t_Window *window, t_List *list);
 void RestoreGadgetList(t_Window *window);

@@ -269,7 +269,7 @@ t_Gaget_Handler *FindGadgetHandler(t_Window *window);
 t_gadget *GetCurrentGadget(t_Window *window);
 void SetCurrentGadget(t_Window *window, t_gadget *gadget);
 void SetGadgetColours(t_gadget *gadget, u32 back_colour, u32 text_colour);
-void SetGadgetHover(t_gadget *gadget, const char *text);  // keeps its own copy; null or "" clears
+void SetGadgetHover(t_gadget *gadget, const char *text);  // keeps its own copy; null clears
 // Unlinks nothing: takes the gadget out of the handler's care (current, pressed, hover) and calls
 // its free_fn. The caller unlinks it with SubNode and frees it.
 void RemoveGadget(t_gadget *gadget, t_Gaget_Handler *handler);

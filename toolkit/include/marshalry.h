@@ -85,3 +85,8 @@ typedef void (*T_TOOL_SETUP_HANDLER)(T_TOOL_SETUP *setup, T_TOOL_OBJECT *object)
 void ExecuteToolSetup(T_TOOL_SETUP *setup, T_TOOL_SETUP_HANDLER handler);
 void GenericToolSetupHandler(T_TOOL_SETUP *setup, T_TOOL_OBJECT *object);
 void StoreToolSetup(T_TOOL_SETUP *setup);  // the places of its windows, into the data root
+// The toolkit tells Marshalry that a window is freed, so that no record keeps its address.
+void ForgetToolSetupWindow(t_Window *window);
+// Frees every application, tool object and stored-settings resource, and resets the session:
+// what CloseToolkit does, so that the toolkit can be opened again in the same process.
+void CloseMarshalry(void);

@@ -60,5 +60,14 @@ typedef struct T_COLOURSEL_INIT {
     void *user_data;
 } T_COLOURSEL_INIT;
 
+// The colour selector's record: its window's user_data and the data of its answers.
+typedef struct T_COLOURSEL {
+    t_Window *window;
+    T_RGBA *rgba;  // the caller's colour, changed in place
+    T_HSIA *hsia;  // the same as hue, saturation, intensity (or null)
+    u32 item_code;
+    void *user_data;  // the caller's user pointer
+} T_COLOURSEL;
+
 t_Window *AddColourSelector(T_COLOURSEL_INIT *init);
 int IsFileAscii(const void *data, u32 size);

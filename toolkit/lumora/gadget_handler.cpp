@@ -124,7 +124,7 @@ t_gadget *CreateGadgetObject(t_Gaget_Handler *gh, const char *name, T_GADGETOBJE
     g->cursor = init->cursor;
     g->tab[0] = init->tab[0], g->tab[1] = init->tab[1];
     g->menu_owner = init->menu_owner;
-    if (init->hover_text && init->hover_text[0]) g->hover_text = CopyText(init->hover_text);
+    if (init->hover_text) g->hover_text = CopyText(init->hover_text);  // "" stays an empty text
     if (init->font && init->font[0])
         g->font = OpenResource(&_FontBase->fonts, init->font, RESOURCE_TYPE_FONT, 0);
     g->data = init->data;
@@ -136,6 +136,12 @@ t_gadget *CreateGadgetObject(t_Gaget_Handler *gh, const char *name, T_GADGETOBJE
     g->window = gh->head.window;
     if (gh->list_in_use != &gh->gadget_list)
         g->parent_combo = ((T_LIST_DATA *)gh->list_in_use)->gadget;
+    const T_GADGET_CLASS *cls = GadgetClass(g->type);
+    if (cls->init && !cls->init(g, init)) {
+        myprintf(0, "CreateObject: no memory for the %s %s\n", cls->name, g->name);
+        FreeGadget(g);
+        return NULL;
+    }
     SizeNewGadget(g);
     AddTail(gh->list_in_use, (t_Node *)g);
     gh->current_gadget = g;
@@ -152,7 +158,7 @@ void SetGadgetColours(t_gadget *gadget, u32 back_colour, u32 text_colour) {
 void SetGadgetHover(t_gadget *gadget, const char *text) {
     if (!gadget) return;
     FreeText(gadget->hover_text);
-    gadget->hover_text = (text && text[0]) ? CopyText(text) : NULL;
+    gadget->hover_text = text ? CopyText(text) : NULL;
 }
 
 void RemoveGadget(t_gadget *gadget, t_Gaget_Handler *handler) {
@@ -215,6 +221,7 @@ void RecalcGadgetPosition(t_Window *window, t_gadget *g, u32 flags, i16 dx, i16 
         g->screen_y = window->user_y + window->user_h - g->pos_y - g->base_height;
     else
         g->screen_y = window->user_y + g->pos_y;
+    if (g->parent_combo || g->type == GADGET_TYPE_COMBO) PlaceComboGadget(g);
 }
 
 T_RPOS GadgetRect(t_gadget *g) {
@@ -287,17 +294,15 @@ t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y) {
     if (!gh) return NULL;
     T_RPOS user = {window->user_x, window->user_y, window->user_w, window->user_h};
     if (!PointBoxColl(x, y, &user)) return NULL;
-    for (t_Node *n = gh->gadget_list.last; n->prev; n = n->prev) {
-        t_gadget *g = (t_gadget *)n;
-        T_RPOS r = GadgetRect(g);
-        if (!(g->live_flags & GADGET_FLAGS_NO_DISPLAY) && PointBoxColl(x, y, &r)) return g;
-    }
+    for (t_Node *n = gh->gadget_list.last; n->prev; n = n->prev)
+        if (t_gadget *g = HitGadget((t_gadget *)n, x, y)) return g;
     return NULL;
 }
 
 // --- Events --------------------------------------------------------------------------------------
 
 void GadgetMouseEvent(t_Window *window, t_gadget *g, T_MOUSE_MSG *m) {
+    g = WheelTarget(g, m);
     t_Menu *menu = m->mouse_action == ACT_RMOUSE_UP ? g->menu_owner : NULL;
     if (g->action_fn) {  // the owner's function alone: nothing else happens with the event
         if (g->live_action & m->mouse_action) g->action_fn(window, g, m);

@@ -129,6 +129,9 @@ typedef u32 (*T_GADGET_MOUSE_FN)(t_gadget *gadget, const T_MOUSE_MSG *msg, const
 // A key given to the gadget: 0 not taken, else GADGET_KEY_TAKEN or'ed with a mouse bit to report.
 typedef u32 (*T_GADGET_KEY_FN)(t_gadget *gadget, u16 key, u16 qualifiers);
 typedef void (*T_GADGET_FREE_FN)(t_gadget *gadget);
+// The type's own belongings from the init record (class_data, a buffer); false when memory runs
+// out, and the gadget is then freed unmade.
+typedef int (*T_GADGET_INIT_FN)(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
 #define GADGET_KEY_TAKEN 0x10000
 
 typedef struct T_GADGET_CLASS {
@@ -138,6 +141,8 @@ typedef struct T_GADGET_CLASS {
     T_GADGET_MOUSE_FN mouse;
     T_GADGET_KEY_FN key;
     T_GADGET_FREE_FN free;  // the class's own belongings (entries), or null
+    T_GADGET_INIT_FN init;  // or null
+    u8 holds_entries;       // CreateObject gives the T_LIST_DATA in class_data, not the gadget
 } T_GADGET_CLASS;
 
 const T_GADGET_CLASS *GadgetClass(u16 type);
@@ -168,6 +173,29 @@ void DrawCheckBoxGadget(t_gadget *gadget, int focused);
 u32 CheckBoxMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
 u32 CheckBoxKey(t_gadget *gadget, u16 key, u16 qualifiers);
 i16 CheckBoxSize(void);  // the side of the box, from the system font
+
+// The other types of Lumora (gadget_string.cpp, gadget_radio.cpp, gadget_group.cpp,
+// gadget_colour.cpp, gadget_box.cpp).
+int StringInit(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
+void DrawStringGadget(t_gadget *gadget, int focused);
+u32 StringMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+u32 StringKey(t_gadget *gadget, u16 key, u16 qualifiers);
+void StringFree(t_gadget *gadget);
+void DrawRadioGadget(t_gadget *gadget, int focused);
+u32 RadioMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+u32 RadioKey(t_gadget *gadget, u16 key, u16 qualifiers);
+void DrawGroupGadget(t_gadget *gadget, int focused);
+void DrawColourGadget(t_gadget *gadget, int focused);
+void DrawBoxGadget(t_gadget *gadget, int focused);  // texture, scene and user gadgets
+
+// Gadgets inside combos (knobkit/combo.cpp). A combo's children are placed from its inside,
+// scrolled by its offsets, and found under a point through it.
+void PlaceComboGadget(t_gadget *gadget);  // a child from its combo; a combo's children and bars
+// The gadget that takes a point on `gadget`: null when it takes none (hidden, outside, a
+// passive group of a dialog), a combo's child, or the gadget itself.
+t_gadget *HitGadget(t_gadget *gadget, i16 x, i16 y);
+// The wheel over a combo's child that has no use for it scrolls the combo.
+t_gadget *WheelTarget(t_gadget *gadget, const T_MOUSE_MSG *msg);
 
 // Message boxes (msgbox.cpp): its glyphs.
 void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind);  // kind: 1 error, 2 information, 3 question

@@ -3,10 +3,6 @@
 
 t_gadget *CreateGadgetObject(t_Gaget_Handler *handler, const char *name, T_GADGETOBJECTINIT *init);
 
-// List entries arrive with the gadget types that hold them; until they are linked, asking for
-// one is logged and gives null.
-#pragma weak CreateListEntry
-
 void *CreateObject(t_Handler *handler, const char *name, void *init) {
     if (!handler || !init) {
         myprintf(0, "CreateObject: no handler or no init record for %s\n", name ? name : "(null)");
@@ -17,12 +13,11 @@ void *CreateObject(t_Handler *handler, const char *name, void *init) {
         return CreateWindowObject(name, (T_WINDOWOBJINIT *)init);
     case HANDLER_KIND_GADGET: {  // a gadget, or an entry of the list it is given
         T_GADGETOBJECTINIT *gi = (T_GADGETOBJECTINIT *)init;
-        if (gi->parent_gadget) {
-            if (CreateListEntry) return CreateListEntry((t_Gaget_Handler *)handler, name, gi);
-            myprintf(0, "CreateObject: list entries are not available yet (%s)\n", name ? name : "");
-            return NULL;
-        }
-        return CreateGadgetObject((t_Gaget_Handler *)handler, name, gi);
+        if (gi->parent_gadget) return CreateListEntry((t_Gaget_Handler *)handler, name, gi);
+        t_gadget *g = CreateGadgetObject((t_Gaget_Handler *)handler, name, gi);
+        // list boxes, drop boxes, trees and combos give the record that holds their entries
+        if (g && GadgetClass(g->type)->holds_entries) return (void *)g->class_data;
+        return g;
     }
     case HANDLER_KIND_MENU:  // a menu entry
         return CreateMenuObject((T_MENU_HANDLER *)handler, name, (T_MENUOBJECTINIT *)init);

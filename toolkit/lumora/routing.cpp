@@ -316,6 +316,11 @@ static void RouteKey(u16 key, u16 qualifiers) {
     focus = FocusWindow();
     if (!IsWindowLive(focus)) return;
     if (OfferToHandlers(focus, HANDLER_EVENT_KEY, &km, AnyKind) || !IsWindowLive(focus)) return;
+    // Alt with a letter opens a menu of the nearest ancestor that has a menu bar.
+    if (qualifiers & QUAL_ALT)
+        for (t_Window *a = focus->parent; a; a = a->parent)
+            if (IsWindowLive(a) && OfferToHandlers(a, HANDLER_EVENT_KEY, &km, MenuKind)) return;
+    if (!IsWindowLive(focus)) return;
     t_gadget *g = GetCurrentGadget(focus);
     if (g && GadgetKeyEvent(focus, g, key, qualifiers)) return;
     if (!IsWindowLive(focus)) return;

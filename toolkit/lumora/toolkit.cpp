@@ -128,6 +128,7 @@ void CloseToolkit(void) {
     if (!display || !CURRENT_DISPLAY->record) return;
     T_LUMORA_STATE *st = &lumora_state;
     FreeAllWindows();
+    CloseMarshalry();
     while (!LIST_EMPTY(&st->posted)) {
         t_Node *n = st->posted.first;
         SubNode(n);

@@ -248,6 +248,7 @@ void FreeWindowNow(t_Window *w) {
     if (w->bitmap) ReleaseBitmap(w->bitmap);
     if (w->hover_title) FreeMem(w->hover_title, (u32)strlen(w->hover_title) + 1);
     ForgetWindow(w);
+    ForgetToolSetupWindow(w);
     T_WINDOW_PRIVATE *p = WINDOW_PRIVATE(w);
     FreeMem(p->own_name, p->own_name_size);
     FreeMem(p, sizeof(T_WINDOW_PRIVATE));

@@ -89,3 +89,24 @@ char *LoadStoreText(const char *path, u32 *size) {
     *size = text ? GetLoadFileSize() : 0;
     return text;
 }
+
+void ForgetToolSetupWindow(t_Window *window) {
+    for (T_TOOL_OBJECT *o = (T_TOOL_OBJECT *)_MarshalryBase->tool_objects.first; o->next; o = o->next)
+        if (o->window == window)
+            o->window = NULL;
+    for (T_APPLICATION *app = (T_APPLICATION *)_MarshalryBase->applications.first; app->next; app = app->next)
+        if (app->window == window)
+            app->window = NULL;
+}
+
+void CloseMarshalry(void) {
+    while (!LIST_EMPTY(&_MarshalryBase->applications))
+        FreeApplication((T_APPLICATION *)_MarshalryBase->applications.first);
+    EmptyList(&_MarshalryBase->tool_objects, NodeBlockSize(sizeof(T_TOOL_OBJECT)));
+    while (!LIST_EMPTY(&_MarshalryBase->resources)) {
+        T_RESOURCE *resource = (T_RESOURCE *)_MarshalryBase->resources.first;
+        resource->use_count = 1;
+        RemoveResource(resource);
+    }
+    _TenureBase->session_state = SESSION_RUNNING;
+}

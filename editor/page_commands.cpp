@@ -1,0 +1,267 @@
+// The page commands that act on the marked gadgets as a group: delete, centre, size to contents,
+// align, same size and font, and the gadget context menu's form of the size and alignment items,
+// which also puts geometry records on the undo list. Each ends with no gadget marked.
+#include "editor/page_commands.h"
+
+#include <stdio.h>
+
+#include "editor/mouse_editing.h"
+#include "editor/undo_records.h"
+#include "shell/menus.h"
+
+#define TEXT_WIDTH_EXTRA 3   // room beside a gadget's text
+#define TEXT_HEIGHT_EXTRA 2  // and above and below it
+#define STYLE_SHIFT 14       // GADGET_FLAGS_BOLD and GADGET_FLAGS_ITALICS as the font style's bits
+#define STYLE_MASK 3
+#define GEOMETRY_FLAG_SIZE 0   // the flag of AddGeometryUndo for "Size to contents"
+#define GEOMETRY_FLAG_ALIGN 1  // and for the alignment and equal-size items
+#define FONT_NAME_SIZE 256     // a font's file name
+
+static int IsMarked(const t_gadget *gadget)
+{
+    return (gadget->live_flags & GADGET_MARK_SELECTED) != 0;
+}
+
+static void ClearMarks(t_Window *window)
+{
+    t_gadget *first = FirstPageGadget(window);
+    if (first)
+        ClearAllMarkedGadgets(first);
+}
+
+static T_WINEDIT_HANDLER *PageRecord(t_Window *window)
+{
+    return IsPageWindow(window) ? (T_WINEDIT_HANDLER *)window->user_data : NULL;
+}
+
+void MarkCurrentIfNothingMarked(t_Window *window)
+{
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    t_gadget *current = handler ? handler->current_gadget : NULL;
+    if (current && NothingMarked(current))
+        current->live_flags |= GADGET_MARK_SELECTED;
+}
+
+t_Window *FindGadgetPropertyWindow(t_Window *window, t_gadget *gadget)
+{
+    for (t_Window *child = window->first_child; child->next; child = child->next)
+        if (child->user_data && *(t_gadget **)child->user_data == gadget)
+            return child;
+    return NULL;
+}
+
+void DeleteMarkedGadgets(t_Window *window)
+{
+    MarkCurrentIfNothingMarked(window);
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    T_WINEDIT_HANDLER *record = PageRecord(window);
+    if (handler) {
+        for (t_gadget *g = handler->first_gadget; g->next;) {
+            t_gadget *next = g->next;
+            if (IsMarked(g)) {
+                if (t_Window *dialog = FindGadgetPropertyWindow(window, g))
+                    RemoveWindow(dialog);
+                if (record)
+                    ForgetGadgetInHistory(record, g);
+                RemoveObject(&handler->head, g);
+            }
+            g = next;
+        }
+    }
+    ClearMarks(window);
+    RecalcUserSize(window);
+    window->state_flags |= WSF_MODIFIED;  // also when nothing was deleted
+}
+
+void CentreMarkedGadgets(t_Window *window, u32 direction)
+{
+    MarkCurrentIfNothingMarked(window);
+    u32 count = 0;
+    for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
+        if (!IsMarked(g))
+            continue;
+        count++;
+        if (direction == CENTRE_HORIZONTAL)
+            g->pos_x = (i16)(window->user_w / 2 - g->base_width / 2);
+        else
+            g->pos_y = (i16)(window->user_h / 2 - g->base_height / 2);
+    }
+    ClearMarks(window);
+    RecalcUserSize(window);
+    if (count)
+        window->state_flags |= WSF_MODIFIED;
+}
+
+void SizeGadgetToContents(t_Window *window, t_gadget *gadget)
+{
+    T_FONT *before = GetActiveFont();
+    T_FONT *font = gadget->font ? FontOfResource(gadget->font) : NULL;
+    SetActiveFont(font ? font : DISPLAY_RECORD->system_font);
+    i32 plain_height = GetActiveFontHeight();  // before the style is set
+    SetFontStyle((u16)((gadget->live_flags >> STYLE_SHIFT) & STYLE_MASK));
+    i32 width = GetStringWidth(gadget->name ? gadget->name : "") + TEXT_WIDTH_EXTRA;
+    i32 height = GetActiveFontHeight() + TEXT_HEIGHT_EXTRA;
+    gadget->base_height = (i16)height;
+    if (gadget->type == GADGET_TYPE_CHECK_BOX || gadget->type == GADGET_TYPE_RADIOBUTTON)
+        width += plain_height;  // the box or the circle
+    if (gadget->live_flags & GADGET_FLAGS_ICON)
+        width += height;
+    gadget->base_width = (i16)width;
+    RecalcUserSize(window);
+    SetFontStyle(0);
+    SetActiveFont(before);
+}
+
+// Sizes the marked gadgets of the types that have a text to fit, and unmarks the others, so that
+// the marks are left on exactly the gadgets sized. Returns their number.
+static u32 SizeMarkedOnly(t_Window *window)
+{
+    u32 sized = 0;
+    for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
+        if (!IsMarked(g))
+            continue;
+        switch (g->type) {
+        case GADGET_TYPE_BUTTON:
+        case GADGET_TYPE_TEXT:
+        case GADGET_TYPE_CHECK_BOX:
+        case GADGET_TYPE_RADIOBUTTON:
+            SizeGadgetToContents(window, g);
+            sized++;
+            break;
+        default:  // other types keep their size
+            g->live_flags &= ~GADGET_MARK_SELECTED;
+            break;
+        }
+    }
+    return sized;
+}
+
+void SizeMarkedToContents(t_Window *window)
+{
+    MarkCurrentIfNothingMarked(window);
+    u32 sized = SizeMarkedOnly(window);
+    ClearMarks(window);
+    RecalcUserSize(window);
+    if (sized)
+        window->state_flags |= WSF_MODIFIED;
+}
+
+// The marked gadgets take the current gadget's left or top edge; the marks stay. Returns the
+// number of marked gadgets, or -1 without a current gadget.
+static i32 AlignMarkedOnly(t_Window *window, u32 edge)
+{
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    t_gadget *current = handler ? handler->current_gadget : NULL;
+    if (!current)
+        return -1;
+    i16 x = current->pos_x, y = current->pos_y;
+    i32 count = 0;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
+        if (!IsMarked(g))
+            continue;
+        count++;
+        if (edge == ALIGN_LEFT_EDGES)
+            g->pos_x = x;
+        else if (edge == ALIGN_TOP_EDGES)
+            g->pos_y = y;
+    }
+    return count;
+}
+
+// The marked gadgets take the current gadget's size; the marks stay. As AlignMarkedOnly.
+static i32 SameSizeMarkedOnly(t_Window *window)
+{
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    t_gadget *current = handler ? handler->current_gadget : NULL;
+    if (!current)
+        return -1;
+    i16 w = current->pos_width, h = current->pos_height;
+    i32 count = 0;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
+        if (!IsMarked(g))
+            continue;
+        count++;
+        g->pos_width = g->base_width = w;
+        g->pos_height = g->base_height = h;
+    }
+    return count;
+}
+
+// Clears the marks and notes the change after an alignment or equal-size operation.
+static void FinishMarkedOperation(t_Window *window, i32 count)
+{
+    if (count < 0)
+        return;  // no current gadget: nothing changed, the marks neither
+    ClearMarks(window);
+    RecalcUserSize(window);
+    if (count > 0)
+        window->state_flags |= WSF_MODIFIED;
+}
+
+void AlignMarkedGadgets(t_Window *window, u32 edge)
+{
+    FinishMarkedOperation(window, AlignMarkedOnly(window, edge));
+}
+
+void SameSizeMarkedGadgets(t_Window *window)
+{
+    FinishMarkedOperation(window, SameSizeMarkedOnly(window));
+}
+
+void ApplyFontToMarked(t_Window *window, t_Window *selector)
+{
+    MarkCurrentIfNothingMarked(window);
+    // The font is the same for every gadget: it is loaded once, and its name kept apart, since
+    // removing a gadget's old resource may free a font of the same name.
+    T_FONT *font = LoadFontFromSelector(selector, 0);
+    char name[FONT_NAME_SIZE];
+    snprintf(name, sizeof(name), "%s", font && font->name ? font->name : "");
+    if (font)
+        FreeFont(font);  // the gadgets hold the font through their resources
+    for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
+        if (!IsMarked(g) || !name[0])
+            continue;  // no font picked: the gadget keeps its own
+        if (g->font)
+            RemoveResource(g->font);
+        g->font = OpenResource(&_FontBase->fonts, name, RESOURCE_TYPE_FONT, 0);
+    }
+    ClearMarks(window);
+}
+
+void ApplyGadgetMenuCommand(t_Window *window, u32 item_code)
+{
+    T_WINEDIT_HANDLER *record = PageRecord(window);
+    t_gadget *first = FirstPageGadget(window);
+    if (!record || !first)
+        return;
+    // The current gadget (GetCurrentGadget) is the reference of the operations below.
+    if (item_code == GADGET_MENU_SIZE_TO_CONTENTS)
+        MarkCurrentIfNothingMarked(window);
+    if (first->next)
+        ApplyFuncToList((t_Node *)first, SnapshotGeometry);
+    i32 changed;
+    u32 flag = GEOMETRY_FLAG_ALIGN;
+    switch (item_code) {
+    case GADGET_MENU_SIZE_TO_CONTENTS:  // the marks stay on the gadgets sized
+        changed = (i32)SizeMarkedOnly(window);
+        flag = GEOMETRY_FLAG_SIZE;
+        break;
+    case GADGET_MENU_ALIGN_LEFT:
+        changed = AlignMarkedOnly(window, ALIGN_LEFT_EDGES);
+        break;
+    case GADGET_MENU_ALIGN_TOP:
+        changed = AlignMarkedOnly(window, ALIGN_TOP_EDGES);
+        break;
+    case GADGET_MENU_SAME_SIZE:
+        changed = SameSizeMarkedOnly(window);
+        break;
+    default:
+        return;
+    }
+    if (changed > 0) {
+        RecalcUserSize(window);
+        AddGeometryUndo(record, first, flag);
+    }
+    FinishMarkedOperation(window, changed);
+    TellMainWindow(window, 0);
+}

@@ -1,0 +1,30 @@
+// The operations on a page's gadgets as a group: delete, centre, size to contents, align, same
+// size, font, and the context menu's form of the size and alignment items.
+#pragma once
+#include "page/records.h"
+
+#define CENTRE_HORIZONTAL 0x400
+#define CENTRE_VERTICAL 0x800
+#define ALIGN_LEFT_EDGES 3
+#define ALIGN_TOP_EDGES 1
+
+// If nothing is marked, the current gadget (when there is one) is marked: commands then act on it.
+void MarkCurrentIfNothingMarked(t_Window *window);
+void DeleteMarkedGadgets(t_Window *window);
+// direction CENTRE_HORIZONTAL, any other value vertical.
+void CentreMarkedGadgets(t_Window *window, u32 direction);
+void SizeMarkedToContents(t_Window *window);
+// Fits a gadget to its text in its font and style; also used by the properties dialog.
+void SizeGadgetToContents(t_Window *window, t_gadget *gadget);
+// edge ALIGN_LEFT_EDGES or ALIGN_TOP_EDGES; the current gadget is the reference. Without a
+// current gadget nothing changes, the marks neither.
+void AlignMarkedGadgets(t_Window *window, u32 edge);
+void SameSizeMarkedGadgets(t_Window *window);
+// The font picked in the font selector `selector` goes to the marked gadgets (each its own
+// resource). A selector that gives no font changes no gadget.
+void ApplyFontToMarked(t_Window *window, t_Window *selector);
+// The child window of the page that edits the gadget (its record begins with the gadget), or null.
+t_Window *FindGadgetPropertyWindow(t_Window *window, t_gadget *gadget);
+// The gadget context menu's items 0xE004 to 0xE007: the operation with a geometry record for each
+// gadget it changed, the marks cleared, and the main window's menus refreshed.
+void ApplyGadgetMenuCommand(t_Window *window, u32 item_code);

@@ -1,0 +1,338 @@
+// The page window: how it comes into being from a box, and how it answers the toolkit's messages,
+// the close query and the items of its context menus.
+#include "editor/page_window.h"
+
+#include <stdio.h>
+#include <string.h>
+
+#include "editor/page_commands.h"
+#include "editor/page_painter.h"
+#include "shell/main_window.h"
+#include "shell/menus.h"
+#include "shell/texts.h"
+#include "source/source_writer.h"
+
+// The mask of Quillform's own page window: exactly the messages that PageMessage answers.
+static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE |
+                              IDCMP_MENU_OPEN | IDCMP_RECEIVE_OBJECT | IDCMP_REQUESTER_OK |
+                              IDCMP_REQUESTER_CANCEL | IDCMP_REQUESTER_ABORT | IDCMP_REQUESTER_PREVIEW;  // 0x6C1D6
+
+typedef struct T_PAGE_MENU_ROW {
+    u16 kind;
+    const char *label;
+    u32 item_code;
+    u8 shortcut;
+} T_PAGE_MENU_ROW;
+
+// The page background's context menu "WindowBase".
+static const T_PAGE_MENU_ROW page_menu_table[] = {
+    {MENU_KIND_ENTRY, "Resize to contents", PAGE_MENU_RESIZE_TO_CONTENTS, 'R'},
+    {MENU_KIND_ENTRY, "Delete", PAGE_MENU_DELETE, 'D'},
+    {MENU_KIND_SEPARATOR, "", 0, 0},
+    {MENU_KIND_ENTRY, "Window Properties", PAGE_MENU_WINDOW_PROPERTIES, 'W'},
+};
+
+static void BuildPageContextMenu(T_WINEDIT_HANDLER *record)
+{
+    InitContextMenu(&record->context_menu, "WindowBase");
+    t_List scratch;
+    InitList(&scratch, NULL);
+    T_MENU_HANDLER *handler = CreateMenuHandler(&scratch);
+    T_MENUOBJECTINIT init;
+    memset(&init, 0, sizeof(init));
+    init.parent_list = &record->context_menu.items;
+    for (const T_PAGE_MENU_ROW &row : page_menu_table) {
+        init.kind = row.kind;
+        init.item_code = row.item_code;
+        init.shortcut = row.shortcut;
+        CreateObject(&handler->head, row.label, &init);
+    }
+    DelHandler(&handler->head);
+}
+
+t_Window *CreatePageWindow(t_Window *parent, char *name, u32 flags, i16 x1, i16 y1, i16 x2, i16 y2)
+{
+    i16 x = x1 < x2 ? x1 : x2;
+    i16 y = y1 < y2 ? y1 : y2;
+    i16 w = (i16)(x2 > x1 ? x2 - x1 : x1 - x2);
+    i16 h = (i16)(y2 > y1 ? y2 - y1 : y1 - y2);
+    if (w < PAGE_MIN_WIDTH || h < PAGE_MIN_HEIGHT)
+        return NULL;
+
+    T_WINDOWOBJINIT init;
+    memset(&init, 0, sizeof(init));
+    init.x = x;
+    init.y = y;
+    init.w = w;
+    init.h = h;
+    init.flags = flags | WF_CHILD | WF_CLIP_PARENT;
+    init.idcmp = PAGE_IDCMP;
+    init.message = PageMessage;
+    init.parent = parent;
+    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, name, &init);
+    if (!window)
+        return NULL;
+    window->idcmp = IDCMP_TERMINATE;  // the design mask of the generated window
+
+    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)NewHandler(
+        &window->handlers, PageInput, PagePaint, PAGE_HANDLER_NAME, PAGE_HANDLER_PRIORITY,
+        sizeof(T_WINEDIT_HANDLER), window);
+    memcpy(record->tag, "WEH0", 4);
+    window->user_data = record;
+    NewGadgetHandler(window);
+    record->border = (t_Handler *)FindNode(window->handlers.first, "border");
+    record->titlebar = (t_Handler *)FindNode(window->handlers.first, "titlebar");
+    InitUndoList(&record->undo, record->page_name);
+    snprintf(record->page_name, sizeof(record->page_name), "%s", name);
+    window->name = record->page_name;
+    RecalcUserSize(window);
+    BuildPageContextMenu(record);
+    return window;
+}
+
+void RemovePage(t_Window *window, int second_refresh)
+{
+    t_Window *parent = window->parent;
+    if (parent && parent->user_data) {
+        ((T_WINEDIT_MAIN *)parent->user_data)->active_page = NULL;
+        parent->title_suffix = NULL;
+        RefreshMainMenus(parent, NULL);
+    }
+    RemoveWindow(window);
+    if (second_refresh && parent && parent->user_data)
+        RefreshMainMenus(parent, NULL);
+}
+
+// The close query: asks to save a modified page, and turns the event loop until the page has
+// gone or stopped standing as a window. A clean page goes at once.
+static void ClosePage(t_Window *window)
+{
+    if (!(window->state_flags & WSF_MODIFIED)) {
+        RemovePage(window, 1);
+        return;
+    }
+    char *text = _OstrandBase->text_buffer;
+    snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_QUERY_UNSAVED, window->name);
+    t_Window *box = NewMsgBox(window, TXT_QUERY_TITLE, text, 35, PAGE_ITEM_QUERY);
+    if (box)
+        box->icon_bank = NULL;
+    if (window->state != WINDOW_STATE_OPEN)
+        return;
+    do {
+        RefreshHandlers(&CURRENT_DISPLAY->window_class->head);
+        if (window->state_flags & WSF_REMOVED)
+            break;
+    } while (window->state == WINDOW_STATE_OPEN);
+}
+
+// The "Save Source as" selector answered: the page gets its file name and is written.
+static void FinishSaveAs(t_Window *window, T_WINEDIT_HANDLER *record, const T_FILE_REQUESTER_ANSWER *answer)
+{
+    char path[1024];
+    MakeFilename(path, answer->directory, answer->name);
+    if (!ExtensionExists(path))
+        snprintf(path + strlen(path), sizeof(path) - strlen(path), "%s", ".cpp");
+    AllocString(path, &record->file_name);
+    SetTitleBarHoverTitle(window, record->file_name.text);
+    SavePage(window, record->file_name.text);
+    window->state_flags &= ~WSF_MODIFIED;
+    record->saved = 1;
+    SetLastPath(answer->directory);
+    if (record->close_after_save)
+        RemovePage(window, 0);
+}
+
+// Greys the alignment entries of the gadget context menu when nothing is marked; Cut always.
+static void GreyGadgetMenu(t_Window *window)
+{
+    if (t_Menu *cut = FindMenuByItemCode(&gadget_context_menu, GADGET_MENU_CUT))
+        cut->menu_flags |= MENU_FLAG_GREY;
+    t_Menu *align_left = FindMenuByItemCode(&gadget_context_menu, GADGET_MENU_ALIGN_LEFT);
+    if (!align_left)
+        return;
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    int nothing = handler ? NothingMarked(handler->first_gadget) : 1;
+    // "Align left edges" and the entry that follows it, "Align top edges".
+    t_Menu *entries[2] = {align_left, align_left->next && align_left->next->next ? align_left->next : NULL};
+    for (t_Menu *entry : entries) {
+        if (!entry)
+            continue;
+        if (nothing)
+            entry->menu_flags |= MENU_FLAG_GREY;
+        else
+            entry->menu_flags &= ~MENU_FLAG_GREY;
+    }
+}
+
+// The "Choose font" selector, for the current gadget; its answers come back with item code 2.
+static void OpenFontSelector(t_Window *window)
+{
+    t_gadget *gadget = GetCurrentGadget(window);
+    t_List patterns;
+    InitList(&patterns, "dum");
+    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, "*.fnt");
+    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, "*.*");
+    T_FONTSEL_INIT init;
+    memset(&init, 0, sizeof(init));
+    init.parent = window;
+    init.item_code = PAGE_ITEM_FONT;
+    init.title = TXT_FONT_TITLE;
+    init.path = MakePathFromSystem("System\\Fonts");
+    init.default_pattern = "*.*";
+    init.button_text = TXT_OPEN_BUTTON;
+    init.patterns = &patterns;
+    init.initial_font = gadget && gadget->font ? gadget->font->name : NULL;
+    init.user_data = gadget;
+    NewFontSelector(&init);
+    EmptyList(&patterns, FONT_PATTERN_NODE_SIZE);
+}
+
+// Whether `gadget` is still one of the page's gadgets (it may have gone while a selector was up).
+static int IsPageGadget(t_Window *window, t_gadget *gadget)
+{
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    if (!handler || !gadget)
+        return 0;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
+        if (g == gadget)
+            return 1;
+    return 0;
+}
+
+static void SetGadgetFont(t_gadget *gadget, const char *name)
+{
+    if (gadget->font)
+        RemoveResource(gadget->font);
+    gadget->font = name ? OpenResource(&_FontBase->fonts, name, RESOURCE_TYPE_FONT, 0) : NULL;
+}
+
+// A font was picked in the selector: the current gadget shows it, without marking the page.
+static void PreviewFont(t_Window *window, t_Window *selector)
+{
+    T_FONT *font = LoadFontFromSelector(selector, 0);
+    if (!font)
+        return;
+    char name[256];
+    snprintf(name, sizeof(name), "%s", font->name);
+    FreeFont(font);
+    if (t_gadget *gadget = GetCurrentGadget(window))
+        SetGadgetFont(gadget, name);
+}
+
+// The selector was cancelled: the gadget gets back the font it had when the selector opened.
+static void CancelFont(t_Window *window, t_Window *selector)
+{
+    const T_FONTSEL *record = selector ? (const T_FONTSEL *)selector->user_data : NULL;
+    if (!record)
+        return;
+    t_gadget *gadget = (t_gadget *)record->user_data;
+    if (!IsPageGadget(window, gadget))
+        return;
+    if (!record->initial_font) {
+        SetGadgetFont(gadget, NULL);
+        return;
+    }
+    if (gadget->font && strcmp(record->initial_font, gadget->font->name) == 0)
+        return;
+    char name[256];
+    snprintf(name, sizeof(name), "%s", record->initial_font);
+    SetGadgetFont(gadget, name);
+}
+
+// Items from the two context menus.
+static void DispatchPageItem(t_Window *window, u32 item_code)
+{
+    switch (item_code) {
+    case GADGET_MENU_SIZE_TO_CONTENTS:  // the size and alignment entries of the gadget menu
+    case GADGET_MENU_ALIGN_LEFT:
+    case GADGET_MENU_ALIGN_TOP:
+    case GADGET_MENU_SAME_SIZE:
+        ApplyGadgetMenuCommand(window, item_code);
+        break;
+    case PAGE_MENU_CHOOSE_FONT:
+        OpenFontSelector(window);
+        break;
+    case PAGE_MENU_DELETE:  // the marked gadgets, or the current one
+        DeleteMarkedGadgets(window);
+        TellMainWindow(window, 0);
+        break;
+    case PAGE_MENU_RESIZE_TO_CONTENTS:  // from a small window, grown around the gadgets
+        window->w = 64;
+        window->h = 32;
+        RecalcUserSize(window);
+        ResizeWindowToContents(window);
+        window->state_flags |= WSF_MODIFIED;
+        break;
+    default:  // "Cut", "Copy", "Paste" and unknown codes change nothing
+        break;
+    }
+}
+
+u32 PageMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
+    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    t_Window *parent = window->parent;
+    switch (msg) {
+    case ACT_GAIN_CONTEXT:  // this page becomes the active one
+        if (parent && parent->user_data) {
+            ((T_WINEDIT_MAIN *)parent->user_data)->active_page = window;
+            parent->title_suffix = window->name;
+            RefreshMainMenus(parent, record);
+        }
+        return 0;
+    case ACT_TERMINATE:
+        ClosePage(window);
+        return 0;
+    case ACT_KEY:  // keys run the application's commands
+        if (parent && parent->user_data)
+            return ExecuteAppCommand(((T_WINEDIT_MAIN *)parent->user_data)->application, NULL, (T_KEY_MSG *)data);
+        return 0;
+    case ACT_WINDOW_RESIZE:
+        window->state_flags |= WSF_MODIFIED;
+        return 0;
+    case ACT_MENU_OPEN:
+        if (item_code == GADGET_MENU_CODE)
+            GreyGadgetMenu(window);
+        return 0;
+    case ACT_RECEIVE_OBJECT:
+        if (item_code == PAGE_ITEM_QUERY && data) {  // a colour
+            window->state_flags |= WSF_MODIFIED;
+            window->UserAreaColour = GetConstantTRGBA((T_RGBA *)data);
+        } else if (item_code == PAGE_ITEM_FONT && data) {  // a bitmap: the second word is its name
+            window->state_flags |= WSF_MODIFIED;
+            SetWindowBitmap(window, ((const char *const *)data)[1]);
+            RecalcUserSize(window);
+        }
+        return 0;
+    case ACT_REQUESTER_OK:
+        if (item_code == PAGE_ITEM_SAVE_AS && data) {
+            FinishSaveAs(window, record, (const T_FILE_REQUESTER_ANSWER *)data);
+        } else if (item_code == PAGE_ITEM_QUERY) {  // yes: save, then close
+            if (SaveDocument(window, record, 0))
+                RemovePage(window, 0);
+            else
+                record->close_after_save = 1;
+        } else if (item_code == PAGE_ITEM_FONT) {  // a font chosen for the marked gadgets
+            ApplyFontToMarked(window, (t_Window *)data);
+            window->state_flags |= WSF_MODIFIED;
+        }
+        return 0;
+    case ACT_REQUESTER_CANCEL:
+        if (item_code == PAGE_ITEM_QUERY && _TenureBase->session_state == SESSION_ENDING)
+            _TenureBase->session_state = SESSION_CANCELLED;
+        else if (item_code == PAGE_ITEM_FONT)
+            CancelFont(window, (t_Window *)data);
+        return 0;
+    case ACT_REQUESTER_ABORT:  // no: the changes are dropped
+        if (item_code == PAGE_ITEM_QUERY)
+            RemovePage(window, 0);
+        return 0;
+    case ACT_REQUESTER_PREVIEW:
+        if (item_code == PAGE_ITEM_FONT)
+            PreviewFont(window, (t_Window *)data);
+        return 0;
+    default:
+        DispatchPageItem(window, item_code);
+        return 0;
+    }
+}

@@ -1,0 +1,91 @@
+// The module's own records (main window, page, settings) and the few helpers that read them.
+#pragma once
+#include "toolkit.h"
+
+// The main window's handler, named "WinEditMain", reached through the window's user_data.
+typedef struct T_WINEDIT_MAIN {
+    t_Handler head;  // head.window: the main window
+    t_Window *active_page;
+    t_Window *toolbar;  // its user_data is the T_TOOLBAR_HANDLER
+    T_TOOL_SETUP *tool_setup;
+    T_APPLICATION *application;
+    i16 box_x1, box_y1, box_x2, box_y2;  // rubber box for a new page, relative to the user area
+    u16 box_active;
+    u16 box_phase;  // 0 to 31
+} T_WINEDIT_MAIN;
+
+// The page record: the handler "WinEdit" of a page window, reached through its user_data.
+typedef struct T_WINEDIT_HANDLER {
+    t_Handler head;  // head.window: the page window
+    char tag[4];     // "WEH0"
+    t_Handler *border;
+    t_Handler *titlebar;
+    STRING head_line;  // the line behind the PAGE marker, as read
+    u16 saved;         // nonzero: the page has a file of its own
+    T_UNDO_LIST undo;
+    t_Window *source_window;
+    u8 *line_map;  // one byte per source line, 2 bytes per line allocated; null if not read
+    u32 lines_read, lines_total;
+    char page_name[128];  // the window's name points here
+    STRING file_name;     // the source file's full path; null text for none
+    t_Menu context_menu;  // "WindowBase"
+    t_gadget *drag_gadget;
+    t_gadget *handle_gadget;
+    u16 drag_handle;  // 1 to 8, 0 for none
+    u16 edit_state;   // EDIT_ bits
+    u16 rubber_active;
+    i16 rubber_x1, rubber_y1, rubber_x2, rubber_y2;
+    i16 drag_start_x, drag_start_y;
+    i16 drag_last_x, drag_last_y;
+    u16 last_tool;
+    u16 close_after_save;
+    u16 tab_next;
+    u16 dash_phase;  // 0 to 31
+    t_gadget *msg_combo_first;
+    void *msg_combo;
+    t_gadget *win_combo_first;
+    void *win_combo;
+} T_WINEDIT_HANDLER;
+
+#define EDIT_TAB_ORDER 2
+#define EDIT_RUBBER_PAINTED 4
+#define EDIT_PRESSED_GADGET 8
+#define EDIT_DRAGGING 16
+
+// The settings: the data block of the resource "AppQuillform", stored as these bytes,
+// little-endian, followed by a tail of `open_count` entries (a u32 length, then the path with its
+// NUL). The 4-byte `resource` word can't hold a pointer on this machine: it is written as 0, and
+// the run-time back pointer is `config_resource`.
+typedef struct T_EDITOR_CONFIG {
+    u32 reserved;
+    char last_path[256];
+    char backup_path[256];
+    u32 size;  // the whole block, tail included
+    u32 flags;  // CONFIG_ bits
+    u32 resource;
+    u32 open_count;
+    T_RPOS msg_dialog_rect;
+    T_RPOS win_dialog_rect;
+} T_EDITOR_CONFIG;
+
+static_assert(sizeof(T_EDITOR_CONFIG) == 548, "the stored settings block is 548 bytes");
+
+#define EDITOR_CONFIG_SIZE 548
+#define CONFIG_OPTIMISE 1
+#define CONFIG_TYPE_ORDER 2
+#define CONFIG_BACKUPS 4
+
+// Module-wide state.
+extern T_EDITOR_CONFIG *editor_config;  // moves at exit: read through this pointer at each use
+extern T_RESOURCE *config_resource;     // the settings resource behind editor_config
+extern t_Menu gadget_context_menu;      // "Multiple Modify"
+
+// A child of the main window is a page when it is not dependant, has a user_data, and that
+// record's tag begins with "WEH".
+int IsPageWindow(t_Window *window);
+// Walks the list from its first node, clearing each drag mark; false at the first selected
+// gadget, true at the tail. Null gives false.
+int NothingMarked(t_gadget *gadget);
+// The first gadget with this design item code in the list that the window's gadget handler has
+// in use, or null.
+t_gadget *FindGadgetByCode(t_Window *window, u32 code);

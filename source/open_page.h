@@ -1,0 +1,61 @@
+// The source reader: a page file read line by line, by marker comments and fixed words, back into
+// a page window with its gadgets; and OpenPageFile, the one door through which a page comes from
+// a file.
+#pragma once
+#include "page/records.h"
+
+#define READER_LINE_SIZE 1024  // a line holds at most 1023 characters
+#define READER_NAME_SIZE 128   // window and gadget names, bitmap and font names
+#define READER_HOVER_SIZE 256
+
+// The reading record, one for each file, handed down through all levels of the reader.
+typedef struct T_READING {
+    t_Window *window;  // the page window once it exists
+    u8 *line_map;      // a byte per line, 1 for a line the reader didn't take; 2 bytes per line
+    u32 lines_read;
+    u32 lines_total;
+} T_READING;
+
+// What the declarations of the PAGE block's head said.
+typedef struct T_DECLARATIONS {
+    STRING head_line;
+    u16 saved;  // the declaration word
+} T_DECLARATIONS;
+
+// The declaration word's bits.
+#define DECL_APP_CONFIG 0x1
+#define DECL_WINDOW 0x2
+#define DECL_WINDOW_INIT 0x4
+#define DECL_HANDLER_CLEAR 0x8
+#define DECL_GADGET 0x10
+#define DECL_GADGET_INIT 0x20
+#define DECL_MENU 0x40
+#define DECL_MENU_INIT 0x80
+#define DECL_WINDOW_INIT_CLEAR 0x100
+#define DECL_GADGET_INIT_CLEAR 0x200
+#define DECL_MENU_INIT_CLEAR 0x400
+
+// The page window read from `path`, or null; OpenPageFile shows the message.
+t_Window *OpenPage(t_Window *parent, const char *path);
+const char *ReadPageBody(t_Window *parent, const char *position, const char *end, T_READING *reading,
+                         T_DECLARATIONS *declarations);
+int MatchDeclaration(T_DECLARATIONS *declarations, const char *line);
+int MatchClearLine(T_DECLARATIONS *declarations, const char *line);
+
+const char *ReadWindowBlock(t_Window *parent, const char *position, const char *end, T_READING *reading);
+const char *ReadGadgetsFromFile(t_Window *window, const char *position, const char *end, T_READING *reading);
+
+// The scanners, which see nothing but one line.
+int LineHasWord(const char *line, const char *word);
+const char *ValueText(const char *line);
+u32 FieldValue(const char *line, int n);
+const char *NextNameToken(const char *text, char *token);
+u32 ReadNameList(const char *line, const T_VAL2STRING *table);
+
+// The tool that makes a gadget of this type and flags, 0 for none.
+i16 ToolOfType(u16 type, u32 flags);
+
+// Opens a page from its file: refuses a file already open, reads it, repairs duplicate item codes
+// and numbers the tab order. Null (after a message box) when nothing was opened.
+t_Window *OpenPageFile(t_Window *main_window, const char *path);
+void ResolveTabOrder(t_Window *window);

@@ -1,0 +1,32 @@
+// The source writer: a page window, its gadgets and the settings become the text of a page file.
+#pragma once
+#include "page/records.h"
+
+// Writes the page `window` to the file `path` in the form the settings choose (optimised or
+// full, type order, backup first). Changes only the tab links, and with the type order the order
+// and priorities of the gadget list. A backup that can't be made aborts the save with a message
+// box and leaves the old file untouched; a file that can't be written leaves the old one whole
+// and a message box naming the file and the reason.
+void SavePage(t_Window *window, const char *path);
+
+// Works out tab[0] and tab[1] of every gadget of the page from their tab_index.
+void BuildTabLinks(t_Window *window);
+
+// The MESSAGE block: a case for each idcmp row set, one for each gadget with an item code.
+// `gadget_handler` may be null (no gadget cases).
+void SaveMessageFunction(u32 idcmp, const char *plain_name, t_Gaget_Handler *gadget_handler);
+
+// One GADGET block. With `full` false a statement is written only when the gadget's value differs
+// from `previous_values`; either way each field of `previous_values` takes the gadget's value.
+void SaveGadget(t_gadget *gadget, T_GADGETOBJECTINIT *previous_values, int full);
+
+// Writes the names of the bits of `value` found alone in `table`, joined by '|' ("0" when none),
+// then ";\n".
+void SaveNameList(const T_VAL2STRING *table, u32 value);
+
+// The statements of one value: the text before it, the value, ";\n".
+void SaveDecimal(const char *before, i32 value);
+void SaveHex(const char *before, u32 value);
+void SaveNames(const char *before, const T_VAL2STRING *table, u32 value);
+// The text between the quotes that end `before` and "\";\n", written raw.
+void SaveText(const char *before, const char *text);

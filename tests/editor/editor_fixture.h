@@ -1,0 +1,129 @@
+// The editor suites' fixture: the whole application headless with one page of 400 by 300 drawn on
+// the main window, gadgets made through the catalogue, and the mouse and keys of a person, with
+// qualifiers where a gesture needs them.
+#pragma once
+#include <gtest/gtest.h>
+#include <string.h>
+
+#include "display/display.h"
+#include "editor/mouse_editing.h"
+#include "editor/page_commands.h"
+#include "editor/page_painter.h"
+#include "editor/page_window.h"
+#include "editor/undo_records.h"
+#include "page/catalogue.h"
+#include "shell/main_window.h"
+#include "tests/editor/page_invariants.h"
+#include "tests/harness/harness.h"
+
+// The catalogue's tools used here.
+#define TOOL_CHECK_BOX 1
+#define TOOL_LIST_BOX 2
+#define TOOL_RADIO 3
+#define TOOL_SLIDER_H 4
+#define TOOL_SLIDER_V 5
+#define TOOL_TEXT 6
+#define TOOL_TREE 8
+#define TOOL_GROUP 11
+#define TOOL_BUTTON 12
+
+// Main window commands.
+#define COMMAND_UNDO 263
+#define COMMAND_REDO 264
+#define COMMAND_SELECT_ALL 268
+#define COMMAND_SELECT_NONE 269
+#define COMMAND_INVERSE 270
+#define COMMAND_TAB_ORDER 277
+
+#define PAST_DOUBLE_CLICK_MS 500
+
+// After a step, the page's records must still hold together.
+#define CHECK_PAGE() EXPECT_EQ(CheckPageInvariants(page), "")
+
+class PageTest : public ::testing::Test {
+protected:
+    T_HARNESS harness;
+    t_Window *page = NULL;
+    T_WINEDIT_HANDLER *record = NULL;
+    t_Gaget_Handler *gadgets = NULL;
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(HarnessStart(&harness, NULL, 1024, 700));
+        page = CreatePageWindow(harness.main_window, (char *)"Test", 0x7C, 40, 60, 440, 360);
+        ASSERT_NE(page, nullptr);
+        record = (T_WINEDIT_HANDLER *)page->user_data;
+        gadgets = FindGadgetHandler(page);
+        if (!record->head.paint)  // until the page window hooks the painter in itself
+            record->head.paint = PagePaint;
+        SetActivePage(page, page);
+        ISetActiveWindow(page);
+        UserTurns(1);
+    }
+
+    void TearDown() override { HarnessStop(&harness, 0); }
+
+    // A gadget at x, y of the user area, as the catalogue makes it; it becomes the current one.
+    t_gadget *Make(u16 tool, i16 x, i16 y, i16 w, i16 h)
+    {
+        T_GADGETOBJECTINIT init;
+        FillNewGadgetInit(&init, x, y, w, h);
+        t_gadget *gadget = CreateGadgetByTool(page, (i16)tool, &init);
+        RecalcUserSize(page);
+        return gadget;
+    }
+
+    i16 AbsX(i16 x) { return (i16)(page->user_x + x); }
+    i16 AbsY(i16 y) { return (i16)(page->user_y + y); }
+    static i16 MidX(const t_gadget *g) { return (i16)(g->screen_x + g->base_width / 2); }
+    static i16 MidY(const t_gadget *g) { return (i16)(g->screen_y + g->base_height / 2); }
+    static int Marked(const t_gadget *g) { return (g->live_flags & GADGET_MARK_SELECTED) != 0; }
+    static void Mark(t_gadget *g) { g->live_flags |= GADGET_MARK_SELECTED; }
+    int Modified() { return (page->state_flags & WSF_MODIFIED) != 0; }
+    u32 Records() { return CountListEntries(&record->undo.nodes); }
+    const char *UndoLabel() { return record->undo.current ? record->undo.current->name : ""; }
+    T_TOOLBAR_HANDLER *Toolbar() { return PageToolBar(page); }
+    void Command(u32 item_code) { SendWindowMessage(harness.main_window, item_code, ACT_MENU_PICK, NULL); }
+    static void Advance() { HeadlessAdvance(PAST_DOUBLE_CLICK_MS); }
+
+    // Raw input with qualifiers held, taken by turning the loop.
+    static void Push(u16 kind, i16 x, i16 y, u16 button, u16 qualifiers)
+    {
+        T_INPUT_EVENT event;
+        memset(&event, 0, sizeof(event));
+        event.kind = kind;
+        event.x = x;
+        event.y = y;
+        event.button = button;
+        event.qualifiers = qualifiers;
+        HeadlessPush(&event);
+        for (u32 guard = 0; HeadlessPending() && guard < 100; guard++)
+            RefreshHandlers(NULL);
+        RefreshHandlers(NULL);
+    }
+    static void Press(i16 x, i16 y, u16 qualifiers = 0)
+    {
+        Push(INPUT_MOUSE_MOVE, x, y, 0, qualifiers);
+        Push(INPUT_MOUSE_DOWN, x, y, 1, qualifiers);
+    }
+    static void Move(i16 x, i16 y, u16 qualifiers = 0) { Push(INPUT_MOUSE_MOVE, x, y, 0, qualifiers); }
+    static void Release(i16 x, i16 y, u16 qualifiers = 0)
+    {
+        Push(INPUT_MOUSE_MOVE, x, y, 0, qualifiers);
+        Push(INPUT_MOUSE_UP, x, y, 1, qualifiers);
+        Advance();
+    }
+    static void Click(i16 x, i16 y, u16 qualifiers = 0)
+    {
+        Press(x, y, qualifiers);
+        Release(x, y, qualifiers);
+    }
+    // A left drag in steps, each painted, released at the end.
+    static void Drag(i16 x1, i16 y1, i16 x2, i16 y2, u16 qualifiers = 0)
+    {
+        Press(x1, y1, qualifiers);
+        for (int i = 1; i <= 4; i++)
+            Move((i16)(x1 + (x2 - x1) * i / 4), (i16)(y1 + (y2 - y1) * i / 4), qualifiers);
+        Release(x2, y2, qualifiers);
+    }
+};

@@ -1,0 +1,348 @@
+// Page commands: delete, centre, size to contents, align, same size, the selection commands, and
+// the gadget context menu's form with its geometry records.
+#include "tests/editor/editor_fixture.h"
+
+#include "shell/menus.h"
+
+class CommandTest : public PageTest {
+protected:
+    // Gives the page a user area of w by h.
+    void SizeUserArea(i16 w, i16 h)
+    {
+        T_RPOS frame = {page->x, page->y, (i16)(page->w - page->user_w + w), (i16)(page->h - page->user_h + h)};
+        ResizeWindow(page, &frame);
+        RecalcUserSize(page);
+        page->state_flags &= ~WSF_MODIFIED;
+    }
+    u32 Count() { return CountListEntries(&gadgets->gadget_list); }
+};
+
+TEST_F(CommandTest, CentringHalvesBeforeSubtracting)
+{
+    struct {
+        u32 direction;
+        i16 area, size, expected;
+    } const cases[] = {
+        {CENTRE_HORIZONTAL, 300, 101, 100},
+        {CENTRE_HORIZONTAL, 301, 101, 100},
+        {CENTRE_HORIZONTAL, 300, 100, 100},
+        {CENTRE_VERTICAL, 200, 21, 90},
+        {CENTRE_VERTICAL, 201, 20, 90},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << c.area << "/" << c.size);
+        SizeUserArea(c.area, c.area);
+        ASSERT_EQ(page->user_w, c.area);
+        t_gadget *g = Make(TOOL_BUTTON, 7, 9, c.size, c.size);
+        ClearAllMarkedGadgets(g);  // nothing marked: the current gadget is centred
+        CentreMarkedGadgets(page, c.direction);
+        CHECK_PAGE();
+        if (c.direction == CENTRE_HORIZONTAL) {
+            EXPECT_EQ(g->pos_x, c.expected);
+            EXPECT_EQ(g->pos_y, 9);
+        } else {
+            EXPECT_EQ(g->pos_y, c.expected);
+            EXPECT_EQ(g->pos_x, 7);
+        }
+        EXPECT_FALSE(Marked(g));
+        EXPECT_TRUE(Modified());
+        EXPECT_EQ(Records(), 0u);
+        Mark(g);
+        DeleteMarkedGadgets(page);
+    }
+    // Nothing marked and no current gadget: nothing to centre, the page stays clean.
+    page->state_flags &= ~WSF_MODIFIED;
+    CentreMarkedGadgets(page, CENTRE_VERTICAL);
+    EXPECT_FALSE(Modified());
+}
+
+TEST_F(CommandTest, SizeToContentsFitsTheTextInTheSystemFont)
+{
+    T_FONT *before = GetActiveFont();
+    SetActiveFont(DISPLAY_RECORD->system_font);
+    SetFontStyle(0);
+    i16 P = (i16)GetActiveFontHeight();
+    struct {
+        u16 tool;
+        u32 flags;
+        const char *name;
+        int with_box, with_icon;
+    } const cases[] = {
+        {TOOL_CHECK_BOX, 0, "New Checkbox", 1, 0},
+        {TOOL_CHECK_BOX, GADGET_FLAGS_ICON, "New Checkbox", 1, 1},
+        {TOOL_RADIO, 0, "New Radio button", 1, 0},
+        {TOOL_BUTTON, 0, "New Button", 0, 0},
+        {TOOL_TEXT, GADGET_FLAGS_ICON, "New Text", 0, 1},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name);
+        SetActiveFont(DISPLAY_RECORD->system_font);
+        i16 text = (i16)GetStringWidth(c.name);
+        t_gadget *g = Make(c.tool, 20, 20, 200, 50);
+        g->live_flags |= c.flags;
+        ASSERT_STREQ(g->name, c.name);
+        SizeGadgetToContents(page, g);
+        CHECK_PAGE();
+        i16 F = (i16)(P + 2);
+        EXPECT_EQ(g->base_height, F);
+        EXPECT_EQ(g->base_width, text + 3 + (c.with_box ? P : 0) + (c.with_icon ? F : 0));
+        Mark(g);
+        DeleteMarkedGadgets(page);
+    }
+    SetActiveFont(before);
+}
+
+TEST_F(CommandTest, SizeToContentLeavesOtherTypesAndMarksOnlyWhenSized)
+{
+    t_gadget *slider = Make(TOOL_SLIDER_H, 20, 20, 120, 20);
+    page->state_flags &= ~WSF_MODIFIED;
+    ClearAllMarkedGadgets(slider);
+    Mark(slider);
+    SizeMarkedToContents(page);
+    CHECK_PAGE();
+    EXPECT_EQ(slider->base_width, 120);
+    EXPECT_EQ(slider->base_height, 20);
+    EXPECT_FALSE(Marked(slider));
+    EXPECT_FALSE(Modified());
+    t_gadget *button = Make(TOOL_BUTTON, 20, 60, 200, 50);
+    ClearAllMarkedGadgets(button);
+    Mark(button);
+    Mark(slider);
+    SizeMarkedToContents(page);
+    EXPECT_NE(button->base_width, 200);
+    EXPECT_EQ(slider->base_width, 120);
+    EXPECT_TRUE(Modified());
+    EXPECT_EQ(CountMarkedGadgets(button), 0u);
+    EXPECT_EQ(Records(), 0u);  // the main menu's form makes no record
+    UserTurns(1);
+    EXPECT_EQ(record->handle_gadget, nullptr);  // nothing marked: no handles
+}
+
+TEST_F(CommandTest, DeleteTakesTheMarkedOrTheCurrentGadget)
+{
+    struct {
+        int mark_a, mark_b;
+        int current;    // 0 none, 1 a, 2 b
+        int a_stays, b_stays;
+    } const cases[] = {
+        {1, 0, 2, 0, 1},
+        {0, 0, 2, 1, 0},  // nothing marked: the current gadget goes
+        {0, 0, 0, 1, 1},  // neither: nothing goes, the page is modified all the same
+        {1, 1, 0, 0, 0},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << c.mark_a << c.mark_b << c.current);
+        t_gadget *a = Make(TOOL_BUTTON, 20, 20, 60, 20);
+        t_gadget *b = Make(TOOL_BUTTON, 20, 60, 60, 20);
+        ClearAllMarkedGadgets(a);
+        if (c.mark_a)
+            Mark(a);
+        if (c.mark_b)
+            Mark(b);
+        gadgets->current_gadget = c.current == 1 ? a : c.current == 2 ? b : NULL;
+        page->state_flags &= ~WSF_MODIFIED;
+        DeleteMarkedGadgets(page);
+        CHECK_PAGE();
+        EXPECT_EQ(Count(), (u32)(c.a_stays + c.b_stays));
+        EXPECT_TRUE(Modified());
+        EXPECT_EQ(CountMarkedGadgets(gadgets->first_gadget), 0u);
+        Command(COMMAND_SELECT_ALL);
+        DeleteMarkedGadgets(page);
+    }
+}
+
+TEST_F(CommandTest, DeletingAGadgetClosesItsPropertiesWindowFirst)
+{
+    t_gadget *a = Make(TOOL_BUTTON, 20, 20, 60, 20);
+    t_gadget *b = Make(TOOL_BUTTON, 20, 60, 60, 20);
+    T_WINDOWOBJINIT init;
+    memset(&init, 0, sizeof(init));
+    init.x = 200, init.y = 20, init.w = 150, init.h = 100;
+    init.flags = WF_CHILD;
+    init.parent = page;
+    t_Window *dialogs[2];
+    t_gadget **edited[2];
+    t_gadget *gadget_of[2] = {a, b};
+    for (int i = 0; i < 2; i++) {
+        dialogs[i] = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, "Properties for", &init);
+        ASSERT_NE(dialogs[i], nullptr);
+        edited[i] = (t_gadget **)AllocMemC(sizeof(t_gadget *));
+        *edited[i] = gadget_of[i];
+        dialogs[i]->user_data = edited[i];
+    }
+    EXPECT_EQ(FindGadgetPropertyWindow(page, b), dialogs[1]);
+    ClearAllMarkedGadgets(a);
+    Mark(a);
+    DeleteMarkedGadgets(page);
+    CHECK_PAGE();
+    EXPECT_FALSE(IsWindowLive(dialogs[0]));
+    EXPECT_TRUE(IsWindowLive(dialogs[1]));
+    for (int i = 0; i < 2; i++) {
+        dialogs[i]->user_data = NULL;
+        FreeMem(edited[i], sizeof(t_gadget *));
+    }
+}
+
+TEST_F(CommandTest, AlignAndSameSizeFollowTheCurrentGadget)
+{
+    struct {
+        int operation;  // 0 left edges, 1 top edges, 2 same size
+    } const cases[] = {{0}, {1}, {2}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.operation);
+        t_gadget *reference = Make(TOOL_BUTTON, 50, 30, 90, 30);
+        t_gadget *a = Make(TOOL_BUTTON, 120, 100, 40, 20);
+        t_gadget *b = Make(TOOL_BUTTON, 200, 160, 60, 24);
+        ClearAllMarkedGadgets(a);
+        Mark(a);
+        Mark(b);
+        gadgets->current_gadget = reference;  // not marked itself
+        page->state_flags &= ~WSF_MODIFIED;
+        if (c.operation == 0)
+            AlignMarkedGadgets(page, ALIGN_LEFT_EDGES);
+        else if (c.operation == 1)
+            AlignMarkedGadgets(page, ALIGN_TOP_EDGES);
+        else
+            SameSizeMarkedGadgets(page);
+        CHECK_PAGE();
+        for (t_gadget *g : {a, b}) {
+            EXPECT_EQ(g->pos_x == 50, c.operation == 0);
+            EXPECT_EQ(g->pos_y == 30, c.operation == 1);
+            EXPECT_EQ(g->base_width == 90 && g->base_height == 30, c.operation == 2);
+        }
+        EXPECT_EQ(reference->pos_x, 50);
+        EXPECT_EQ(reference->base_width, 90);
+        EXPECT_EQ(CountMarkedGadgets(a), 0u);
+        EXPECT_TRUE(Modified());
+        // Without a current gadget nothing changes, the marks neither.
+        Mark(a);
+        gadgets->current_gadget = NULL;
+        page->state_flags &= ~WSF_MODIFIED;
+        i16 x = a->pos_x, w = a->base_width;
+        AlignMarkedGadgets(page, ALIGN_LEFT_EDGES);
+        SameSizeMarkedGadgets(page);
+        EXPECT_EQ(a->pos_x, x);
+        EXPECT_EQ(a->base_width, w);
+        EXPECT_TRUE(Marked(a));
+        EXPECT_FALSE(Modified());
+        Command(COMMAND_SELECT_ALL);
+        DeleteMarkedGadgets(page);
+    }
+}
+
+TEST_F(CommandTest, SelectionCommandsChangeOnlyTheMarks)
+{
+    t_gadget *a = Make(TOOL_BUTTON, 20, 20, 60, 20);
+    t_gadget *b = Make(TOOL_BUTTON, 20, 60, 60, 20);
+    ClearAllMarkedGadgets(a);
+    Mark(a);
+    struct {
+        u32 command;
+        int a, b;
+    } const steps[] = {
+        {COMMAND_INVERSE, 0, 1},
+        {COMMAND_SELECT_ALL, 1, 1},
+        {COMMAND_INVERSE, 0, 0},  // Select All, then Inverse: nothing marked
+        {COMMAND_SELECT_ALL, 1, 1},
+        {COMMAND_SELECT_NONE, 0, 0},
+    };
+    for (const auto &s : steps) {
+        Command(s.command);
+        EXPECT_EQ(Marked(a), s.a) << s.command;
+        EXPECT_EQ(Marked(b), s.b) << s.command;
+        CHECK_PAGE();
+    }
+    EXPECT_FALSE(Modified());
+    EXPECT_EQ(Records(), 0u);
+}
+
+TEST_F(CommandTest, GadgetMenuFormRecordsEachGadgetItChanged)
+{
+    struct {
+        u32 item;
+        int mark_button, mark_slider, mark_other;
+        u32 records;   // made by the command
+        int modified;
+    } const cases[] = {
+        {GADGET_MENU_SIZE_TO_CONTENTS, 1, 1, 0, 1, 1},  // the slider isn't sized: no record
+        {GADGET_MENU_SIZE_TO_CONTENTS, 0, 0, 0, 1, 1},  // nothing marked: the current button
+        {GADGET_MENU_ALIGN_LEFT, 1, 1, 0, 2, 1},
+        {GADGET_MENU_ALIGN_TOP, 0, 1, 1, 2, 1},
+        {GADGET_MENU_SAME_SIZE, 1, 0, 1, 2, 1},
+        {GADGET_MENU_SAME_SIZE, 0, 0, 0, 0, 0},  // nothing marked: nothing changes
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << std::hex << c.item << std::dec << c.mark_button << c.mark_slider
+                                        << c.mark_other);
+        t_gadget *button = Make(TOOL_BUTTON, 40, 30, 200, 40);
+        t_gadget *slider = Make(TOOL_SLIDER_H, 100, 100, 120, 20);
+        t_gadget *other = Make(TOOL_BUTTON, 150, 150, 70, 26);
+        ClearAllMarkedGadgets(button);
+        if (c.mark_button)
+            Mark(button);
+        if (c.mark_slider)
+            Mark(slider);
+        if (c.mark_other)
+            Mark(other);
+        gadgets->current_gadget = button;
+        page->state_flags &= ~WSF_MODIFIED;
+        EmptyUndoList(&record->undo);
+        ApplyGadgetMenuCommand(page, c.item);
+        CHECK_PAGE();
+        EXPECT_EQ(Records(), c.records);
+        EXPECT_EQ(Modified(), c.modified);
+        EXPECT_EQ(CountMarkedGadgets(button), 0u);  // the marks go last
+        // Each record takes its gadget back.
+        for (u32 i = 0; i < c.records; i++)
+            Command(COMMAND_UNDO);
+        CHECK_PAGE();
+        EXPECT_EQ(button->pos_x, 40);
+        EXPECT_EQ(button->base_width, 200);
+        EXPECT_EQ(slider->pos_x, 100);
+        EXPECT_EQ(other->pos_y, 150);
+        EXPECT_EQ(other->base_width, 70);
+        Command(COMMAND_SELECT_ALL);
+        DeleteMarkedGadgets(page);
+    }
+}
+
+TEST_F(CommandTest, FontFromTheSelectorGoesToTheMarkedGadgets)
+{
+    t_gadget *a = Make(TOOL_BUTTON, 20, 20, 60, 20);
+    t_gadget *b = Make(TOOL_BUTTON, 20, 60, 60, 20);
+    t_gadget *c = Make(TOOL_BUTTON, 20, 100, 60, 20);
+    T_FONTSEL_INIT init;
+    memset(&init, 0, sizeof(init));
+    init.parent = page;
+    init.item_code = PAGE_ITEM_FONT;
+    init.title = "Choose font";
+    init.path = MakePathFromSystem("System\\Fonts");
+    init.default_pattern = "*.*";
+    init.button_text = "Open";
+    t_Window *selector = NewFontSelector(&init);
+    ASSERT_NE(selector, nullptr);
+    T_FONTSEL *fontsel = (T_FONTSEL *)selector->user_data;
+    struct {
+        const char *chosen;  // "" picks nothing
+        int a_gets, b_gets;
+    } const cases[] = {{"", 0, 0}, {"DejaVuSans-Bold.ttf", 1, 1}};
+    for (const auto &k : cases) {
+        SCOPED_TRACE(k.chosen);
+        snprintf(fontsel->directory, sizeof(fontsel->directory), "%s", "/usr/share/fonts/truetype/dejavu");
+        snprintf(fontsel->chosen, sizeof(fontsel->chosen), "%s", k.chosen);
+        ClearAllMarkedGadgets(a);
+        Mark(a);
+        Mark(b);
+        ApplyFontToMarked(page, selector);
+        CHECK_PAGE();
+        EXPECT_EQ(a->font != NULL, k.a_gets);
+        EXPECT_EQ(b->font != NULL, k.b_gets);
+        EXPECT_EQ(c->font, nullptr);
+        EXPECT_EQ(CountMarkedGadgets(a), 0u);
+    }
+    ASSERT_NE(a->font, nullptr);
+    EXPECT_STREQ(a->font->name, "DejaVuSans-Bold.ttf");
+    EXPECT_EQ(a->font, b->font);
+    EXPECT_EQ(a->font->use_count, 2u);  // each gadget holds a use of its own
+    RemoveWindow(selector);
+}

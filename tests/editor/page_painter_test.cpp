@@ -1,0 +1,193 @@
+// The page painter: frames by mark, handles on a single selection, the mouse image over a handle,
+// handle resizes with the type's own record following, and tab-order mode's overlay.
+#include "tests/editor/editor_fixture.h"
+
+static u32 Pixel(i16 x, i16 y)
+{
+    i32 width, height, pitch;
+    u32 *pixels = display->pixels(&width, &height, &pitch);
+    return pixels[y * pitch + x];
+}
+
+// How many pixels of the row from x1 to x2 have the colour.
+static int CountInRow(i16 y, i16 x1, i16 x2, u32 colour)
+{
+    int n = 0;
+    for (i16 x = x1; x <= x2; x++)
+        n += Pixel(x, y) == colour;
+    return n;
+}
+
+TEST_F(PageTest, FrameColourFollowsTheMarks)
+{
+    struct {
+        u32 marks;
+        u32 colour;  // 0: no frame
+    } const cases[] = {
+        {GADGET_MARK_SELECTED, 0xFFFFFF},
+        {GADGET_MARK_SELECTED | GADGET_MARK_DRAG, 0xFF00FF},
+        {GADGET_MARK_DRAG, 0xFFFF00},
+        {0, 0},
+    };
+    t_gadget *g = Make(TOOL_BUTTON, 60, 60, 80, 24);
+    gadgets->current_gadget = NULL;  // no handles over the frame
+    const u32 colours[] = {0xFFFFFF, 0xFF00FF, 0xFFFF00};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.marks);
+        g->live_flags = (g->live_flags & ~(GADGET_MARK_SELECTED | GADGET_MARK_DRAG)) | c.marks;
+        UserTurns(1);
+        i16 y = (i16)(g->screen_y - 1), x1 = (i16)(g->screen_x - 1), x2 = (i16)(g->screen_x + g->base_width);
+        for (u32 colour : colours) {
+            if (colour == c.colour) {
+                EXPECT_GT(CountInRow(y, x1, x2, colour), g->base_width / 4);
+            } else {
+                EXPECT_EQ(CountInRow(y, x1, x2, colour), 0);
+            }
+        }
+    }
+}
+
+TEST_F(PageTest, HandlesShowOnTheCurrentGadgetWhenExactlyOneIsMarked)
+{
+    t_gadget *a = Make(TOOL_BUTTON, 40, 40, 60, 20);
+    t_gadget *b = Make(TOOL_BUTTON, 40, 120, 60, 20);
+    u32 handle_colour = DISPLAY_RECORD->handle_colour;
+    struct {
+        int mark_a, mark_b;
+        t_gadget *current;
+        int tab_mode;
+        t_gadget *expected;
+    } const cases[] = {
+        {1, 0, a, 0, a},
+        {0, 1, a, 0, a},  // one marked while another is current: the current one has the handles
+        {1, 1, a, 0, NULL},
+        {0, 0, a, 0, NULL},
+        {1, 0, NULL, 0, NULL},
+        {1, 0, a, 1, NULL},  // tab-order mode draws numbers instead
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << c.mark_a << c.mark_b << (c.current != NULL) << c.tab_mode);
+        ClearAllMarkedGadgets(a);
+        if (c.mark_a)
+            Mark(a);
+        if (c.mark_b)
+            Mark(b);
+        gadgets->current_gadget = c.current;
+        record->edit_state = c.tab_mode ? EDIT_TAB_ORDER : 0;
+        UserTurns(1);
+        CHECK_PAGE();
+        EXPECT_EQ(record->handle_gadget, c.expected);
+        // The bottom right handle box, solid in the handle colour, only when handles show.
+        EXPECT_EQ(Pixel((i16)(a->screen_x + a->base_width + 3), (i16)(a->screen_y + a->base_height + 3)) ==
+                      handle_colour,
+                  c.expected == a);
+        if (c.mark_b && !c.tab_mode) {  // the marked gadget keeps its frame
+            EXPECT_GT(CountInRow((i16)(b->screen_y - 1), b->screen_x, (i16)(b->screen_x + 59), 0xFFFFFF), 0);
+        }
+    }
+}
+
+TEST_F(PageTest, MouseOverAHandleShowsItsResizeImage)
+{
+    t_gadget *g = Make(TOOL_BUTTON, 100, 100, 60, 30);
+    ClearAllMarkedGadgets(g);
+    Mark(g);
+    i16 X = g->screen_x, Y = g->screen_y, W = g->base_width, H = g->base_height;
+    struct {
+        i16 x, y;
+        u16 image;
+    } const cases[] = {
+        {(i16)(X - 3), (i16)(Y - 3), MOUSE_IMAGE_SIZE_NWSE},
+        {(i16)(X + W / 2), (i16)(Y - 3), MOUSE_IMAGE_SIZE_NS},
+        {(i16)(X + W + 3), (i16)(Y - 3), MOUSE_IMAGE_SIZE_NESW},
+        {(i16)(X - 3), (i16)(Y + H / 2), MOUSE_IMAGE_SIZE_WE},
+        {(i16)(X + W + 3), (i16)(Y + H / 2), MOUSE_IMAGE_SIZE_WE},
+        {(i16)(X - 3), (i16)(Y + H + 3), MOUSE_IMAGE_SIZE_NESW},
+        {(i16)(X + W / 2), (i16)(Y + H + 3), MOUSE_IMAGE_SIZE_NS},
+        {(i16)(X + W + 3), (i16)(Y + H + 3), MOUSE_IMAGE_SIZE_NWSE},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << c.x - X << "," << c.y - Y);
+        Move(c.x, c.y);
+        EXPECT_EQ(HeadlessCursor(), c.image);
+    }
+}
+
+TEST_F(PageTest, HandleHeldStillKeepsMarkingAndChangesNoSize)
+{
+    t_gadget *g = Make(TOOL_BUTTON, 100, 100, 60, 30);
+    i16 x = (i16)(g->screen_x + g->base_width + 2), y = (i16)(g->screen_y + g->base_height + 2);
+    Press(x, y);  // the bottom right box: the corner goes to the mouse at each repaint
+    UserTurns(1);
+    i16 w = g->base_width, h = g->base_height;
+    for (int i = 0; i < 5; i++) {
+        page->state_flags &= ~WSF_MODIFIED;
+        UserTurns(1);
+        EXPECT_TRUE(Modified());
+        EXPECT_EQ(g->base_width, w);
+        EXPECT_EQ(g->base_height, h);
+        CHECK_PAGE();
+    }
+    Release(x, y);
+    CHECK_PAGE();
+}
+
+TEST_F(PageTest, SliderResizeSetsItsMarksByOrientation)
+{
+    struct {
+        u16 tool;
+        u32 orientation;  // as set on the gadget before the resize
+        i16 mark_width, mark_height;
+    } const cases[] = {
+        {TOOL_SLIDER_H, GADGET_FLAGS_HORIZONTAL, 8, 26},
+        {TOOL_SLIDER_V, GADGET_FLAGS_VERTICAL, 116, 8},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.tool);
+        t_gadget *g = Make(c.tool, 50, 50, 100, 20);
+        ASSERT_NE(g->class_data, 0u);
+        EXPECT_EQ(g->live_flags & GADGET_FLAGS_XY, c.orientation);
+        T_SLIDER_DATA *slider = (T_SLIDER_DATA *)g->class_data;
+        page->mouse_x = (i16)(g->screen_x + 120);
+        page->mouse_y = (i16)(g->screen_y + 30);
+        ApplyHandleResize(page, g, HANDLE_BOTTOM_RIGHT);
+        EXPECT_EQ(g->base_width, 120);
+        EXPECT_EQ(g->base_height, 30);
+        EXPECT_EQ(slider->mark_width, c.mark_width);
+        EXPECT_EQ(slider->mark_height, c.mark_height);
+        EXPECT_EQ(slider->slider_width, 120);
+        EXPECT_EQ(slider->slider_height, 30);
+        EXPECT_EQ(slider->track_width, 120);
+        EXPECT_EQ(slider->track_height, 30);
+        EXPECT_TRUE(Modified());
+        CHECK_PAGE();
+        // Without an orientation the record stays as it was.
+        g->live_flags &= ~GADGET_FLAGS_XY;
+        page->mouse_x = (i16)(g->screen_x + 90);
+        ApplyHandleResize(page, g, HANDLE_RIGHT);
+        EXPECT_EQ(g->base_width, 90);
+        EXPECT_EQ(slider->slider_width, 120);
+        EXPECT_EQ(slider->mark_width, c.mark_width);
+    }
+}
+
+TEST_F(PageTest, ListAndTreeResizeSetTheirResizedBit)
+{
+    struct {
+        u16 tool;
+        u8 bit;
+    } const cases[] = {{TOOL_LIST_BOX, LIST_RESIZED}, {TOOL_TREE, TREE_RESIZED}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.tool);
+        t_gadget *g = Make(c.tool, 50, 50, 100, 80);
+        ASSERT_NE(g->class_data, 0u);
+        T_LIST_DATA *list = (T_LIST_DATA *)g->class_data;
+        list->resized_flags = 0;
+        page->mouse_x = (i16)(g->screen_x + g->base_width);
+        page->mouse_y = (i16)(g->screen_y + 120);
+        ApplyHandleResize(page, g, HANDLE_BOTTOM);
+        EXPECT_EQ(g->base_height, 120);
+        EXPECT_EQ(list->resized_flags, c.bit);
+        CHECK_PAGE();
+    }
+}

@@ -1,0 +1,150 @@
+// Undo records: creation and geometry taken back and done again through the main window's Undo and
+// Redo, their labels, the modified bit, and records whose gadget has gone.
+#include "tests/editor/editor_fixture.h"
+
+class UndoTest : public PageTest {
+protected:
+    // A gadget made with a tool by a drag on the background, as a person makes it.
+    t_gadget *Draw(u16 tool, i16 x, i16 y, i16 w, i16 h)
+    {
+        SetActiveToolBarEntry(Toolbar(), tool);
+        Drag(AbsX(x), AbsY(y), AbsX((i16)(x + w)), AbsY((i16)(y + h)));
+        return (t_gadget *)gadgets->gadget_list.last;
+    }
+    u32 Count() { return CountListEntries(&gadgets->gadget_list); }
+};
+
+TEST_F(UndoTest, UndoAndRedoOfACreatedGadget)
+{
+    t_gadget *g = Draw(TOOL_BUTTON, 40, 40, 80, 24);
+    ASSERT_EQ(Count(), 1u);
+    g->item_code = 9;  // what the user set on the old gadget is gone after a redo
+    EXPECT_TRUE(Modified());
+    Command(COMMAND_UNDO);
+    CHECK_PAGE();
+    EXPECT_EQ(Count(), 0u);
+    EXPECT_FALSE(Modified());  // the history is empty: the page is clean
+    EXPECT_EQ(record->drag_gadget, nullptr);
+    Command(COMMAND_REDO);
+    CHECK_PAGE();
+    ASSERT_EQ(Count(), 1u);
+    t_gadget *again = gadgets->first_gadget;
+    EXPECT_EQ(again->type, GADGET_TYPE_BUTTON);
+    EXPECT_EQ(again->pos_x, 40);
+    EXPECT_EQ(again->pos_y, 40);
+    EXPECT_EQ(again->base_width, 80);
+    EXPECT_EQ(again->base_height, 24);
+    EXPECT_EQ(again->item_code, 1u);
+    EXPECT_FALSE(Marked(again));
+    EXPECT_TRUE(Modified());
+    EXPECT_EQ(gadgets->current_gadget, nullptr);  // no gadget is current after Redo
+}
+
+TEST_F(UndoTest, GeometryRecordsTakeBackPositionAndSizeTogether)
+{
+    t_gadget *g = Draw(TOOL_BUTTON, 40, 40, 80, 24);
+    enum { MIDDLE, TOP_LEFT_BOX, RIGHT_BOX };
+    struct {
+        const char *label;
+        int where;  // of the press
+        i16 dx, dy;
+    } const cases[] = {
+        {UNDO_LABEL_MOVE, MIDDLE, 30, 20},
+        {UNDO_LABEL_RESIZE, TOP_LEFT_BOX, -10, -10},
+        {UNDO_LABEL_RESIZE, RIGHT_BOX, 25, 0},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.label);
+        UserClick(MidX(g), MidY(g), 1);  // selected and current: the handles show
+        i16 x = g->x, y = g->y, w = g->base_width, h = g->base_height;
+        i16 px = c.where == MIDDLE ? MidX(g) : c.where == TOP_LEFT_BOX ? (i16)(g->screen_x - 3) : (i16)(g->screen_x + w + 3);
+        i16 py = c.where == TOP_LEFT_BOX ? (i16)(g->screen_y - 3) : MidY(g);
+        Drag(px, py, (i16)(px + c.dx), (i16)(py + c.dy));
+        CHECK_PAGE();
+        EXPECT_STREQ(UndoLabel(), c.label);
+        i16 after_x = g->x, after_y = g->y, after_w = g->base_width, after_h = g->base_height;
+        EXPECT_TRUE(after_x != x || after_y != y || after_w != w || after_h != h);
+        Command(COMMAND_UNDO);
+        CHECK_PAGE();
+        EXPECT_EQ(g->x, x);
+        EXPECT_EQ(g->y, y);
+        EXPECT_EQ(g->base_width, w);
+        EXPECT_EQ(g->base_height, h);
+        EXPECT_EQ(gadgets->current_gadget, nullptr);
+        Command(COMMAND_REDO);
+        CHECK_PAGE();
+        EXPECT_EQ(g->x, after_x);
+        EXPECT_EQ(g->y, after_y);
+        EXPECT_EQ(g->base_width, after_w);
+        EXPECT_EQ(g->base_height, after_h);
+    }
+}
+
+TEST_F(UndoTest, AClickMakesARecordThatChangesNothing)
+{
+    t_gadget *g = Draw(TOOL_BUTTON, 40, 40, 80, 24);
+    u32 records = Records();
+    UserClick(MidX(g), MidY(g), 1);
+    EXPECT_EQ(Records(), records + 1);
+    EXPECT_STREQ(UndoLabel(), UNDO_LABEL_MOVE);
+    i16 x = g->x, y = g->y, w = g->base_width;
+    Command(COMMAND_UNDO);
+    EXPECT_EQ(g->x, x);
+    EXPECT_EQ(g->y, y);
+    EXPECT_EQ(g->base_width, w);
+    EXPECT_EQ(Count(), 1u);  // it still took a turn: the creation is next
+    EXPECT_STREQ(UndoLabel(), UNDO_LABEL_CREATE);
+    CHECK_PAGE();
+}
+
+TEST_F(UndoTest, GeometryFollowsAGadgetMadeAgainByRedo)
+{
+    t_gadget *g = Draw(TOOL_BUTTON, 40, 40, 80, 24);
+    UserClick(MidX(g), MidY(g), 1);
+    Drag(MidX(g), MidY(g), (i16)(MidX(g) + 50), (i16)(MidY(g) + 30));
+    ASSERT_EQ(g->pos_x, 90);
+    Command(COMMAND_UNDO);  // the drag
+    Command(COMMAND_UNDO);  // the click
+    Command(COMMAND_UNDO);  // the creation: the gadget is freed
+    EXPECT_EQ(Count(), 0u);
+    CHECK_PAGE();
+    Command(COMMAND_REDO);  // a new gadget
+    Command(COMMAND_REDO);
+    Command(COMMAND_REDO);  // the drag again, on the new gadget
+    CHECK_PAGE();
+    ASSERT_EQ(Count(), 1u);
+    EXPECT_EQ(gadgets->first_gadget->pos_x, 90);
+    EXPECT_EQ(gadgets->first_gadget->pos_y, 70);
+}
+
+TEST_F(UndoTest, RecordsOfADeletedGadgetDoNothing)
+{
+    t_gadget *a = Draw(TOOL_BUTTON, 40, 40, 80, 24);
+    t_gadget *b = Make(TOOL_BUTTON, 40, 120, 80, 24);  // made outside the history
+    ClearAllMarkedGadgets(a);
+    Drag(MidX(b), MidY(b), (i16)(MidX(b) + 30), MidY(b));
+    UserClick(MidX(a), MidY(a), 1);
+    DeleteMarkedGadgets(page);  // a goes; the history stays
+    CHECK_PAGE();
+    ClearAllMarkedGadgets(b);
+    Mark(b);
+    DeleteMarkedGadgets(page);  // b goes too
+    CHECK_PAGE();
+    // A new gadget may take a freed address; no record may take it for the old one.
+    t_gadget *c = Make(TOOL_BUTTON, 200, 200, 50, 20);
+    i16 x = c->pos_x, y = c->pos_y, w = c->base_width;
+    u32 records = Records();
+    for (u32 i = 0; i < records; i++) {
+        Command(COMMAND_UNDO);
+        CHECK_PAGE();
+    }
+    EXPECT_EQ(Count(), 1u);
+    for (u32 i = 0; i < records; i++) {
+        Command(COMMAND_REDO);
+        CHECK_PAGE();
+    }
+    EXPECT_EQ(Count(), 1u);
+    EXPECT_EQ(c->pos_x, x);
+    EXPECT_EQ(c->pos_y, y);
+    EXPECT_EQ(c->base_width, w);
+}

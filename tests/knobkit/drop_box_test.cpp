@@ -1,0 +1,100 @@
+// Drop boxes: the list opens on a press, an entry is picked by a click or by releasing the
+// opening press on it, and the list closes on a pick, on Escape, and on a press outside.
+#include "knobkit_fixture.h"
+
+static T_LIST_DATA *ListOf(t_gadget *g) { return (T_LIST_DATA *)g->class_data; }
+
+static t_Window *OpenPopup() {
+    for (t_Node *n = CURRENT_DISPLAY->window_class->windows.first; n->next; n = n->next)
+        if (IsPopup((t_Window *)n) && IsWindowLive((t_Window *)n)) return (t_Window *)n;
+    return nullptr;
+}
+
+static i16 PopupRowY(t_gadget *g, t_Window *popup, i32 row) {
+    i16 row_h = GadgetFontHeight(g) + 2;
+    return (i16)(popup->y + 1 + row * row_h + row_h / 2);
+}
+
+TEST_F(GadgetTest, DropBoxOpensPicksAndCloses) {
+    t_gadget *g = MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 160, 0, 10, 4);
+    EXPECT_EQ(ListOf(g)->selected, 0);  // the first entry shows
+    EXPECT_GT(g->base_height, 0);
+    Turn();
+    recorded.clear();
+    Click(MidX(g), MidY(g));
+    t_Window *popup = OpenPopup();
+    ASSERT_NE(popup, nullptr);
+    EXPECT_TRUE(g->gadget_state & GSTATE_OPEN);
+    EXPECT_EQ(popup->y, g->screen_y + g->base_height);  // below the box
+    EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 0u);        // opening picks nothing
+    Click(MidX(g), PopupRowY(g, popup, 3));
+    EXPECT_EQ(ListOf(g)->selected, 3);
+    EXPECT_EQ(OpenPopup(), nullptr);
+    EXPECT_FALSE(g->gadget_state & GSTATE_OPEN);
+    ASSERT_EQ(CountRecorded(ACT_LMOUSE_UP), 1u);
+    EXPECT_EQ(recorded.back().item_code, 4u);
+    EXPECT_EQ(recorded.back().data, g);
+}
+
+TEST_F(GadgetTest, DropBoxClosesWithoutAPick) {
+    t_gadget *g = MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 160, 0, 10);
+    Turn();
+    struct {
+        const char *how;
+        int key;     // a key, or
+        i16 dx, dy;  // a click at this offset from the box's middle
+    } rows[] = {
+        {"Escape", KEY_ESCAPE, 0, 0},
+        {"outside", 0, 0, 250},
+        {"on the box", 0, 0, 0},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.how);
+        Click(MidX(g), MidY(g));
+        ASSERT_NE(OpenPopup(), nullptr);
+        recorded.clear();
+        if (row.key)
+            Key((u16)row.key);
+        else
+            Click(MidX(g) + row.dx, MidY(g) + row.dy);
+        Turn();
+        EXPECT_EQ(OpenPopup(), nullptr);
+        EXPECT_EQ(ListOf(g)->selected, 0);
+        EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 0u);
+    }
+}
+
+TEST_F(GadgetTest, DropBoxPicksByDragAndByKeys) {
+    t_gadget *g = MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 160, 0, 20);
+    Turn();
+    Press(MidX(g), MidY(g));
+    t_Window *popup = OpenPopup();
+    ASSERT_NE(popup, nullptr);
+    Move(MidX(g), PopupRowY(g, popup, 5));
+    Release(MidX(g), PopupRowY(g, popup, 5));
+    EXPECT_EQ(ListOf(g)->selected, 5);
+    EXPECT_EQ(OpenPopup(), nullptr);
+    HeadlessAdvance(1000);
+    SetCurrentGadget(window, g);
+    recorded.clear();
+    Key(KEY_DOWN);  // closed: the next entry
+    EXPECT_EQ(ListOf(g)->selected, 6);
+    EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 1u);
+    Key(' ');  // opens; then the keys go to the open list
+    ASSERT_NE(OpenPopup(), nullptr);
+    Key(KEY_DOWN);
+    Key(KEY_DOWN);
+    Key(KEY_RETURN);
+    EXPECT_EQ(ListOf(g)->selected, 8);
+    EXPECT_EQ(OpenPopup(), nullptr);
+}
+
+TEST_F(GadgetTest, DropBoxGoesWithItsOpenList) {
+    t_gadget *g = MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 160, 0, 3);
+    Turn();
+    Click(MidX(g), MidY(g));
+    ASSERT_NE(OpenPopup(), nullptr);
+    RemoveObject(&handler->head, g);
+    Turn();
+    EXPECT_EQ(OpenPopup(), nullptr);
+}

@@ -1,0 +1,133 @@
+// The key editor "Keyboard": commands listed by group with their keys, a picked command takes the
+// next key, a key another command has is refused, and the commands follow the new keys at once.
+#include <filesystem>
+
+#include "lumora/menu_internal.h"
+#include "pickett_fixture.h"
+
+enum { KEYS_LIST = 1, KEYS_HINT };
+
+class KeyEditor : public PickettTest {
+  protected:
+    T_APPLICATION *app = nullptr;
+    t_Window *editor = nullptr;
+
+    void SetUp() override {
+        PickettTest::SetUp();
+        MakeParent(IDCMP_TERMINATE | IDCMP_KEY);
+        app = NewApplication("KeyTest");
+        // group   name    item code  key
+        SetAppCommandGroup(app, "File");
+        RegisterAppCommand(app, "Open", "Open a document", 256, KEY_CTRL('O'), 0);
+        RegisterAppCommand(app, "Save", "Save the document", 259, KEY_CTRL('S'), 0);
+        SetAppCommandGroup(app, "Edit");
+        RegisterAppCommand(app, "Undo", "Undo the last operation", 263, KEY_CTRL('Z'), 0);
+        RegisterAppCommand(app, "Select None", "Select nothing", 269, 0, 0);
+        app->window = parent;
+        editor = OpenApplicationCmdEditWindow(parent, app);
+        ASSERT_NE(editor, nullptr);
+        Turn();
+    }
+
+    void TearDown() override {
+        FreeApplication(app);
+        PickettTest::TearDown();
+    }
+
+    t_gadget *List() { return FindGadgetByItemCode(editor, KEYS_LIST); }
+
+    void PickRow(int row) {
+        i16 x, y;
+        ListRowPoint(List(), row, &x, &y);
+        Click(x, y);
+    }
+
+    // What ExecuteAppCommand makes of a key: the item code that reached the parent, or 0.
+    u32 RunKey(u16 key) {
+        spy.clear();
+        T_KEY_MSG km = {key, 0};
+        ExecuteAppCommand(app, nullptr, &km);
+        return spy.empty() ? 0 : spy[0].item_code;
+    }
+
+    bool EditorStands() { return FindWindowByName(parent, "Keyboard") != nullptr; }
+};
+
+TEST_F(KeyEditor, ListsTheCommandsByGroupWithTheirKeys) {
+    EXPECT_EQ(editor->parent, parent);
+    EXPECT_EQ(ListTexts(List()),
+              (std::vector<std::string>{"File: Open    Ctrl+O", "File: Save    Ctrl+S",
+                                        "Edit: Undo    Ctrl+Z", "Edit: Select None"}));
+    EXPECT_STREQ(FindGadgetByItemCode(editor, KEYS_HINT)->name,
+                 "Pick a command, then press the new key");
+}
+
+TEST_F(KeyEditor, APickedCommandTakesTheNextKeyAndRunsWithIt) {
+    T_MENU_HANDLER *menus = NewMenuHandler(parent);
+    T_MENUOBJECTINIT mi = {};
+    mi.kind = MENU_KIND_TITLE;
+    CreateObject(&menus->head, "File", &mi);
+    t_Menu *entry = AddApplicationCmdMenu(app, menus, &mi, 256);
+    ASSERT_NE(entry, nullptr);
+
+    PickRow(0);
+    EXPECT_NE(std::string(FindGadgetByItemCode(editor, KEYS_HINT)->name).find("Open"),
+              std::string::npos);
+    Key(KEY_CTRL('P'), QUAL_CONTROL);
+    EXPECT_EQ(FindAppCommandByCode(app, 256)->key, (u32)KEY_CTRL('P'));
+    EXPECT_EQ(ListTexts(List())[0], "File: Open    Ctrl+P");
+    EXPECT_EQ(MenuEntryKey(entry), (u32)KEY_CTRL('P'));
+    EXPECT_EQ(RunKey(KEY_CTRL('P')), 256u);
+    EXPECT_EQ(RunKey(KEY_CTRL('O')), 0u);
+    EXPECT_TRUE(std::filesystem::exists(data_root + "/keys/KeyTest.keys"));
+
+    PickRow(3);  // a command without a key gets one; the next key after that is nobody's
+    Key(KEY_F1 + 4);
+    EXPECT_EQ(RunKey(KEY_F1 + 4), 269u);
+    Key('q');
+    EXPECT_EQ(RunKey('q'), 0u);
+    EXPECT_TRUE(EditorStands());
+}
+
+TEST_F(KeyEditor, AKeyAnotherCommandHasIsRefusedWithAMessage) {
+    PickRow(1);
+    Key(KEY_CTRL('Z'), QUAL_CONTROL);
+    EXPECT_EQ(FindAppCommandByCode(app, 259)->key, (u32)KEY_CTRL('S'));
+    EXPECT_EQ(FindAppCommandByCode(app, 263)->key, (u32)KEY_CTRL('Z'));
+    EXPECT_EQ(RunKey(KEY_CTRL('Z')), 263u);
+    t_Window *box = FindWindowByName(editor, "Keyboard");
+    ASSERT_NE(box, nullptr);
+    EXPECT_FALSE(std::filesystem::exists(data_root + "/keys/KeyTest.keys"));
+    Key(KEY_RETURN);  // the box goes; the pick stands, and the next key is taken
+    EXPECT_EQ(FindWindowByName(editor, "Keyboard"), nullptr);
+    Key(KEY_CTRL('K'), QUAL_CONTROL);
+    EXPECT_EQ(FindAppCommandByCode(app, 259)->key, (u32)KEY_CTRL('K'));
+}
+
+TEST_F(KeyEditor, EscapeDropsAPickThenClosesAsDoesTheCloseGadget) {
+    PickRow(0);
+    Key(KEY_ESCAPE);
+    EXPECT_TRUE(EditorStands());
+    EXPECT_EQ(FindAppCommandByCode(app, 256)->key, (u32)KEY_CTRL('O'));
+    Key(KEY_DOWN);  // moving the highlight picks nothing
+    Key('x');
+    EXPECT_EQ(RunKey('x'), 0u);
+    Key(KEY_ESCAPE);
+    Turn();
+    EXPECT_FALSE(EditorStands());
+
+    editor = OpenApplicationCmdEditWindow(parent, app);
+    Turn();
+    ASSERT_TRUE(EditorStands());
+    SendWindowMessage(editor, 0, ACT_TERMINATE, nullptr);
+    Turn();
+    EXPECT_FALSE(EditorStands());
+}
+
+TEST_F(KeyEditor, EnterPicksTheHighlightedCommand) {
+    Key(KEY_DOWN);
+    Key(KEY_DOWN);
+    Key(KEY_RETURN);
+    Key(KEY_CTRL('U'), QUAL_CONTROL);
+    EXPECT_EQ(FindAppCommandByCode(app, 259)->key, (u32)KEY_CTRL('U'));
+}

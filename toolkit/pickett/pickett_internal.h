@@ -1,0 +1,79 @@
+// What the selectors of Pickett share and no user of the toolkit sees: reading a folder for a
+// selector's list, wildcard patterns, and the path steps of the file selector.
+#pragma once
+#include "toolkit.h"
+
+#define PICKETT_PATH_SIZE 1024  // the paths the selectors keep and build
+
+// One entry of a folder as a selector lists it.
+typedef struct T_FOLDER_ENTRY {
+    T_NODE_FIELDS(struct T_FOLDER_ENTRY);  // name: the file or folder name; ".." is the way up
+    u16 is_folder;
+    u16 from;  // which folder it was read from, when a list gathers several (the font selector)
+} T_FOLDER_ENTRY;
+
+#define FOLDER_FILES_ONLY 0x1  // ReadFolder: no folders and no way up
+
+// True when `name` matches `pattern`: '*' any run of characters, '?' one character, letters
+// compared without case; ';' separates alternatives ("*.fnt;*.*"). "*.*" and an empty or null
+// pattern match every name.
+int MatchPattern(const char *pattern, const char *name);
+
+// Appends the entries of `folder` to `entries` (which the caller has initialised): first ".."
+// unless the folder is "/", then the folders, then the files that match `pattern`, each group
+// sorted by name without case; "." never shows. Entries get `from`. Returns false when the
+// folder can't be read: that is logged and nothing is added.
+int ReadFolder(t_List *entries, const char *folder, const char *pattern, u32 flags, u16 from);
+void FreeFolderEntries(t_List *entries);
+T_FOLDER_ENTRY *FindFolderEntry(t_List *entries, const char *name, u16 from);
+
+// The nearest existing folder at or above `path` (relative paths count from the working folder),
+// without a trailing '/', into `dest` of `size` bytes; "/" at worst.
+char *NearestFolder(char *dest, u32 size, const char *path);
+// The folder above `folder` ("/" stays "/").
+char *ParentFolder(char *dest, u32 size, const char *folder);
+// `folder` joined with `name`, without doubling the '/'.
+char *JoinPath(char *dest, u32 size, const char *folder, const char *name);
+
+// Splits a typed name into the answer: a name with a full path ("/a/b/c.cpp") gives that folder
+// and name, a name with a relative path is taken from `folder`. False for an empty name, one
+// that ends in '/' or one too long for the answer's name (logged); the answer is then left as it
+// was.
+int SplitTypedName(T_FILE_REQUESTER_ANSWER *answer, const char *folder, const char *typed);
+
+// Where a selector opens: centred on the parent's frame (or the screen), kept on the screen; the
+// result counts from the parent's user area, as a T_WINDOWOBJINIT wants it.
+void PlaceSelector(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h);
+// Delivers a selector's answer through the parent's message mask: message 0x1000 + n reaches it
+// only when bit n of the mask given at its creation is set. Returns the message function's result.
+u32 AnswerParent(t_Window *parent, u32 item_code, u32 msg, void *data);
+
+// The font selector's list: the files of `folder` that match `patterns` (from 0), then the
+// machine's fonts (from 1, FONT_MACHINE_FOLDER, "*.ttf"), leaving out a machine font whose name
+// the folder already has, since a font is found again by its name in the folder first. A missing
+// folder adds nothing; one that can't be read adds nothing and is logged.
+#define FONT_MACHINE_FOLDER "/usr/share/fonts/truetype/dejavu"
+void ReadFontList(t_List *entries, const char *folder, const char *patterns);
+
+// --- The gadgets the selectors are built of (gadgets.cpp) ----------------------------------------
+#define SELECTOR_PAD 8
+#define SELECTOR_GAP 6
+#define SELECTOR_BUTTON_W 80
+#define SELECTOR_FIELD_SIZE 256  // a string field's buffer, its terminator included
+
+i16 SelectorRowHeight(void);  // a field's or button's height, from the system font
+t_gadget *MakeSelectorGadget(t_Gaget_Handler *handler, u16 type, const char *name, u32 item_code,
+                             u32 action, void *data);
+// A string field that edits `buffer` (SELECTOR_FIELD_SIZE bytes) in place.
+t_gadget *MakeSelectorField(t_Gaget_Handler *handler, char *buffer, u32 item_code);
+// Puts new text into a field's buffer and its cursor at the end.
+void SetSelectorField(t_gadget *field, char *buffer, const char *text);
+// A list box; its entries object is in *list.
+t_gadget *MakeSelectorList(t_Gaget_Handler *handler, u32 item_code, T_LIST_DATA **list);
+// Replaces the list box's entries by the texts of `entries` (folders with a trailing '/').
+void FillSelectorList(t_gadget *gadget, T_LIST_DATA *list, t_List *entries);
+void ClearSelectorList(T_LIST_DATA *list);
+// The list box's highlighted row as a node of `entries`, or null.
+t_Node *SelectedNode(T_LIST_DATA *list, t_List *entries);
+// Places a gadget in its window's user area and re-measures it.
+void PlaceGadget(t_gadget *gadget, i16 x, i16 y, i16 w, i16 h);
