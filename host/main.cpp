@@ -152,6 +152,10 @@ int main(int argc, char **argv)
                         "or quillform --headless --script FILE\n");
         return 2;
     }
+    // The folders the editor's selectors start in.
+    static const char *const folders[] = {"Projects/QfFiles", "System/Fonts", "Bitmaps"};
+    for (const char *folder : folders)
+        MakeEntireDirectory(MakePathFromSystem(folder));
     T_OPEN_FN open = LoadModule();
     if (!open) {
         CloseToolkit();

@@ -7,6 +7,8 @@
 
 #include "host/user_actions.h"
 
+#define TOOLBAR_WINDOW_NAME "qftoolbar"  // the name the editor gives its toolbar
+
 typedef struct T_SCRIPT_WORD {
     const char *word;
     u16 verb;
@@ -28,6 +30,7 @@ static const T_SCRIPT_WORD script_words[] = {
     {"turns", SCRIPT_TURNS, 1, 0},
     {"screenshot", SCRIPT_SCREENSHOT, 0, 1},
     {"click-gadget", SCRIPT_CLICK_GADGET, 1, 2},
+    {"click-tool", SCRIPT_CLICK_TOOL, 1, 0},
     {"expect-window", SCRIPT_EXPECT_WINDOW, 0, 3},
     {"expect-no-window", SCRIPT_EXPECT_NO_WINDOW, 0, 3},
 };
@@ -225,6 +228,15 @@ static int PlayStep(const T_SCRIPT_STEP *step, char *error, size_t size)
         i16 x, y;
         if (!FindGadgetCentre(step->text, (u32)n[0], &x, &y)) {
             snprintf(error, size, "no gadget %d in a window \"%.300s\"", n[0], step->text);
+            return 0;
+        }
+        UserClick(x, y, 1);
+        return 1;
+    }
+    case SCRIPT_CLICK_TOOL: {
+        i16 x, y;
+        if (!FindToolCentre(TOOLBAR_WINDOW_NAME, (u16)n[0], &x, &y)) {
+            snprintf(error, size, "no tool %d on the toolbar", n[0]);
             return 0;
         }
         UserClick(x, y, 1);

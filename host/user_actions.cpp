@@ -209,3 +209,14 @@ int FindGadgetCentre(const char *window_name, u32 item_code, i16 *x, i16 *y)
     *y = (i16)(gadget->screen_y + gadget->base_height / 2);
     return 1;
 }
+
+int FindToolCentre(const char *toolbar_name, u16 entry, i16 *x, i16 *y)
+{
+    t_Window *window = FindLiveWindow(toolbar_name);
+    T_RPOS rect;
+    if (!window || !GetToolBarEntryRect((T_TOOLBAR_HANDLER *)window->user_data, entry, &rect))
+        return 0;
+    *x = (i16)(rect.x + rect.w / 2);
+    *y = (i16)(rect.y + rect.h / 2);
+    return 1;
+}

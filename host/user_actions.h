@@ -21,3 +21,5 @@ int ParseKeySpec(const char *spec, u16 *key, u16 *qualifiers);
 // The centre of a gadget of a live window found by name (any level), by item code; false if none.
 int FindGadgetCentre(const char *window_name, u32 item_code, i16 *x, i16 *y);
 t_Window *FindLiveWindow(const char *name);
+// The centre of a toolbar's button, the toolbar found as a live window by name; false if none.
+int FindToolCentre(const char *toolbar_name, u16 entry, i16 *x, i16 *y);

@@ -421,6 +421,8 @@ T_TOOLBAR_HANDLER *NewToolBar(t_Window *window, const char *name);
 void AddToolBarIcon(T_TOOLBAR_HANDLER *toolbar, const char *label, u16 icon, u32 item_code);
 u16 GetActiveToolBarEntry(T_TOOLBAR_HANDLER *toolbar);
 void SetActiveToolBarEntry(T_TOOLBAR_HANDLER *toolbar, u16 entry);
+// The absolute rectangle of an entry's button; false when there is no such entry.
+int GetToolBarEntryRect(T_TOOLBAR_HANDLER *toolbar, u16 entry, T_RPOS *rect);
 
 // --- The loop ------------------------------------------------------------------------------------
 // Starts the toolkit on the chosen display back end; false when the display can't be opened.

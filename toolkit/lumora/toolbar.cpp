@@ -238,3 +238,11 @@ void SetActiveToolBarEntry(T_TOOLBAR_HANDLER *toolbar, u16 entry)
     toolbar->active = entry;
     RequestRepaint();
 }
+
+int GetToolBarEntryRect(T_TOOLBAR_HANDLER *toolbar, u16 entry, T_RPOS *rect)
+{
+    if (!toolbar || entry >= CountListEntries(&toolbar->entries))
+        return 0;
+    *rect = ButtonRect(toolbar->window, entry);
+    return 1;
+}
