@@ -101,7 +101,7 @@ static int ParseLine(T_SCRIPT_STEP *step, const char *line)
                 return 0;
             snprintf(step->text, sizeof(step->text), "%s", at);
             if (w.verb == SCRIPT_KEY)
-                return ParseKeySpec(step->text, &step->key, &step->qualifiers);
+                return ParseKeyName(step->text, &step->key, &step->qualifiers);
             return 1;
         }
         return AtEnd(at);

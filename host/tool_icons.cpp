@@ -3,7 +3,6 @@
 // light fills and one blue accent.
 #include "tool_icons.h"
 
-#include <stdlib.h>
 
 #define TOOL_RGB(r, g, b) (0xFF000000u | ((u32)(b) << 16) | ((u32)(g) << 8) | (u32)(r))
 
@@ -14,73 +13,11 @@ static const u32 SHADE = TOOL_RGB(0xA8, 0xAC, 0xB4);
 static const u32 ACCENT = TOOL_RGB(0x2F, 0x6F, 0xC4);
 static const u32 CLEAR = 0;
 
-// One icon being drawn.
-typedef struct T_CANVAS {
-    u32 *pixels;
-} T_CANVAS;
-
-static void Plot(T_CANVAS *c, i32 x, i32 y, u32 colour)
-{
-    if (x >= 0 && y >= 0 && x < TOOL_ICON_SIZE && y < TOOL_ICON_SIZE)
-        c->pixels[y * TOOL_ICON_SIZE + x] = colour;
-}
-
-static void Fill(T_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 colour)
-{
-    for (i32 row = y; row < y + h; row++)
-        for (i32 col = x; col < x + w; col++)
-            Plot(c, col, row, colour);
-}
-
-static void Frame(T_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 colour)
-{
-    Fill(c, x, y, w, 1, colour);
-    Fill(c, x, y + h - 1, w, 1, colour);
-    Fill(c, x, y, 1, h, colour);
-    Fill(c, x + w - 1, y, 1, h, colour);
-}
-
 // A box with an outline.
-static void Box(T_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 fill)
+static void Box(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 fill)
 {
-    Fill(c, x, y, w, h, fill);
-    Frame(c, x, y, w, h, INK);
-}
-
-static void Line(T_CANVAS *c, i32 x1, i32 y1, i32 x2, i32 y2, u32 colour)
-{
-    i32 dx = abs(x2 - x1), dy = -abs(y2 - y1);
-    i32 sx = x1 < x2 ? 1 : -1, sy = y1 < y2 ? 1 : -1, err = dx + dy;
-    for (;;) {
-        Plot(c, x1, y1, colour);
-        if (x1 == x2 && y1 == y2)
-            return;
-        i32 e2 = 2 * err;
-        if (e2 >= dy)
-            err += dy, x1 += sx;
-        if (e2 <= dx)
-            err += dx, y1 += sy;
-    }
-}
-
-// A disc round the pixel centre (cx, cy): the pixels whose centres lie within r.
-static void Disc(T_CANVAS *c, i32 cx, i32 cy, i32 r, u32 colour)
-{
-    for (i32 y = cy - r; y <= cy + r; y++)
-        for (i32 x = cx - r; x <= cx + r; x++)
-            if ((x - cx) * (x - cx) + (y - cy) * (y - cy) <= r * r + r / 2)
-                Plot(c, x, y, colour);
-}
-
-// Rows of a pattern, each pixel `scale` wide: '#' the ink, 'o' the fill, others left alone.
-static void Pattern(T_CANVAS *c, i32 x, i32 y, const char *const *rows, i32 scale, u32 ink, u32 fill)
-{
-    for (i32 row = 0; rows[row]; row++)
-        for (i32 col = 0; rows[row][col]; col++) {
-            char p = rows[row][col];
-            if (p == '#' || p == 'o')
-                Fill(c, x + col * scale, y + row * scale, scale, scale, p == '#' ? ink : fill);
-        }
+    IconFill(c, x, y, w, h, fill);
+    IconFrame(c, x, y, w, h, INK);
 }
 
 // Letters of five by seven, and small arrows.
@@ -98,132 +35,132 @@ static const char *const POINTER[] = {
     "#ooooo#",   "#oooooo#",    "#ooooooo#",   "#oooooooo#",  "#ooooo#####", "#oo#oo#",
     "#o# #oo#",  "##  #oo#",    "#    #oo#",   "     #oo#",   "      ##",   NULL};
 
-static void DrawCheckBox(T_CANVAS *c)
+static void DrawCheckBox(T_ICON_CANVAS *c)
 {
     Box(c, 3, 3, 18, 18, PAPER);
     for (i32 d = 0; d < 3; d++) {
-        Line(c, 7, 11 + d, 10, 14 + d, ACCENT);
-        Line(c, 10, 14 + d, 17, 7 + d, ACCENT);
+        IconLine(c, 7, 11 + d, 10, 14 + d, ACCENT);
+        IconLine(c, 10, 14 + d, 17, 7 + d, ACCENT);
     }
 }
 
-static void DrawListBox(T_CANVAS *c)
+static void DrawListBox(T_ICON_CANVAS *c)
 {
     Box(c, 1, 2, 22, 20, PAPER);
-    Fill(c, 17, 3, 5, 18, FACE);
-    Line(c, 16, 3, 16, 20, INK);
-    Fill(c, 18, 5, 3, 6, SHADE);
-    Fill(c, 4, 5, 10, 3, SHADE);
-    Fill(c, 2, 9, 14, 5, ACCENT);
-    Fill(c, 4, 10, 9, 3, PAPER);
-    Fill(c, 4, 15, 8, 3, SHADE);
+    IconFill(c, 17, 3, 5, 18, FACE);
+    IconLine(c, 16, 3, 16, 20, INK);
+    IconFill(c, 18, 5, 3, 6, SHADE);
+    IconFill(c, 4, 5, 10, 3, SHADE);
+    IconFill(c, 2, 9, 14, 5, ACCENT);
+    IconFill(c, 4, 10, 9, 3, PAPER);
+    IconFill(c, 4, 15, 8, 3, SHADE);
 }
 
-static void DrawSelector(T_CANVAS *c)
+static void DrawSelector(T_ICON_CANVAS *c)
 {
-    Pattern(c, 7, 3, POINTER, 1, INK, PAPER);
+    IconPattern(c, 7, 3, POINTER, 1, INK, PAPER);
 }
 
-static void DrawRadioButton(T_CANVAS *c)
+static void DrawRadioButton(T_ICON_CANVAS *c)
 {
-    Disc(c, 12, 12, 9, INK);
-    Disc(c, 12, 12, 8, PAPER);
-    Disc(c, 12, 12, 4, ACCENT);
+    IconDisc(c, 12.5f, 12.5f, 9.22f, INK);
+    IconDisc(c, 12.5f, 12.5f, 8.25f, PAPER);
+    IconDisc(c, 12.5f, 12.5f, 4.24f, ACCENT);
 }
 
-static void DrawVerticalSlider(T_CANVAS *c)
+static void DrawVerticalSlider(T_ICON_CANVAS *c)
 {
     Box(c, 10, 2, 4, 20, FACE);
     Box(c, 5, 9, 14, 6, ACCENT);
 }
 
-static void DrawHorizontalSlider(T_CANVAS *c)
+static void DrawHorizontalSlider(T_ICON_CANVAS *c)
 {
     Box(c, 2, 10, 20, 4, FACE);
     Box(c, 9, 5, 6, 14, ACCENT);
 }
 
-static void DrawLabelText(T_CANVAS *c)
+static void DrawLabelText(T_ICON_CANVAS *c)
 {
-    Pattern(c, 1, 5, LETTER_A, 2, INK, INK);
-    Pattern(c, 13, 5, LETTER_a, 2, INK, INK);
+    IconPattern(c, 1, 5, LETTER_A, 2, INK, INK);
+    IconPattern(c, 13, 5, LETTER_a, 2, INK, INK);
 }
 
-static void DrawStringEntry(T_CANVAS *c)
+static void DrawStringEntry(T_ICON_CANVAS *c)
 {
     Box(c, 1, 6, 22, 12, PAPER);
-    Pattern(c, 4, 8, LETTER_a, 1, INK, INK);
-    Pattern(c, 10, 8, LETTER_b, 1, INK, INK);
-    Line(c, 17, 8, 17, 15, ACCENT);
-    Line(c, 16, 8, 18, 8, ACCENT);
-    Line(c, 16, 15, 18, 15, ACCENT);
+    IconPattern(c, 4, 8, LETTER_a, 1, INK, INK);
+    IconPattern(c, 10, 8, LETTER_b, 1, INK, INK);
+    IconLine(c, 17, 8, 17, 15, ACCENT);
+    IconLine(c, 16, 8, 18, 8, ACCENT);
+    IconLine(c, 16, 15, 18, 15, ACCENT);
 }
 
-static void DrawTree(T_CANVAS *c)
+static void DrawTree(T_ICON_CANVAS *c)
 {
-    Line(c, 5, 9, 5, 19, INK);
-    Line(c, 6, 12, 11, 12, INK);
-    Line(c, 6, 19, 11, 19, INK);
+    IconLine(c, 5, 9, 5, 19, INK);
+    IconLine(c, 6, 12, 11, 12, INK);
+    IconLine(c, 6, 19, 11, 19, INK);
     Box(c, 2, 2, 7, 7, ACCENT);
     Box(c, 12, 9, 9, 6, PAPER);
     Box(c, 12, 16, 9, 6, PAPER);
 }
 
-static void DrawHorizontalScrollBar(T_CANVAS *c)
+static void DrawHorizontalScrollBar(T_ICON_CANVAS *c)
 {
     Box(c, 1, 7, 22, 10, FACE);
-    Line(c, 6, 8, 6, 15, INK);
-    Line(c, 17, 8, 17, 15, INK);
-    Pattern(c, 2, 10, ARROW_LEFT, 1, INK, INK);
-    Pattern(c, 19, 10, ARROW_RIGHT, 1, INK, INK);
-    Fill(c, 8, 9, 6, 6, ACCENT);
+    IconLine(c, 6, 8, 6, 15, INK);
+    IconLine(c, 17, 8, 17, 15, INK);
+    IconPattern(c, 2, 10, ARROW_LEFT, 1, INK, INK);
+    IconPattern(c, 19, 10, ARROW_RIGHT, 1, INK, INK);
+    IconFill(c, 8, 9, 6, 6, ACCENT);
 }
 
-static void DrawVerticalScrollBar(T_CANVAS *c)
+static void DrawVerticalScrollBar(T_ICON_CANVAS *c)
 {
     Box(c, 7, 1, 10, 22, FACE);
-    Line(c, 8, 6, 15, 6, INK);
-    Line(c, 8, 17, 15, 17, INK);
-    Pattern(c, 10, 2, ARROW_UP, 1, INK, INK);
-    Pattern(c, 10, 19, ARROW_DOWN, 1, INK, INK);
-    Fill(c, 9, 8, 6, 6, ACCENT);
+    IconLine(c, 8, 6, 15, 6, INK);
+    IconLine(c, 8, 17, 15, 17, INK);
+    IconPattern(c, 10, 2, ARROW_UP, 1, INK, INK);
+    IconPattern(c, 10, 19, ARROW_DOWN, 1, INK, INK);
+    IconFill(c, 9, 8, 6, 6, ACCENT);
 }
 
 // A frame whose top edge gives way to its title.
-static void DrawGroup(T_CANVAS *c)
+static void DrawGroup(T_ICON_CANVAS *c)
 {
-    Frame(c, 3, 8, 20, 15, PAPER);
-    Frame(c, 2, 7, 20, 15, INK);
-    Fill(c, 4, 7, 14, 2, CLEAR);
-    Pattern(c, 5, 4, LETTER_A, 1, ACCENT, ACCENT);
-    Pattern(c, 11, 4, LETTER_b, 1, ACCENT, ACCENT);
+    IconFrame(c, 3, 8, 20, 15, PAPER);
+    IconFrame(c, 2, 7, 20, 15, INK);
+    IconFill(c, 4, 7, 14, 2, CLEAR);
+    IconPattern(c, 5, 4, LETTER_A, 1, ACCENT, ACCENT);
+    IconPattern(c, 11, 4, LETTER_b, 1, ACCENT, ACCENT);
 }
 
-static void DrawButton(T_CANVAS *c)
+static void DrawButton(T_ICON_CANVAS *c)
 {
-    Fill(c, 1, 5, 22, 14, FACE);
-    Line(c, 2, 6, 21, 6, PAPER);
-    Line(c, 2, 6, 2, 17, PAPER);
-    Line(c, 3, 17, 21, 17, SHADE);
-    Line(c, 21, 7, 21, 17, SHADE);
-    Frame(c, 1, 5, 22, 14, INK);
-    Pattern(c, 6, 9, LETTER_O, 1, INK, INK);
-    Pattern(c, 13, 9, LETTER_K, 1, INK, INK);
+    IconFill(c, 1, 5, 22, 14, FACE);
+    IconLine(c, 2, 6, 21, 6, PAPER);
+    IconLine(c, 2, 6, 2, 17, PAPER);
+    IconLine(c, 3, 17, 21, 17, SHADE);
+    IconLine(c, 21, 7, 21, 17, SHADE);
+    IconFrame(c, 1, 5, 22, 14, INK);
+    IconPattern(c, 6, 9, LETTER_O, 1, INK, INK);
+    IconPattern(c, 13, 9, LETTER_K, 1, INK, INK);
 }
 
-static void DrawDropBox(T_CANVAS *c)
+static void DrawDropBox(T_ICON_CANVAS *c)
 {
     Box(c, 1, 6, 22, 12, PAPER);
-    Fill(c, 15, 7, 7, 10, FACE);
-    Line(c, 14, 7, 14, 16, INK);
-    Pattern(c, 16, 10, ARROW_DOWN, 1, INK, INK);
-    Fill(c, 4, 10, 8, 3, SHADE);
+    IconFill(c, 15, 7, 7, 10, FACE);
+    IconLine(c, 14, 7, 14, 16, INK);
+    IconPattern(c, 16, 10, ARROW_DOWN, 1, INK, INK);
+    IconFill(c, 4, 10, 8, 3, SHADE);
 }
 
 //  place                            drawing
 static const struct {
     u16 icon;
-    void (*draw)(T_CANVAS *canvas);
+    void (*draw)(T_ICON_CANVAS *canvas);
 } tool_icons[] = {
     {TOOL_ICON_CHECK_BOX, DrawCheckBox},
     {TOOL_ICON_LIST_BOX, DrawListBox},
@@ -249,7 +186,7 @@ T_TEXTURE_BANK *MakeToolIconBank(void)
         return NULL;
     }
     for (const auto &row : tool_icons) {
-        T_CANVAS canvas = {bank->pixels + row.icon * TOOL_ICON_SIZE * TOOL_ICON_SIZE};
+        T_ICON_CANVAS canvas = IconCanvas(bank, row.icon);
         row.draw(&canvas);
     }
     return bank;

@@ -129,11 +129,11 @@ static const T_QUALIFIER_NAME qualifier_names[] = {
     {"shift", QUAL_SHIFT}, {"ctrl", QUAL_CONTROL}, {"control", QUAL_CONTROL}, {"alt", QUAL_ALT},
 };
 
-int ParseKeySpec(const char *spec, u16 *key, u16 *qualifiers)
+int ParseKeyName(const char *name, u16 *key, u16 *qualifiers)
 {
     char word[64];
     *qualifiers = 0;
-    const char *at = spec;
+    const char *at = name;
     for (;;) {
         const char *plus = strchr(at, '+');
         if (!plus || plus[1] == '\0')

@@ -81,7 +81,7 @@ TEST(Script, NamesTheLineThatCantBeRead)
 TEST(Script, KeySpecs)
 {
     struct {
-        const char *spec;
+        const char *name;
         u16 key, qualifiers;
     } const cases[] = {
         {"ctrl+s", KEY_CTRL('S'), QUAL_CONTROL}, {"ctrl+S", KEY_CTRL('S'), QUAL_CONTROL},
@@ -92,14 +92,14 @@ TEST(Script, KeySpecs)
         {"z", 'z', 0},                           {"space", ' ', 0},
     };
     for (const auto &c : cases) {
-        SCOPED_TRACE(c.spec);
+        SCOPED_TRACE(c.name);
         u16 key = 0, qualifiers = 0;
-        ASSERT_TRUE(ParseKeySpec(c.spec, &key, &qualifiers));
+        ASSERT_TRUE(ParseKeyName(c.name, &key, &qualifiers));
         EXPECT_EQ(key, c.key);
         EXPECT_EQ(qualifiers, c.qualifiers);
     }
     u16 key, qualifiers;
-    EXPECT_FALSE(ParseKeySpec("f13", &key, &qualifiers));
-    EXPECT_FALSE(ParseKeySpec("hyper+a", &key, &qualifiers));
-    EXPECT_FALSE(ParseKeySpec("", &key, &qualifiers));
+    EXPECT_FALSE(ParseKeyName("f13", &key, &qualifiers));
+    EXPECT_FALSE(ParseKeyName("hyper+a", &key, &qualifiers));
+    EXPECT_FALSE(ParseKeyName("", &key, &qualifiers));
 }

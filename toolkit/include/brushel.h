@@ -96,6 +96,23 @@ u32 MixColour(u32 a, u32 b, u8 amount_of_b);
 T_TEXTURE_BANK *NewTextureBank(const char *name, u16 count, u16 icon_width, u16 icon_height);
 void FreeTextureBank(T_TEXTURE_BANK *bank);
 
+// Drawing into one square icon of a bank, for icons made by code.
+typedef struct T_ICON_CANVAS {
+    u32 *pixels;
+    i32 size;
+} T_ICON_CANVAS;
+
+T_ICON_CANVAS IconCanvas(T_TEXTURE_BANK *bank, u16 icon);
+void IconPlot(T_ICON_CANVAS *canvas, i32 x, i32 y, u32 colour);
+void IconFill(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 colour);
+void IconFrame(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 colour);
+void IconLine(T_ICON_CANVAS *canvas, i32 x1, i32 y1, i32 x2, i32 y2, u32 colour);
+// The pixels whose centres lie within r of (cx, cy); a pixel's centre is at +0.5.
+void IconDisc(T_ICON_CANVAS *canvas, float cx, float cy, float r, u32 colour);
+// Rows of a pattern, each character `scale` pixels square: '#' the ink, 'o' the fill, others clear
+// of change.
+void IconPattern(T_ICON_CANVAS *canvas, i32 x, i32 y, const char *const *rows, i32 scale, u32 ink, u32 fill);
+
 // PNG files: read into 0xAABBGGRR pixels (freed with FreeMem(pixels, w*h*4)), and write a surface.
 u32 *ReadPNG(const char *path, i32 *width, i32 *height);
 int WritePNG(const char *path, T_SURFACE *surface);
