@@ -23,8 +23,15 @@ static inline T_WINDOW_HANDLER *FindWindowHandler(void)
 
 // A window of the name from the local record `win_init`, through the local handler `wh`.
 #define ICreateWindow(name) ((T_WINDOW *)CreateObject(&wh->head, (name), &win_init))
-// A gadget of the name from the local record `gadinit`, through the local handler `gh`.
-#define CreateGadget(name) ((T_GADGET *)CreateObject(&gh->head, (name), &gadinit))
+// A gadget of the name from the local record `gadinit`, through the local handler `gh`; null when
+// it could not be made. For list boxes, drop boxes and trees CreateObject gives the record that
+// holds the entries, but the statements that follow (SetGadgetColours) want the gadget, which the
+// creation made the current one.
+static inline T_GADGET *CreatePageGadget(T_GADGET_HANDLER *gh, const char *name, T_GADGETOBJECTINIT *init)
+{
+    return CreateObject(&gh->head, name, init) ? gh->current_gadget : NULL;
+}
+#define CreateGadget(name) CreatePageGadget(gh, (name), &gadinit)
 
 // The data records that colour, texture and scene gadgets of a page point at.
 extern T_COLOUR_DATA cb;

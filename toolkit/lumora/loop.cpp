@@ -21,9 +21,17 @@ u32 DeliverMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
 }
 
 // A direct call of the message function, whatever the mask; a removed window gets nothing.
+// A message sent from outside any turn counts as a turn of its own, so that a window removed
+// while it runs (a nested turn may run inside) stays readable until it returns.
 u32 SendWindowMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
     if (!IsWindowLive(window) || !window->message) return 0;
-    return window->message(window, item_code, msg, data);
+    T_LUMORA_BASE *base = _LumoraBase;
+    if (!base || !CURRENT_DISPLAY->record) return window->message(window, item_code, msg, data);
+    base->turn_depth++;
+    u32 result = window->message(window, item_code, msg, data);
+    base->turn_depth--;
+    if (base->turn_depth == 0) FreeRemovedWindows();
+    return result;
 }
 
 void PostWindowMessage(t_Window *window, u32 item_code, u32 msg, void *data) {

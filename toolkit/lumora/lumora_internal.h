@@ -199,6 +199,8 @@ t_gadget *WheelTarget(t_gadget *gadget, const T_MOUSE_MSG *msg);
 
 // Message boxes (msgbox.cpp): its glyphs.
 void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind);  // kind: 1 error, 2 information, 3 question
+// The whole text of a message box, or null when the window is none.
+const char *MessageBoxText(t_Window *box);
 void ScreenResized(void);  // toolkit.cpp: the framebuffer and the display's size follow the screen
 void PaintWindowBitmap(t_Window *window);  // window_bitmap.cpp
 void CallMouseMoveHooks(void);  // loop.cpp: after a mouse move

@@ -265,3 +265,8 @@ void SetMessageBoxIcon(t_Window *box, T_TEXTURE_BANK *bank, u16 icon) {
     m->icon_bank = bank;
     m->icon = icon;
 }
+
+const char *MessageBoxText(t_Window *box) {
+    if (!box || box->message != MsgBoxMessage || !box->user_data) return NULL;
+    return BoxOf(box)->text;
+}
