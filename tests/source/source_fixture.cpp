@@ -68,58 +68,58 @@ t_Window *SourceTest::MakePage(const T_TEST_PAGE &page, const std::vector<T_TEST
     NewGadgetHandler(window);
     if (page.with_menus)
         NewMenuHandler(window);
-    for (const T_TEST_GADGET &spec : gadgets)
-        AddGadget(window, spec);
+    for (const T_TEST_GADGET &row : gadgets)
+        AddGadget(window, row);
     return window;
 }
 
-t_gadget *SourceTest::AddGadget(t_Window *window, const T_TEST_GADGET &spec)
+t_gadget *SourceTest::AddGadget(t_Window *window, const T_TEST_GADGET &row)
 {
     t_Gaget_Handler *gh = FindGadgetHandler(window);
     T_GADGETOBJECTINIT init;
     memset(&init, 0, sizeof(init));
-    init.x = spec.x, init.y = spec.y;
-    init.type = spec.type;
-    init.base_width = spec.w, init.base_height = spec.h;
-    init.mark_width = spec.mark_width, init.mark_height = spec.mark_height;
+    init.x = row.x, init.y = row.y;
+    init.type = row.type;
+    init.base_width = row.w, init.base_height = row.h;
+    init.mark_width = row.mark_width, init.mark_height = row.mark_height;
     init.item_code = 1;
-    init.init_val = spec.init_val;
-    init.min = spec.min, init.max = spec.max, init.step = spec.step;
-    init.flags = spec.flags | GADGET_MARK_CREATED;
+    init.init_val = row.init_val;
+    init.min = row.min, init.max = row.max, init.step = row.step;
+    init.flags = row.flags | GADGET_MARK_CREATED;
     init.action = 0x73;
-    init.hover_text = spec.hover;
-    init.font = spec.font;
-    CreateObject(&gh->head, spec.text ? spec.text : "", &init);
+    init.hover_text = row.hover;
+    init.font = row.font;
+    CreateObject(&gh->head, row.text ? row.text : "", &init);
     // List boxes, drop boxes and trees give their entry holder: the gadget is the list's last.
     t_gadget *g = (t_gadget *)gh->gadget_list.last;
-    EXPECT_EQ(g->type, spec.type);
+    EXPECT_EQ(g->type, row.type);
 
-    g->x = spec.x, g->y = spec.y;
-    g->base_width = spec.w, g->base_height = spec.h;
-    g->item_code = spec.item_code;
-    g->flags = spec.flags;
-    g->action = spec.action;
-    g->tab_index = spec.tab_index;
-    g->cursor = spec.cursor;
-    if (spec.with_cursor)
+    g->x = row.x, g->y = row.y;
+    g->base_width = row.w, g->base_height = row.h;
+    g->item_code = row.item_code;
+    g->flags = row.flags;
+    g->action = row.action;
+    g->tab_index = row.tab_index;
+    g->cursor = row.cursor;
+    if (row.with_cursor)
         g->live_flags |= GADGET_FLAGS_CURSOR;
-    SetGadgetColours(g, spec.back_colour, spec.text_colour);
-    SetGadgetHover(g, spec.hover);
-    if (spec.font) {
-        EXPECT_TRUE(g->font != NULL) << "font " << spec.font;
+    SetGadgetColours(g, row.back_colour, row.text_colour);
+    SetGadgetHover(g, row.hover);
+    if (row.font) {
+        EXPECT_TRUE(g->font != NULL) << "font " << row.font;
     }
 
     // The values of sliders and scroll bars live in the record that the toolkit made.
-    if (spec.type == GADGET_TYPE_SLIDER || spec.type == GADGET_TYPE_SCROLLBAR) {
+    if (row.type == GADGET_TYPE_SLIDER || row.type == GADGET_TYPE_SCROLLBAR) {
         EXPECT_NE(g->class_data, 0u);
     }
-    if (spec.type == GADGET_TYPE_SLIDER && g->class_data) {
+    if (row.type == GADGET_TYPE_SLIDER && g->class_data) {
         T_SLIDER_DATA *slider = (T_SLIDER_DATA *)g->class_data;
-        slider->min = spec.min, slider->max = spec.max, slider->step = spec.step;
-        slider->mark_width = spec.mark_width, slider->mark_height = spec.mark_height;
-    } else if (spec.type == GADGET_TYPE_SCROLLBAR && g->class_data) {
+        slider->min = row.min, slider->max = row.max, slider->step = row.step;
+        slider->mark_width = row.mark_width, slider->mark_height = row.mark_height;
+    } else if (row.type == GADGET_TYPE_SCROLLBAR && g->class_data) {
         T_SCROLLBAR_DATA *bar = (T_SCROLLBAR_DATA *)g->class_data;
-        bar->min = spec.min, bar->max = spec.max, bar->init_val = spec.init_val;
+        bar->min = row.min, bar->max = row.max, bar->init_val = row.init_val;
     }
     return g;
 }
