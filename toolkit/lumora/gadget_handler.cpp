@@ -82,12 +82,15 @@ static void FreeText(char *text) {
     if (text) FreeMem(text, (u32)strlen(text) + 1);
 }
 
-// Sizes a gadget to its text: at creation with GADGET_FLAGS_AUTOSIZE, and a zero height of a
+// Sizes a gadget to its text: at creation with GADGET_FLAGS_AUTOSIZE, a zero width of a gadget
+// that shows its text as a label (else nothing of it would show), and a zero height of a
 // text-bearing type.
 static void SizeNewGadget(t_gadget *g) {
     GadgetTextFont(g);
     i16 font_h = (i16)GetActiveFontHeight();
-    if (g->live_flags & GADGET_FLAGS_AUTOSIZE) {
+    int label = g->type == GADGET_TYPE_TEXT || g->type == GADGET_TYPE_BUTTON ||
+                g->type == GADGET_TYPE_CHECK_BOX || g->type == GADGET_TYPE_RADIOBUTTON;
+    if ((g->live_flags & GADGET_FLAGS_AUTOSIZE) || (label && !g->base_width)) {
         i16 w = (i16)GetStringWidth(g->name);
         if (g->type == GADGET_TYPE_CHECK_BOX || g->type == GADGET_TYPE_RADIOBUTTON)
             w += CheckBoxSize() + 8;

@@ -108,5 +108,6 @@ void CloseMarshalry(void) {
         resource->use_count = 1;
         RemoveResource(resource);
     }
+    ForgetRecentEntries();
     _TenureBase->session_state = SESSION_RUNNING;
 }

@@ -17,3 +17,6 @@ char *LoadStoreText(const char *path, u32 *size);
 
 // Commands (commands.cpp): forgets the application's cached key store.
 void ForgetKeyStore(T_APPLICATION *app);
+
+// Recent files (recent.cpp): forgets the entries made in menus, which went with the toolkit.
+void ForgetRecentEntries(void);

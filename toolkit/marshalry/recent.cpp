@@ -173,6 +173,18 @@ static void RemoveRecentEntries(T_MENU_HANDLER *handler, t_Menu *menu) {
     }
 }
 
+// The menus that held the entries are freed when the toolkit closes; a record kept past that
+// could match a new menu at the same address and take out one of its own entries.
+void ForgetRecentEntries(void) {
+    if (!recent_entries.first)
+        return;
+    while (!LIST_EMPTY(&recent_entries)) {
+        t_Node *record = recent_entries.first;
+        SubNode(record);
+        FreeMem(record, sizeof(T_RECENT_ENTRY));
+    }
+}
+
 void AddRecentFilesToMenu(T_MENU_HANDLER *handler, t_Menu *menu, T_APPLICATION *app, u32 type,
                           u32 item_code) {
     if (!handler || !menu)
