@@ -31,6 +31,8 @@
 
 typedef t_Window *(*T_OPEN_FN)(T_CREATE_APPLICATION *);
 
+#define MAIN_WINDOW_MARGIN 16
+
 typedef struct T_HOST_OPTIONS {
     int headless;
     const char *script;
@@ -165,10 +167,11 @@ int main(int argc, char **argv)
     memset(&create, 0, sizeof(create));
     create.icon_bank = MakeToolIconBank();
     create.application = NewApplication("Quillform");
-    create.x = 0;
-    create.y = 0;
-    create.w = options.width;
-    create.h = options.height;
+    // The main window stands a little inside the screen, so that it can be moved and sized.
+    create.x = MAIN_WINDOW_MARGIN;
+    create.y = MAIN_WINDOW_MARGIN;
+    create.w = (i16)(options.width - 2 * MAIN_WINDOW_MARGIN);
+    create.h = (i16)(options.height - 2 * MAIN_WINDOW_MARGIN);
     if (!open(&create)) {
         fprintf(stderr, "quillform: the editor did not start\n");
         CloseToolkit();

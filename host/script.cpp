@@ -33,6 +33,7 @@ static const T_SCRIPT_WORD script_words[] = {
     {"click-tool", SCRIPT_CLICK_TOOL, 1, 0},
     {"expect-window", SCRIPT_EXPECT_WINDOW, 0, 3},
     {"expect-no-window", SCRIPT_EXPECT_NO_WINDOW, 0, 3},
+    {"expect-window-at", SCRIPT_EXPECT_WINDOW_AT, 2, 3},
 };
 
 // Reads a whole number; false when the text holds none.
@@ -247,6 +248,16 @@ static int PlayStep(const T_SCRIPT_STEP *step, char *error, size_t size)
             return 1;
         snprintf(error, size, "no window \"%.300s\"", step->text);
         return 0;
+    case SCRIPT_EXPECT_WINDOW_AT: {
+        t_Window *window = FindLiveWindow(step->text);
+        if (window && window->x == n[0] && window->y == n[1])
+            return 1;
+        if (window)
+            snprintf(error, size, "the window \"%.300s\" stands at %d %d", step->text, window->x, window->y);
+        else
+            snprintf(error, size, "no window \"%.300s\"", step->text);
+        return 0;
+    }
     case SCRIPT_EXPECT_NO_WINDOW:
         if (!FindLiveWindow(step->text))
             return 1;
