@@ -203,6 +203,11 @@ u16 GetActiveFontHeight(void) {
     return GetFontHeight(GetActiveFont());
 }
 
+u16 GetActiveFontAscent(void) {
+    T_FONT *font = GetActiveFont();
+    return font ? font->ascent : 0;
+}
+
 void SetFontStyle(u16 style) {
     if (_FontBase) _FontBase->style = style & 3;
 }

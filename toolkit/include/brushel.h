@@ -77,6 +77,7 @@ void SetActiveFont(T_FONT *font);  // null: the system font
 T_FONT *GetActiveFont(void);
 u16 GetFontHeight(T_FONT *font);
 u16 GetActiveFontHeight(void);
+u16 GetActiveFontAscent(void);  // top of the line to the baseline
 i32 GetStringWidth(const char *text);
 i32 GetStringWidthN(const char *text, u32 count);
 void SetFontStyle(u16 style);

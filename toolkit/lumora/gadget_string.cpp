@@ -180,11 +180,16 @@ void DrawStringGadget(t_gadget *g, int focused) {
     DrawRectangle(r.x, r.y, r.w, r.h, back);
     if (!(flags & GADGET_FLAGS_NO_BORDER)) DrawBevelBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour, rec->gadget_light_colour);
     T_RPOS area = TextArea(g, &r), saved;
+    // Upright, the text may use all but the border line, so that short fields keep descenders.
+    i16 border = (flags & GADGET_FLAGS_NO_BORDER) ? 0 : 1;
+    area.y = r.y + border, area.h = r.h - 2 * border;
     if (!PushClip(area, &saved)) return;
     char stars[SHOWN_MAX + 1];
     const char *shown = Shown(g, stars);
-    i16 th = (i16)GetActiveFontHeight();
-    i16 ty = r.y + (r.h - th) / 2;
+    // The ink (capitals down to descenders) is centred, not the line with its leading.
+    i16 th = (i16)GetActiveFontHeight(), ascent = (i16)GetActiveFontAscent();
+    i16 cap = ascent * 4 / 5, descent = th - ascent;
+    i16 ty = r.y + (r.h + cap - descent + 1) / 2 - ascent;
     DrawText(area.x, ty, shown + g->scroll, GadgetTextColour(g));
     if (HasFocus(g) && !disabled) {
         if (HasSelection(g)) {
