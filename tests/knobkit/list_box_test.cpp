@@ -131,3 +131,24 @@ TEST_F(GadgetTest, EmptyListTakesClicksAndKeysQuietly) {
     EXPECT_EQ(ListOf(g)->selected, -1);
     EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 0u);
 }
+
+// A tab in a row's text puts what follows at the row's right end; the middle stays empty.
+TEST_F(GadgetTest, ListRowTabSetsTheRestAtTheRight) {
+    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_LIST_BOX, 10, 10, 300, 60);
+    void *holder = Create("Keys", init);
+    init.parent_gadget = holder;
+    Create("Open\tCtrl+O", init);
+    t_gadget *g = GetCurrentGadget(window);
+    Turn();
+    T_LIST_LAYOUT l;
+    ListLayout(g, &l);
+    auto inked = [&](i16 x, i16 w) {  // inside the row, clear of the focus frame
+        for (u32 p : Pixels(T_RPOS{x, (i16)(l.inner.y + 2), w, (i16)(l.row_h - 2)}))
+            if (p != DISPLAY_RECORD->field_colour) return true;
+        return false;
+    };
+    i16 third = (i16)((l.inner.w - 4) / 3);
+    EXPECT_TRUE(inked((i16)(l.inner.x + 2), third));
+    EXPECT_FALSE(inked((i16)(l.inner.x + third), third));
+    EXPECT_TRUE(inked((i16)(l.inner.x + 2 * third), third));
+}

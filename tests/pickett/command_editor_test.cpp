@@ -56,8 +56,8 @@ class KeyEditor : public PickettTest {
 TEST_F(KeyEditor, ListsTheCommandsByGroupWithTheirKeys) {
     EXPECT_EQ(editor->parent, parent);
     EXPECT_EQ(ListTexts(List()),
-              (std::vector<std::string>{"File: Open    Ctrl+O", "File: Save    Ctrl+S",
-                                        "Edit: Undo    Ctrl+Z", "Edit: Select None"}));
+              (std::vector<std::string>{"File: Open\tCtrl+O", "File: Save\tCtrl+S",
+                                        "Edit: Undo\tCtrl+Z", "Edit: Select None"}));
     EXPECT_STREQ(FindGadgetByItemCode(editor, KEYS_HINT)->name,
                  "Pick a command, then press the new key");
 }
@@ -75,7 +75,7 @@ TEST_F(KeyEditor, APickedCommandTakesTheNextKeyAndRunsWithIt) {
               std::string::npos);
     Key(KEY_CTRL('P'), QUAL_CONTROL);
     EXPECT_EQ(FindAppCommandByCode(app, 256)->key, (u32)KEY_CTRL('P'));
-    EXPECT_EQ(ListTexts(List())[0], "File: Open    Ctrl+P");
+    EXPECT_EQ(ListTexts(List())[0], "File: Open\tCtrl+P");
     EXPECT_EQ(MenuEntryKey(entry), (u32)KEY_CTRL('P'));
     EXPECT_EQ(RunKey(KEY_CTRL('P')), 256u);
     EXPECT_EQ(RunKey(KEY_CTRL('O')), 0u);

@@ -61,10 +61,10 @@ TEST_F(ShellTest, AKeyChangedInTheKeyboardWindowRunsItsCommand)
     T_LIST_LAYOUT layout;
     ListLayout(list, &layout);
     T_LIST_DATA *data = (T_LIST_DATA *)list->class_data;
-    EXPECT_STREQ(((T_LIST_ENTRY *)data->entries.first)->name, "File: Open    Ctrl+O");
+    EXPECT_STREQ(((T_LIST_ENTRY *)data->entries.first)->name, "File: Open\tCtrl+O");
     UserClick((i16)(layout.inner.x + layout.inner.w / 2), (i16)(layout.inner.y + layout.row_h / 2), 1);
     UserKey(KEY_CTRL('K'), QUAL_CONTROL);
-    EXPECT_STREQ(((T_LIST_ENTRY *)data->entries.first)->name, "File: Open    Ctrl+K");
+    EXPECT_STREQ(((T_LIST_ENTRY *)data->entries.first)->name, "File: Open\tCtrl+K");
     Escape();  // nothing is picked now: the window closes
     ASSERT_EQ(FindLiveWindow(KEYBOARD_TITLE), nullptr);
 

@@ -7,6 +7,8 @@
 // closes a tree's branch). Keys move the selection and report ACT_LMOUSE_UP; Enter reports
 // ACT_LMOUSE_DBL. The list is measured at each paint and event, which also answers the editor's
 // LIST_RESIZED and TREE_RESIZED.
+#include <string.h>
+
 #include "knobkit/knobkit_internal.h"
 
 #define ROW_EXTRA 2     // a row is the font's height plus this
@@ -62,7 +64,15 @@ void DrawListRow(t_gadget *g, T_RPOS row, const char *text, int selected, int ho
         DrawIconScaled(g->icon_bank, g->icon, x, row.y + 1, row.h - 2, row.h - 2);
         x += row.h;
     }
-    DrawText(x, row.y + (row.h - (i16)GetActiveFontHeight()) / 2, text, colour);
+    // A tab splits a row in two: what follows it stands at the right, as a key does in a menu.
+    i16 ty = row.y + (row.h - (i16)GetActiveFontHeight()) / 2;
+    const char *tab = strchr(text, '\t');
+    if (!tab) {
+        DrawText(x, ty, text, colour);
+        return;
+    }
+    DrawTextN(x, ty, text, (u32)(tab - text), colour);
+    DrawText((i16)(row.x + row.w - ROW_TEXT_PAD - 2 - GetStringWidth(tab + 1)), ty, tab + 1, colour);
 }
 
 static void DrawTreeBox(T_RPOS box, int open, u32 colour) {

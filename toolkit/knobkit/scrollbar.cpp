@@ -52,10 +52,12 @@ void ScrollParts(T_RPOS r, int horizontal, const T_SCROLL_RANGE *range, T_SCROLL
     }
 }
 
+// An arrow or the thumb: a raised part with a dark outline, so that it reads against the track.
 static void DrawButtonPart(T_RPOS r, u32 colour) {
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     DrawRectangle(r.x, r.y, r.w, r.h, colour);
-    DrawBevelBox(r.x, r.y, r.w, r.h, rec->gadget_light_colour, rec->gadget_dark_colour);
+    DrawOutLineBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour);
+    if (r.w > 2 && r.h > 2) DrawBevelBox(r.x + 1, r.y + 1, r.w - 2, r.h - 2, rec->gadget_light_colour, colour);
 }
 
 void DrawScrollParts(const T_SCROLL_PARTS *p, int disabled) {

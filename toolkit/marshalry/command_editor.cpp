@@ -35,7 +35,8 @@ static T_APP_COMMAND *CommandAt(T_KEY_EDITOR *e, i32 row) {
     return row < 0 ? NULL : (T_APP_COMMAND *)FindNodeByIndex(&e->app->commands, (u32)row);
 }
 
-// One line per command, in registration order: "Group: Name    Key", or "Group: Name".
+// One line per command, in registration order: "Group: Name<tab>Key", or "Group: Name"; the list
+// shows the key at the right.
 static void FillList(T_KEY_EDITOR *e) {
     i32 selected = e->list->selected, top = e->list->top;
     EmptyList(&e->list->entries, sizeof(T_LIST_ENTRY));
@@ -44,7 +45,7 @@ static void FillList(T_KEY_EDITOR *e) {
     for (T_APP_COMMAND *c = (T_APP_COMMAND *)e->app->commands.first; c->next; c = c->next) {
         char line[KEYED_LINE_SIZE], key[32];
         KeyName(c->key, key);
-        snprintf(line, sizeof line, "%s: %s%s%s", c->group, c->name, key[0] ? "    " : "", key);
+        snprintf(line, sizeof line, "%s: %s%s%s", c->group, c->name, key[0] ? "\t" : "", key);
         CreateObject(&e->list_gadget->handler->head, line, &gi);
     }
     e->list->selected = selected;
