@@ -41,6 +41,25 @@ TEST_F(ToolBarTest, ItsWindowSitsInTheOwnerAndFitsTheButtons)
     EXPECT_STREQ(((T_TOOLBAR_ENTRY *)FindNodeByIndex(&toolbar->entries, 3))->name, "Radio button");
 }
 
+// Children made at the owner's cascade place stand below the toolbar, a step further each, and
+// start again after eight; a child made elsewhere leaves the cascade where it is.
+TEST_F(ToolBarTest, CascadedChildrenStandBelowItAndStartAgainAfterEight)
+{
+    t_Window *bar = toolbar->window;
+    i16 first = (i16)(owner->cascade_index * 16);
+    EXPECT_GE(owner->user_y + first, bar->y + bar->h);
+    EXPECT_LT(owner->user_y + first - 16, bar->y + bar->h);
+    T_WINDOWOBJINIT init = {};
+    init.w = 100, init.h = 60, init.flags = WF_CHILD | WF_BORDER, init.parent = owner;
+    init.x = init.y = 200;
+    ASSERT_NE(CreateObject(&CURRENT_DISPLAY->window_class->head, "elsewhere", &init), nullptr);
+    for (int i = 0; i < 9; i++) {
+        init.x = init.y = (i16)(owner->cascade_index * 16);
+        EXPECT_EQ(init.x, first + 16 * (i % 8)) << i;
+        ASSERT_NE(CreateObject(&CURRENT_DISPLAY->window_class->head, "cascaded", &init), nullptr);
+    }
+}
+
 TEST_F(ToolBarTest, TheActiveEntryFollowsClicksAndCalls)
 {
     EXPECT_EQ(GetActiveToolBarEntry(toolbar), 0);

@@ -55,7 +55,8 @@ typedef struct t_Window {
     u16 border_size;
     i16 icon;
     i16 mouse_x, mouse_y;  // last mouse position, absolute
-    u16 cascade_index;     // the next child's cascade place
+    u16 cascade_index;     // the next child's cascade place, 16 pixels a step
+    u16 cascade_start;     // the first cascade place: clear of a toolbar in the window
     // The toolkit's own:
     T_MESSAGE_FN message;
     char *hover_title;  // the title bar's hover text (owned copy), or null

@@ -88,6 +88,8 @@ int HandlerIsOn(t_Window *window, t_Handler *handler);
 void ForgetHandler(t_Handler *handler);  // drops every reference the toolkit holds to it
 
 // Windows (window.cpp).
+#define CASCADE_STEP 16  // pixels between cascade places, down and right
+#define CASCADE_STEPS 8  // places before the cascade starts again
 t_Window *FocusWindow(void);
 void FreeRemovedWindows(void);            // at the end of the outermost turn
 void FreeWindowNow(t_Window *window);      // handlers, gadgets, children, the block

@@ -51,6 +51,13 @@ static void FitToolBar(T_TOOLBAR_HANDLER *toolbar)
     T_RPOS rect = {window->x, window->y, (i16)(count * TOOLBAR_BUTTON + 2 * TOOLBAR_PAD + frame),
                    (i16)(TOOLBAR_BUTTON + 2 * TOOLBAR_PAD + frame)};
     ResizeWindow(window, &rect);
+    // Children cascading in the owner start below the toolbar, so their title bars stay in reach.
+    t_Window *owner = toolbar->owner;
+    if (owner) {
+        i32 below = window->y + window->h - owner->user_y;
+        owner->cascade_start = (u16)((below + CASCADE_STEP - 1) / CASCADE_STEP);
+        if (owner->cascade_index < owner->cascade_start) owner->cascade_index = owner->cascade_start;
+    }
 }
 
 // The hover text of the entry under the resting pointer, beside the pointer as the toolkit shows

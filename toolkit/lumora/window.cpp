@@ -115,6 +115,14 @@ static t_Window *AllocWindow(const char *name) {
     return w;
 }
 
+// A child made at its parent's cascade place takes it, so that the next one made there (a page
+// read from a file) stands a step down and right; after CASCADE_STEPS places it starts again.
+static void TakeCascadePlace(t_Window *parent, i16 x, i16 y) {
+    if (x != y || x != (i16)(parent->cascade_index * CASCADE_STEP)) return;
+    parent->cascade_index++;
+    if (parent->cascade_index >= parent->cascade_start + CASCADE_STEPS) parent->cascade_index = parent->cascade_start;
+}
+
 // Returns null (logged) for a removed parent or when memory runs out.
 t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init) {
     t_Window *parent = init->parent;
@@ -141,6 +149,7 @@ t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init) {
     if (w->flags & WF_BORDER) NewBorderHandler(w);
     if (w->flags & WF_TITLE) NewTitleBarHandler(w);
     LinkWindow(w);
+    if (parent) TakeCascadePlace(parent, init->x, init->y);
     if (init->bitmap && init->bitmap[0]) SetWindowBitmap(w, init->bitmap);
     RecalcUserSize(w);
     if (w->flags & WF_OPEN_FULLSCREEN) ToggleMaximise(w);
