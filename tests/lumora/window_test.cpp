@@ -163,6 +163,18 @@ TEST_F(LumoraTest, CloseGadgetAndAltF4AskToTerminate) {
     }
 }
 
+// In a child that doesn't take Alt+F4, the key closes the nearest parent that does.
+TEST_F(LumoraTest, AltF4InAChildClosesTheParentThatTakesIt) {
+    t_Window *main = MakeWindow("Main", 10, 10, 400, 300, WF_TITLE | WF_ALTF4, IDCMP_TERMINATE);
+    t_Window *page = MakeWindow("Page", 20, 20, 100, 80, WF_CHILD | WF_TITLE, IDCMP_TERMINATE, main);
+    ASSERT_EQ(FocusWindow(), page);
+    Turn();
+    recorded.clear();
+    Key(KEY_F1 + 3, QUAL_ALT);
+    EXPECT_EQ(CountRecorded(ACT_TERMINATE, main), 1u);
+    EXPECT_EQ(CountRecorded(ACT_TERMINATE, page), 0u);
+}
+
 TEST_F(LumoraTest, MaximiseAndMinimiseRestore) {
     t_Window *w = MakeWindow("Big", 50, 60, 200, 150,
                              WF_TITLE | WF_BORDER | WF_MAXIMISE | WF_MINIMISE | WF_CLOSE, 0);

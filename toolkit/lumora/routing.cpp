@@ -302,9 +302,15 @@ static void RouteWheel(i16 wheel) {
 static void RouteKey(u16 key, u16 qualifiers) {
     T_KEY_MSG km = {key, qualifiers};
     t_Window *focus = FocusWindow();
-    if (key == KEY_ALT_F4 && (qualifiers & QUAL_ALT) && focus && (focus->flags & WF_ALTF4)) {
-        CloseByFrame(focus);
-        return;
+    if (key == KEY_ALT_F4 && (qualifiers & QUAL_ALT)) {
+        // Alt+F4 closes the focus window or, when that doesn't take it, the nearest parent that
+        // does: in a page inside the main window it closes the application.
+        t_Window *closing = focus;
+        while (closing && !(closing->flags & WF_ALTF4)) closing = closing->parent;
+        if (closing) {
+            CloseByFrame(closing);
+            return;
+        }
     }
     t_Window *popups[32];
     u32 n = 0;
