@@ -7,6 +7,17 @@ i16 CheckBoxSize(void) {
     return f ? (i16)GetFontHeight(f) - 2 : 12;
 }
 
+// The text of a check box or radio button from `text_x` to the gadget's right edge, cut there.
+void DrawMarkLabel(t_gadget *g, T_RPOS r, i16 text_x) {
+    T_RPOS clip;
+    GetClip(&clip);
+    T_RPOS text = {text_x, r.y, (i16)(r.x + r.w - text_x), r.h};
+    if (!RectIntersect(&text, &clip)) return;
+    ClipInsideWindow(text.x, text.y, text.x + text.w, text.y + text.h);
+    DrawText(text_x, r.y + (r.h - (i16)GetActiveFontHeight()) / 2, g->name, GadgetTextColour(g));
+    ClipInsideWindow(clip.x, clip.y, clip.x + clip.w, clip.y + clip.h);
+}
+
 void DrawCheckBoxGadget(t_gadget *g, int focused) {
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS r = GadgetRect(g);
@@ -25,41 +36,15 @@ void DrawCheckBoxGadget(t_gadget *g, int focused) {
             DrawLine(x1, y1 + d, x2, y2 + d, c);
         }
     }
-    T_RPOS clip;
-    GetClip(&clip);
-    T_RPOS text = {(i16)(bx + s + 4), r.y, (i16)(r.w - s - 6), r.h};
-    if (RectIntersect(&text, &clip)) {
-        ClipInsideWindow(text.x, text.y, text.x + text.w, text.y + text.h);
-        DrawText(bx + s + 4, r.y + (r.h - (i16)GetActiveFontHeight()) / 2, g->name,
-                 GadgetTextColour(g));
-        ClipInsideWindow(clip.x, clip.y, clip.x + clip.w, clip.y + clip.h);
-    }
+    DrawMarkLabel(g, r, (i16)(bx + s + 4));
     if (focused) DrawGadgetFocus(g);
 }
 
+// Pressed as a button is; a click toggles the box.
 u32 CheckBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
-    int inside = PointBoxColl(m->x, m->y, (T_RPOS *)rect);
-    switch (m->mouse_action) {
-    case ACT_LMOUSE_DOWN:
-        g->gadget_state |= GSTATE_PRESSED | GSTATE_DRAGGING;
-        return ACT_LMOUSE_DOWN;
-    case ACT_MOUSE_MOVE:
-        if (!(g->gadget_state & GSTATE_DRAGGING)) return 0;
-        if (inside)
-            g->gadget_state |= GSTATE_PRESSED;
-        else
-            g->gadget_state &= ~GSTATE_PRESSED;
-        return 0;
-    case ACT_LMOUSE_UP: {
-        int armed = (g->gadget_state & GSTATE_DRAGGING) != 0;
-        g->gadget_state &= ~(GSTATE_PRESSED | GSTATE_DRAGGING);
-        if (!armed || !inside) return 0;
-        g->class_data = !g->class_data;
-        return ACT_LMOUSE_UP;
-    }
-    default:
-        return m->mouse_action & (ACT_LMOUSE_DBL | ACT_RMOUSE_DOWN | ACT_RMOUSE_UP);
-    }
+    u32 result = ButtonMouse(g, m, rect);
+    if (result == ACT_LMOUSE_UP) g->class_data = !g->class_data;
+    return result;
 }
 
 // Space or Enter on the focused box toggles it, as a click does.

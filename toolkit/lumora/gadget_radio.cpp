@@ -32,40 +32,15 @@ void DrawRadioGadget(t_gadget *g, int focused) {
                      ? rec->gadget_colour : rec->field_colour;
     FillDisc(cx, cy, radius - 1, inside);
     if (g->class_data) FillDisc(cx, cy, radius / 2, GadgetTextColour(g));
-    T_RPOS clip;
-    GetClip(&clip);
-    T_RPOS text = {(i16)(r.x + s + 6), r.y, (i16)(r.w - s - 8), r.h};
-    if (RectIntersect(&text, &clip)) {
-        ClipInsideWindow(text.x, text.y, text.x + text.w, text.y + text.h);
-        DrawText(r.x + s + 6, r.y + (r.h - (i16)GetActiveFontHeight()) / 2, g->name, GadgetTextColour(g));
-        ClipInsideWindow(clip.x, clip.y, clip.x + clip.w, clip.y + clip.h);
-    }
+    DrawMarkLabel(g, r, (i16)(r.x + s + 6));
     if (focused) DrawGadgetFocus(g);
 }
 
+// Pressed as a button is; a click sets this one of its run.
 u32 RadioMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
-    int inside = PointBoxColl(m->x, m->y, (T_RPOS *)rect);
-    switch (m->mouse_action) {
-    case ACT_LMOUSE_DOWN:
-        g->gadget_state |= GSTATE_PRESSED | GSTATE_DRAGGING;
-        return ACT_LMOUSE_DOWN;
-    case ACT_MOUSE_MOVE:  // pressed while the pointer stays on it
-        if (!(g->gadget_state & GSTATE_DRAGGING)) return 0;
-        if (inside)
-            g->gadget_state |= GSTATE_PRESSED;
-        else
-            g->gadget_state &= ~GSTATE_PRESSED;
-        return 0;
-    case ACT_LMOUSE_UP: {
-        int armed = (g->gadget_state & GSTATE_DRAGGING) != 0;
-        g->gadget_state &= ~(GSTATE_PRESSED | GSTATE_DRAGGING);
-        if (!armed || !inside) return 0;
-        SetRadio(g);
-        return ACT_LMOUSE_UP;
-    }
-    default:
-        return m->mouse_action & (ACT_LMOUSE_DBL | ACT_RMOUSE_DOWN | ACT_RMOUSE_UP);
-    }
+    u32 result = ButtonMouse(g, m, rect);
+    if (result == ACT_LMOUSE_UP) SetRadio(g);
+    return result;
 }
 
 u32 RadioKey(t_gadget *g, u16 key, u16 qualifiers) {

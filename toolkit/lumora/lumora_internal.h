@@ -169,6 +169,7 @@ void DrawGenericGadget(t_gadget *gadget, int focused);
 u32 GenericGadgetMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
 void DrawButtonGadget(t_gadget *gadget, int focused);
 u32 ButtonMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+void DrawMarkLabel(t_gadget *gadget, T_RPOS rect, i16 text_x);  // a check box's or radio's text
 u32 ButtonKey(t_gadget *gadget, u16 key, u16 qualifiers);
 void DrawTextGadget(t_gadget *gadget, int focused);
 void DrawCheckBoxGadget(t_gadget *gadget, int focused);
