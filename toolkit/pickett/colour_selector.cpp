@@ -114,16 +114,9 @@ static u32 ColourSelectorInput(t_Handler *handler, u32 event, void *data) {
     t_Window *window = handler->window;
     switch (event) {
     case HANDLER_EVENT_KEY: {
-        u16 key = ((T_KEY_MSG *)data)->key_code;
-        if (key == KEY_ESCAPE || (key == KEY_RETURN && GetCurrentGadget(window) == s->cancel)) {
-            Finish(window, ACT_REQUESTER_CANCEL);
-            return 1;
-        }
-        if (key == KEY_RETURN) {
-            Finish(window, ACT_REQUESTER_OK);
-            return 1;
-        }
-        return 0;
+        u32 answer = SelectorKeyAnswer(window, s->cancel, ((T_KEY_MSG *)data)->key_code);
+        if (answer) Finish(window, answer);
+        return answer != 0;
     }
     default:
         return 0;
@@ -133,20 +126,11 @@ static u32 ColourSelectorInput(t_Handler *handler, u32 event, void *data) {
 t_Window *AddColourSelector(T_COLOURSEL_INIT *init) {
     if (!init || !init->rgba) return NULL;
     t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
-    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     i16 rh = SelectorRowHeight(), pad = SELECTOR_PAD, gap = SELECTOR_GAP;
     i16 user_h = pad + COLSEL_SWATCH_H + gap + 3 * (rh + gap) + gap + rh + pad;
-    T_WINDOWOBJINIT wi = {};
-    PlaceSelector(&wi, parent, COLSEL_USER_W + 2 * rec->border_size,
-                  user_h + 2 * rec->border_size + rec->title_height);
-    wi.flags = parent ? COLSEL_FLAGS : COLSEL_FLAGS & ~WF_CHILD;
-    wi.idcmp = IDCMP_TERMINATE;
-    wi.message = ColourSelectorMessage;
-    wi.parent = parent;
-    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head,
-                                                init->title ? init->title : "", &wi);
+    t_Window *window = OpenSelectorWindow(init->title, parent, COLSEL_USER_W, user_h, COLSEL_FLAGS,
+                                          IDCMP_TERMINATE, ColourSelectorMessage);
     if (!window) return NULL;
-    window->UserAreaColour = rec->dialog_colour;
     T_COLOUR_SELECTOR *s =
         (T_COLOUR_SELECTOR *)NewHandler(&window->handlers, ColourSelectorInput, ColourSelectorPaint,
                                         "colour selector", 0, sizeof(T_COLOUR_SELECTOR), window);

@@ -209,18 +209,9 @@ static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data) {
 t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init) {
     if (!init) return NULL;
     t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
-    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
-    T_WINDOWOBJINIT wi = {};
-    PlaceSelector(&wi, parent, FILESEL_USER_W + 2 * rec->border_size,
-                  FILESEL_USER_H + 2 * rec->border_size + rec->title_height);
-    wi.flags = parent ? FILESEL_FLAGS : FILESEL_FLAGS & ~WF_CHILD;
-    wi.idcmp = IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE;
-    wi.message = FileSelectorMessage;
-    wi.parent = parent;
-    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head,
-                                                init->title ? init->title : "", &wi);
+    t_Window *window = OpenSelectorWindow(init->title, parent, FILESEL_USER_W, FILESEL_USER_H, FILESEL_FLAGS,
+                                          IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FileSelectorMessage);
     if (!window) return NULL;
-    window->UserAreaColour = rec->dialog_colour;
     T_FILE_SELECTOR *s =
         (T_FILE_SELECTOR *)NewHandler(&window->handlers, FileSelectorInput, NULL, "file selector",
                                       0, sizeof(T_FILE_SELECTOR), window);

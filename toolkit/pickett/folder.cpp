@@ -195,6 +195,26 @@ void PlaceSelector(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 fra
     init->y = parent ? y - parent->user_y : y;
 }
 
+t_Window *OpenSelectorWindow(const char *title, t_Window *parent, i16 user_w, i16 user_h, u32 flags,
+                             u32 idcmp, T_MESSAGE_FN message) {
+    parent = IsWindowLive(parent) ? parent : NULL;
+    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
+    T_WINDOWOBJINIT wi = {};
+    PlaceSelector(&wi, parent, user_w + 2 * rec->border_size, user_h + 2 * rec->border_size + rec->title_height);
+    wi.flags = parent ? flags : flags & ~WF_CHILD;
+    wi.idcmp = idcmp;
+    wi.message = message;
+    wi.parent = parent;
+    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, title ? title : "", &wi);
+    if (window) window->UserAreaColour = rec->dialog_colour;
+    return window;
+}
+
+u32 SelectorKeyAnswer(t_Window *window, t_gadget *cancel, u16 key) {
+    if (key == KEY_ESCAPE || (key == KEY_RETURN && GetCurrentGadget(window) == cancel)) return ACT_REQUESTER_CANCEL;
+    return key == KEY_RETURN ? ACT_REQUESTER_OK : 0;
+}
+
 u32 AnswerParent(t_Window *parent, u32 item_code, u32 msg, void *data) {
     return IsWindowLive(parent) ? DeliverMessage(parent, item_code, msg, data) : 0;
 }

@@ -202,16 +202,9 @@ static u32 FontSelectorInput(t_Handler *handler, u32 event, void *data) {
     t_Window *window = handler->window;
     switch (event) {
     case HANDLER_EVENT_KEY: {
-        u16 key = ((T_KEY_MSG *)data)->key_code;
-        if (key == KEY_ESCAPE || (key == KEY_RETURN && GetCurrentGadget(window) == s->cancel)) {
-            Finish(window, ACT_REQUESTER_CANCEL);
-            return 1;
-        }
-        if (key == KEY_RETURN) {
-            Finish(window, ACT_REQUESTER_OK);
-            return 1;
-        }
-        return 0;
+        u32 answer = SelectorKeyAnswer(window, s->cancel, ((T_KEY_MSG *)data)->key_code);
+        if (answer) Finish(window, answer);
+        return answer != 0;
     }
     case HANDLER_EVENT_END:  // the window goes: the record's belongings with it
         FreeFolderEntries(&s->entries);
@@ -229,18 +222,9 @@ static u32 FontSelectorInput(t_Handler *handler, u32 event, void *data) {
 t_Window *NewFontSelector(T_FONTSEL_INIT *init) {
     if (!init) return NULL;
     t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
-    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
-    T_WINDOWOBJINIT wi = {};
-    PlaceSelector(&wi, parent, FONTSEL_USER_W + 2 * rec->border_size,
-                  FONTSEL_USER_H + 2 * rec->border_size + rec->title_height);
-    wi.flags = parent ? FONTSEL_FLAGS : FONTSEL_FLAGS & ~WF_CHILD;
-    wi.idcmp = IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE;
-    wi.message = FontSelectorMessage;
-    wi.parent = parent;
-    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head,
-                                                init->title ? init->title : "", &wi);
+    t_Window *window = OpenSelectorWindow(init->title, parent, FONTSEL_USER_W, FONTSEL_USER_H, FONTSEL_FLAGS,
+                                          IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FontSelectorMessage);
     if (!window) return NULL;
-    window->UserAreaColour = rec->dialog_colour;
     T_FONT_SELECTOR *s =
         (T_FONT_SELECTOR *)NewHandler(&window->handlers, FontSelectorInput, FontSelectorPaint,
                                       "font selector", 0, sizeof(T_FONT_SELECTOR), window);

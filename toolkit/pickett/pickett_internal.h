@@ -44,6 +44,13 @@ int SplitTypedName(T_FILE_REQUESTER_ANSWER *answer, const char *folder, const ch
 // Where a selector opens: centred on the parent's frame (or the screen), kept on the screen; the
 // result counts from the parent's user area, as a T_WINDOWOBJINIT wants it.
 void PlaceSelector(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h);
+// A selector's window, placed by PlaceSelector for a user area of user_w by user_h, in the dialog
+// colour; without a live parent it is a top-level window. Null when the toolkit can't make it.
+t_Window *OpenSelectorWindow(const char *title, t_Window *parent, i16 user_w, i16 user_h, u32 flags,
+                             u32 idcmp, T_MESSAGE_FN message);
+// The answer a key gives in a selector: Escape, or Enter on the Cancel button, cancels; Enter
+// elsewhere is OK; any other key gives 0.
+u32 SelectorKeyAnswer(t_Window *window, t_gadget *cancel, u16 key);
 // Delivers a selector's answer through the parent's message mask: message 0x1000 + n reaches it
 // only when bit n of the mask given at its creation is set. Returns the message function's result.
 u32 AnswerParent(t_Window *parent, u32 item_code, u32 msg, void *data);
