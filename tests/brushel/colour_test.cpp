@@ -55,39 +55,3 @@ TEST(Colour, HSIRoundTripIsStable) {
         ASSERT_EQ(GetConstantTRGBA(&out), GetConstantTRGBA(&in));
     }
 }
-
-TEST(Colour, HSIOutsideTheCubeIsClamped) {
-    T_HSIA hsi = {0, 255, 250, 255};  // as saturated as red, but far brighter
-    T_RGBA rgb;
-    HSIToRGB(&hsi, &rgb);
-    for (float channel : {rgb.r, rgb.g, rgb.b}) {
-        EXPECT_GE(channel, 0.0f);
-        EXPECT_LE(channel, 255.0f);
-    }
-}
-
-TEST(Colour, ColourWordRoundsAndClampsEachChannel) {
-    const struct {
-        T_RGBA rgba;
-        u32 word;
-    } cases[] = {
-        {{255, 0, 0, 255}, 0x000000FF},     {{0, 255, 0, 0}, 0x0000FF00},
-        {{0, 0, 255, 0}, 0x00FF0000},       {{0.4f, 0.5f, 1.49f, 255}, 0x00010100},
-        {{254.5f, 300, -5, 0}, 0x0000FFFF}, {{127.6f, 12.2f, 200.5f, 128}, 0x00C90C80},
-    };
-    for (auto c : cases) EXPECT_EQ(GetConstantTRGBA(&c.rgba), c.word) << std::hex << c.word;
-}
-
-TEST(Colour, MixColourGoesFromFirstToSecond) {
-    const struct {
-        u32 a, b;
-        u8 amount;
-        u32 mixed;
-    } cases[] = {
-        {0x102030, 0xF0E0D0, 0, 0x102030},
-        {0x102030, 0xF0E0D0, 255, 0xF0E0D0},
-        {0x000000, 0xFFFFFF, 128, 0x808080},
-        {0xFF0000, 0x0000FF, 64, 0xBF0040},
-    };
-    for (auto c : cases) EXPECT_EQ(MixColour(c.a, c.b, c.amount), c.mixed) << std::hex << c.mixed;
-}

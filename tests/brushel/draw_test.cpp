@@ -44,25 +44,6 @@ TEST_F(DrawTest, RectangleIsCutByClipAndSurface) {
     }
 }
 
-TEST_F(DrawTest, ClipIsKeptInsideTheSurfaceAndReset) {
-    T_RPOS rect;
-    ClipInsideWindow(-10, 5, 500, 20);
-    GetClip(&rect);
-    EXPECT_EQ((std::vector<int>{rect.x, rect.y, rect.w, rect.h}), (std::vector<int>{0, 5, kWidth, 15}));
-    ClipAll();
-    GetClip(&rect);
-    EXPECT_EQ((std::vector<int>{rect.x, rect.y, rect.w, rect.h}), (std::vector<int>{0, 0, kWidth, kHeight}));
-}
-
-TEST_F(DrawTest, NothingIsDrawnWithoutASurface) {
-    SetDrawSurface(nullptr);
-    DrawRectangle(0, 0, kWidth, kHeight, INK);
-    DrawLine(0, 0, 20, 30, INK);
-    DrawPixel(1, 1, INK);
-    DrawDottedBox(0, 0, 10, 10, INK, 0);
-    EXPECT_EQ(CountChanged(), 0);
-}
-
 struct LineCase {
     const char *what;
     i16 x1, y1, x2, y2;
@@ -74,21 +55,6 @@ static const LineCase line_cases[] = {
     {"anti-diagonal", 30, 4, 4, 30},   {"shallow", 1, 1, 50, 12},
     {"steep backwards", 20, 40, 14, 3}, {"one point", 9, 9, 9, 9},
 };
-
-// Both ends are drawn, and a line has one pixel per step along its longer axis.
-TEST_F(DrawTest, LineCoversEndPointsWithOnePixelPerStep) {
-    for (const LineCase &c : line_cases) {
-        SCOPED_TRACE(c.what);
-        Clear();
-        DrawLine(c.x1, c.y1, c.x2, c.y2, INK);
-        EXPECT_EQ(At(c.x1, c.y1), INK);
-        EXPECT_EQ(At(c.x2, c.y2), INK);
-        EXPECT_EQ(CountChanged(), std::max(std::abs(c.x2 - c.x1), std::abs(c.y2 - c.y1)) + 1);
-    }
-    Clear();
-    DrawLine(2, 2, 30, 30, INK);
-    for (int i = 0; i <= 28; i++) EXPECT_EQ(At(2 + i, 2 + i), INK);
-}
 
 // A clipped line is the unclipped line cut to the clip, pixel for pixel.
 TEST_F(DrawTest, ClippedLineIsTheLineCutToTheClip) {
@@ -114,35 +80,6 @@ static std::set<std::pair<int, int>> FramePixels(int x, int y, int w, int h) {
     for (int i = 0; i < w; i++) set.insert({x + i, y}), set.insert({x + i, y + h - 1});
     for (int j = 0; j < h; j++) set.insert({x, y + j}), set.insert({x + w - 1, y + j});
     return set;
-}
-
-TEST_F(DrawTest, OutlineBoxIsAOnePixelFrame) {
-    const T_RPOS boxes[] = {{5, 5, 1, 1}, {5, 5, 1, 6}, {5, 5, 6, 1}, {5, 5, 2, 2}, {3, 4, 20, 11}};
-    for (const T_RPOS &b : boxes) {
-        SCOPED_TRACE(testing::Message() << b.w << "x" << b.h);
-        Clear();
-        DrawOutLineBox(b.x, b.y, b.w, b.h, INK);
-        auto frame = FramePixels(b.x, b.y, b.w, b.h);
-        EXPECT_EQ(CountChanged(), (int)frame.size());
-        for (auto [x, y] : frame) EXPECT_EQ(At(x, y), INK);
-    }
-}
-
-// The dotted box of a negative size is the box normalised to positive size, in every phase.
-TEST_F(DrawTest, DottedBoxWithNegativeSizeEqualsNormalisedBox) {
-    const T_RPOS boxes[] = {{30, 25, -12, -9}, {30, 25, 12, -9}, {30, 25, -12, 9}, {40, 40, -2, -3}};
-    for (const T_RPOS &b : boxes)
-        for (u16 phase = 0; phase < 4; phase++) {
-            SCOPED_TRACE(testing::Message() << b.w << "x" << b.h << " phase " << phase);
-            Clear();
-            DrawDottedBox(b.x, b.y, b.w, b.h, INK, phase);
-            std::vector<u32> negative = pixels;
-            Clear();
-            DrawDottedBox(b.w < 0 ? b.x + b.w : b.x, b.h < 0 ? b.y + b.h : b.y, std::abs(b.w), std::abs(b.h),
-                          INK, phase);
-            EXPECT_EQ(pixels, negative);
-            EXPECT_GT(CountChanged(), 0);
-        }
 }
 
 // Dots two on, two off, on the frame only; each phase moves them one pixel on, so that over the
@@ -173,47 +110,6 @@ TEST_F(DrawTest, DottedBoxRunsWithPhase) {
     Clear();
     DrawDottedBox(x, y, w, h, INK, 4);
     EXPECT_EQ(pixels, by_phase[0]);
-}
-
-TEST_F(DrawTest, BevelBoxIsLightTopLeftAndDarkBottomRight) {
-    const u32 light = 0xEEEEEE, dark = 0x333333;
-    DrawBevelBox(10, 10, 8, 6, light, dark);
-    const struct {
-        i32 x, y;
-        u32 colour;
-    } expected[] = {
-        {10, 10, light}, {16, 10, light}, {10, 14, light}, {17, 10, dark}, {17, 15, dark},
-        {10, 15, dark},  {13, 12, TEST_BACKGROUND},
-    };
-    for (auto e : expected) EXPECT_EQ(At(e.x, e.y), e.colour) << e.x << "," << e.y;
-    EXPECT_EQ(CountChanged(), 2 * 8 + 2 * 6 - 4);
-}
-
-TEST_F(DrawTest, BlendRectangleMixesByAlphaInsideClip) {
-    const struct {
-        u8 alpha;
-        u32 expected;
-    } cases[] = {{0, TEST_BACKGROUND}, {255, 0x00FFFFFF}, {128, 0x009098A0}};
-    for (auto c : cases) {
-        Clear();
-        ClipInsideWindow(0, 0, 10, 10);
-        BlendRectangle(5, 5, 10, 10, 0x00FFFFFF, c.alpha);
-        EXPECT_EQ(At(7, 7), c.expected) << (int)c.alpha;
-        EXPECT_EQ(At(12, 7), TEST_BACKGROUND);
-    }
-}
-
-TEST_F(DrawTest, ImagesBlendByTheirAlpha) {
-    const u32 image[4] = {0xFF0000FF, 0x00FFFFFF, 0x80FFFFFF, 0xFF00FF00};  // opaque, clear, half
-    DrawImage(image, 2, 2, 3, 3);
-    EXPECT_EQ(At(3, 3), 0x000000FFu);
-    EXPECT_EQ(At(4, 3), TEST_BACKGROUND);
-    EXPECT_EQ(At(3, 4), MixColour(TEST_BACKGROUND, 0xFFFFFF, 0x80));
-    EXPECT_EQ(At(4, 4), 0x0000FF00u);
-    Clear();
-    ClipInsideWindow(0, 0, 4, 4);
-    DrawImage(image, 2, 2, 3, 3);
-    EXPECT_EQ(CountChanged(), 1);
 }
 
 TEST_F(DrawTest, IconsComeFromTheirBankAndScale) {

@@ -27,36 +27,6 @@ TEST_F(PngTest, SurfaceRoundTripsThroughAFile) {
     std::remove(path.c_str());
 }
 
-// Grey, grey with alpha, RGB and RGBA files all read as 0xAABBGGRR.
-TEST(Png, EveryColourTypeReadsAsRGBA) {
-    const struct {
-        const char *what;
-        png_uint_32 format;
-        std::vector<u8> bytes;  // one pixel
-        u32 expected;
-    } cases[] = {
-        {"grey", PNG_FORMAT_GRAY, {0x40}, 0xFF404040},
-        {"grey alpha", PNG_FORMAT_GA, {0x40, 0x80}, 0x80404040},
-        {"rgb", PNG_FORMAT_RGB, {0x10, 0x20, 0x30}, 0xFF302010},
-        {"rgba", PNG_FORMAT_RGBA, {0x10, 0x20, 0x30, 0x99}, 0x99302010},
-    };
-    std::string path = TempPath("brushel_colour_type.png");
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
-        png_image image{};
-        image.version = PNG_IMAGE_VERSION;
-        image.width = image.height = 1;
-        image.format = c.format;
-        ASSERT_TRUE(png_image_write_to_file(&image, path.c_str(), 0, c.bytes.data(), 0, nullptr));
-        i32 width, height;
-        u32 *read = ReadPNG(path.c_str(), &width, &height);
-        ASSERT_NE(read, nullptr);
-        EXPECT_EQ(read[0], c.expected) << std::hex << read[0];
-        FreeMem(read, 4);
-    }
-    std::remove(path.c_str());
-}
-
 TEST_F(PngTest, BadFilesFailWithoutHarm) {
     std::string not_png = TempPath("brushel_not.png");
     std::ofstream(not_png) << "this is no image";

@@ -21,37 +21,6 @@ class TextTest : public SurfaceTest {
     }
 };
 
-TEST_F(TextTest, SystemFontIsActiveWithALineHeight) {
-    T_FONT *font = GetActiveFont();
-    ASSERT_NE(font, nullptr);
-    EXPECT_STREQ(font->name, "DejaVuSans.ttf");
-    EXPECT_GE(GetActiveFontHeight(), 14);
-    EXPECT_LE(GetActiveFontHeight(), 17);
-    EXPECT_EQ(GetFontHeight(font), GetActiveFontHeight());
-    for (void *face : font->faces) EXPECT_NE(face, nullptr);  // the family's four faces
-}
-
-TEST_F(TextTest, WidthGrowsWithTheTextAndBoldIsNotNarrower) {
-    const std::string text = "Hello, Quillform Wm";
-    i32 previous = GetStringWidth("");
-    EXPECT_EQ(previous, 0);
-    for (size_t n = 1; n <= text.size(); n++) {
-        i32 width = GetStringWidth(text.substr(0, n).c_str());
-        EXPECT_GT(width, previous) << n;
-        EXPECT_EQ(GetStringWidthN(text.c_str(), (u32)n), width);
-        previous = width;
-    }
-    for (const char *sample : {"Hello", "Size to contents", "iiii", "WWW"}) {
-        SetFontStyle(0);
-        i32 regular = GetStringWidth(sample);
-        SetFontStyle(1);
-        EXPECT_GE(GetStringWidth(sample), regular) << sample;
-        SetFontStyle(3);
-        EXPECT_GE(GetStringWidth(sample), regular) << sample;
-    }
-    SetFontStyle(0);
-}
-
 // "Hello" lights pixels, all inside the box of its width and the line height, and the same text
 // cut by a clip changes nothing outside the clip.
 TEST_F(TextTest, TextStaysInsideItsBoxAndClip) {
@@ -97,20 +66,6 @@ TEST_F(TextTest, Utf8IsReadAndUnknownCharactersShowAsQuestionMarks) {
         EXPECT_EQ(GetStringWidth(c.text), GetStringWidth(c.same_as)) << c.same_as;
         EXPECT_GT(GetStringWidth(c.text), 0) << c.same_as;
     }
-}
-
-// Print draws at the console position and moves it, so two prints draw what one text would.
-TEST_F(TextTest, ConsolePrintsOnFromWhereItStopped) {
-    DrawText(3, 20, "Tab order 12", 0x00FF00);
-    std::vector<u32> once = pixels;
-    Clear();
-    PrepareTextBuffer();
-    SetConsoleXY(3, 20);
-    SetConsoleColour(0x00FF00);
-    Print("Tab order");
-    Print(" 12");
-    FlushTextBuffer();
-    EXPECT_EQ(pixels, once);
 }
 
 TEST_F(TextTest, FontsAreFoundInFolderSystemAndPathWithTheirFamily) {
@@ -164,47 +119,4 @@ TEST_F(TextTest, MissingFontIsLoggedAndTextWithoutFontsDrawsNothing) {
     SetConsoleXY(0, 0);
     Print("Hello");
     EXPECT_EQ(CountChanged(), 0);
-}
-
-// A font resource loads its font once and hands it to the resource to free.
-TEST_F(TextTest, FontOfResourceLoadsOnceAndCaches) {
-    char name[] = "DejaVuSerif.ttf";
-    T_RESOURCE resource{};
-    resource.name = name;
-    resource.type = RESOURCE_TYPE_FONT;
-    T_FONT *font = FontOfResource(&resource);
-    ASSERT_NE(font, nullptr);
-    EXPECT_EQ(FontOfResource(&resource), font);
-    EXPECT_EQ(resource.object, font);
-    ASSERT_NE(resource.free_object, nullptr);
-    resource.free_object(resource.object);
-
-    char missing[] = "NoSuchFont.ttf";
-    T_RESOURCE absent{};
-    absent.name = missing;
-    absent.type = RESOURCE_TYPE_FONT;
-    EXPECT_EQ(FontOfResource(&absent), nullptr);
-    EXPECT_EQ(absent.free_object, nullptr);
-    T_RESOURCE settings{};
-    settings.name = name;
-    settings.type = RESOURCE_TYPE_SETTINGS;
-    EXPECT_EQ(FontOfResource(&settings), nullptr);
-    EXPECT_EQ(FontOfResource(nullptr), nullptr);
-}
-
-// Closing the fonts frees the system font, the glyphs rendered and every font resource.
-TEST_F(TextTest, CloseFontsLeavesNothingBehind) {
-    CloseFonts();
-    u64 blocks = _OstrandBase->blocks_allocated;
-    ASSERT_TRUE(InitFonts(nullptr));
-    for (const char *name : {"DejaVuSerif.ttf", "DejaVuSansMono.ttf"}) {
-        T_RESOURCE *resource = OpenResource(&_FontBase->fonts, name, RESOURCE_TYPE_FONT, 0);
-        ASSERT_NE(resource, nullptr);
-        SetActiveFont(FontOfResource(resource));
-        SetFontStyle(3);
-        EXPECT_GT(DrawText(0, 0, "Glyphs", TEXT_INK), 0);
-    }
-    SetFontStyle(0);
-    CloseFonts();
-    EXPECT_EQ(_OstrandBase->blocks_allocated, blocks);
 }

@@ -54,20 +54,6 @@ TEST_F(GadgetTest, ComboHoldsWhatIsMadeBetweenSaveAndRestore) {
     EXPECT_EQ(p.data->content_h, 8 * 20 + 2 + 4);
 }
 
-TEST_F(GadgetTest, CheckBoxInsideAComboTogglesAndReports) {
-    COMBO_PAGE p = MakeComboPage(this, window, GADGET_FLAGS_VERTICAL, Init);
-    Turn();
-    recorded.clear();
-    t_gadget *box = p.boxes[2];
-    EXPECT_EQ(GadgetAtPoint(window, box->screen_x + 5, MidY(box)), box);
-    Click(box->screen_x + 5, MidY(box));
-    EXPECT_EQ(box->class_data, 1u);
-    ASSERT_EQ(CountRecorded(ACT_LMOUSE_UP), 1u);
-    EXPECT_EQ(recorded.back().item_code, 4u);
-    EXPECT_EQ(recorded.back().data, box);
-    EXPECT_EQ(GetCurrentGadget(window), box);
-}
-
 TEST_F(GadgetTest, ComboScrollsItsChildren) {
     COMBO_PAGE p = MakeComboPage(this, window, GADGET_FLAGS_VERTICAL, Init);
     Turn();
@@ -93,26 +79,4 @@ TEST_F(GadgetTest, ComboScrollsItsChildren) {
     Drag(tx, ty, tx, ty + 200);
     EXPECT_EQ(p.data->top, p.data->content_h - view.h);  // dragged to the end
     EXPECT_EQ(p.boxes[7]->screen_y + p.boxes[7]->base_height, view.y + view.h - 4);
-}
-
-TEST_F(GadgetTest, ComboWithoutBorderPlacesFromItsEdge) {
-    COMBO_PAGE p = MakeComboPage(this, window, GADGET_FLAGS_NO_BORDER, Init);
-    EXPECT_EQ(p.boxes[0]->screen_x, p.combo->screen_x + 4);
-    EXPECT_EQ(p.data->scroll_v, nullptr);  // no bars without the orientation flags
-    p.combo->base_width = 300, p.combo->base_height = 300;
-    p.combo->live_flags |= GADGET_FLAGS_VERTICAL;
-    SetComboScrollBars(p.combo);
-    EXPECT_EQ(p.data->scroll_v, nullptr);  // everything fits
-    RecalcGadgetPosition(window, p.combo, 0, 10, 0);  // a move takes the children along
-    EXPECT_EQ(p.boxes[0]->screen_x, p.combo->screen_x + 4);
-}
-
-TEST_F(GadgetTest, HoverTextShowsForChildrenOfACombo) {
-    COMBO_PAGE p = MakeComboPage(this, window, GADGET_FLAGS_VERTICAL, Init);
-    Turn();
-    i16 x = p.boxes[1]->screen_x + 5, y = MidY(p.boxes[1]);
-    Move(x, y);
-    HeadlessAdvance(1000);
-    Turn();
-    EXPECT_EQ(Pixels(T_RPOS{(i16)(x + 13), (i16)(y + 21), 1, 1})[0], DISPLAY_RECORD->hover_back_colour);
 }

@@ -36,17 +36,6 @@ TEST_F(GadgetTest, RadioButtonsClearTheirRunOnly) {
     EXPECT_EQ(r[0]->class_data, 0u);
 }
 
-TEST_F(GadgetTest, GroupLetsWhatIsInsideTakeTheMouse) {
-    t_gadget *box = Make("Inside", Init(GADGET_TYPE_CHECK_BOX, 20, 30, 100, 20, 2, ACT_LMOUSE_UP));
-    t_gadget *group = Make("Group", Init(GADGET_TYPE_GROUP, 10, 10, 200, 100, 0, 0));
-    Turn();
-    Click(box->screen_x + 5, MidY(box));
-    EXPECT_EQ(box->class_data, 1u);
-    EXPECT_EQ(GadgetAtPoint(window, group->screen_x + 150, group->screen_y + 80), nullptr);
-    group->action_fn = [](t_Window *, t_gadget *, T_MOUSE_MSG *) -> u32 { return 0; };  // as on a page
-    EXPECT_EQ(GadgetAtPoint(window, group->screen_x + 150, group->screen_y + 80), group);
-}
-
 TEST_F(GadgetTest, ColourSwatchShowsAndTakesADroppedColour) {
     T_RGBA rgba = {10, 20, 30, 0};
     T_HSIA hsia = {};

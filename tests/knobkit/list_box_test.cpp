@@ -12,27 +12,6 @@ static i16 RowY(t_gadget *g, i32 row) {  // the middle of a visible row
     return (i16)(l.inner.y + (row - ListOf(g)->top) * l.row_h + l.row_h / 2);
 }
 
-TEST_F(GadgetTest, ListEntriesComeThroughCreateObject) {
-    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_LIST_BOX, 10, 10, 200, 100);
-    T_LIST_DATA *data = (T_LIST_DATA *)Create("My Listbox", init);
-    ASSERT_NE(data, nullptr);
-    t_gadget *g = GetCurrentGadget(window);
-    ASSERT_NE(g, nullptr);
-    EXPECT_EQ(g->type, GADGET_TYPE_LIST_BOX);
-    EXPECT_EQ(g->class_data, (uintptr_t)data);
-    EXPECT_EQ(data->gadget, g);
-    EXPECT_EQ(data->selected, -1);
-    char text[32] = "First";
-    init.parent_gadget = data;
-    T_LIST_ENTRY *first = (T_LIST_ENTRY *)Create(text, init);
-    Create("Second", init);
-    EXPECT_EQ(GetCurrentGadget(window), g);  // entries are no gadgets
-    strcpy(text, "changed");
-    EXPECT_STREQ(first->name, "First");  // a copy
-    ASSERT_EQ(CountListEntries(&data->entries), 2u);
-    EXPECT_STREQ(((T_LIST_ENTRY *)data->entries.last)->name, "Second");
-}
-
 TEST_F(GadgetTest, ListClickSelectsAndReports) {
     t_gadget *g = MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 200, 120, 5, 9);
     Turn();
@@ -52,32 +31,6 @@ TEST_F(GadgetTest, ListClickSelectsAndReports) {
     HeadlessAdvance(1000);
     Click(MidX(g), g->screen_y + g->base_height - 3);  // below the last row: nothing changes
     EXPECT_EQ(ListOf(g)->selected, 3);
-}
-
-TEST_F(GadgetTest, ListKeysMoveTheSelectionAndScroll) {
-    t_gadget *g = MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 200, 80, 30);
-    Turn();
-    T_LIST_DATA *d = ListOf(g);
-    ASSERT_GT(d->rows, 1);
-    struct {
-        u16 key;
-        i32 selected;
-    } rows[] = {
-        {KEY_DOWN, 0}, {KEY_DOWN, 1}, {KEY_UP, 0}, {KEY_UP, 0}, {KEY_END, 29},
-        {KEY_PAGE_UP, 29 - d->rows}, {KEY_HOME, 0}, {KEY_PAGE_DOWN, d->rows},
-    };
-    SetCurrentGadget(window, g);
-    for (const auto &row : rows) {
-        recorded.clear();
-        Key(row.key);
-        EXPECT_EQ(d->selected, row.selected);
-        EXPECT_GE(d->selected, d->top);  // always in view
-        EXPECT_LT(d->selected, d->top + d->rows);
-        EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 1u);
-    }
-    recorded.clear();
-    Key(KEY_RETURN);
-    EXPECT_EQ(CountRecorded(ACT_LMOUSE_DBL), 1u);
 }
 
 TEST_F(GadgetTest, ListScrollsByWheelAndScrollBar) {
@@ -107,29 +60,6 @@ TEST_F(GadgetTest, ListScrollsByWheelAndScrollBar) {
     Click(bx, l.bar.y + SCROLL_BAR_SIZE + 1);  // the track above the thumb: a page up
     EXPECT_EQ(d->top, 30 - 2 * d->rows);
     EXPECT_EQ(d->selected, -1);  // scrolling selects nothing
-}
-
-TEST_F(GadgetTest, ListResizeBitIsAnsweredAtThePaint) {
-    t_gadget *g = MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 200, 60, 30);
-    Turn();
-    T_LIST_DATA *d = ListOf(g);
-    i32 rows = d->rows;
-    g->base_height += 60;
-    d->resized_flags |= LIST_RESIZED;
-    Turn();
-    EXPECT_EQ(d->resized_flags & LIST_RESIZED, 0);
-    EXPECT_GT(d->rows, rows);
-}
-
-TEST_F(GadgetTest, EmptyListTakesClicksAndKeysQuietly) {
-    t_gadget *g = MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 200, 60, 0);
-    Turn();
-    recorded.clear();
-    Click(MidX(g), MidY(g));
-    SetCurrentGadget(window, g);
-    Key(KEY_DOWN);
-    EXPECT_EQ(ListOf(g)->selected, -1);
-    EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 0u);
 }
 
 // A tab in a row's text puts what follows at the row's right end; the middle stays empty.

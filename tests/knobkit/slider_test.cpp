@@ -117,24 +117,3 @@ TEST_F(GadgetTest, ScrollBarArrowsTrackThumbAndKeys) {
         RemoveObject(&handler->head, g);
     }
 }
-
-TEST_F(GadgetTest, ScrollBarPartsFollowTheRange) {
-    struct {
-        T_SCROLL_RANGE range;
-        i16 thumb_at, thumb_len;
-    } rows[] = {
-        {{0, 100, 10, 0, 1}, 20, 16},    // a tenth of the 160 track
-        {{0, 100, 10, 90, 1}, 164, 16},  // at the end
-        {{0, 100, 10, 500, 1}, 164, 16}, // a value past the end shows at the end
-        {{0, 100, 200, 0, 1}, 20, 160},  // all visible: the whole track
-        {{0, 1000, 1, 0, 1}, 20, 8},     // never shorter than 8
-    };
-    for (const auto &row : rows) {
-        T_SCROLL_PARTS p;
-        ScrollParts(T_RPOS{0, 0, 20, 200}, 0, &row.range, &p);
-        EXPECT_EQ(p.less.h, 20);
-        EXPECT_EQ(p.more.y, 180);
-        EXPECT_EQ(p.thumb.y, row.thumb_at);
-        EXPECT_EQ(p.thumb.h, row.thumb_len);
-    }
-}

@@ -61,20 +61,6 @@ TEST_F(GadgetTest, StringEditingKeys) {
     }
 }
 
-TEST_F(GadgetTest, StringFollowsARepointedBuffer) {
-    char first[32] = "one", second[32] = "two";
-    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 10, 10, 200, 0);
-    init.data = first, init.max = 31;
-    t_gadget *g = Make("string", init);
-    SetCurrentGadget(window, g);
-    TypeText("!");
-    g->data = second;
-    Key(KEY_END);
-    TypeText("?");
-    EXPECT_STREQ(first, "one!");
-    EXPECT_STREQ(second, "two?");
-}
-
 TEST_F(GadgetTest, StringMakesItsOwnBufferWithItsName) {
     struct {
         void *data;
@@ -103,62 +89,6 @@ TEST_F(GadgetTest, StringMakesItsOwnBufferWithItsName) {
     EXPECT_EQ(PutStringName[0], 0);
 }
 
-TEST_F(GadgetTest, StringReportsEnterLeavingAndDoubleClick) {
-    char buffer[32] = "text";
-    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 10, 10, 200, 0, 50, ACT_LMOUSE_UP | ACT_LMOUSE_DBL);
-    init.data = buffer;
-    t_gadget *g = Make("string", init);
-    t_gadget *other = Make("other", Init(GADGET_TYPE_BUTTON, 10, 60, 80, 0, 51, 0));
-    Click(MidX(g), MidY(g));
-    recorded.clear();
-    Key(KEY_RETURN);
-    ASSERT_EQ(CountRecorded(ACT_LMOUSE_UP), 1u);
-    EXPECT_EQ(recorded.back().item_code, 50u);
-    EXPECT_EQ(recorded.back().data, g);
-    Click(MidX(other), MidY(other));  // leaving the field
-    Turn();
-    EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 2u);
-    EXPECT_EQ(recorded.back().item_code, 50u);
-    Turn(3);
-    EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 2u);  // once only
-    Press(MidX(g), MidY(g));
-    Release(MidX(g), MidY(g));
-    Press(MidX(g), MidY(g));
-    Release(MidX(g), MidY(g));
-    EXPECT_EQ(CountRecorded(ACT_LMOUSE_DBL), 1u);
-    EXPECT_EQ(g->select_from, 0);  // the word is selected
-    EXPECT_EQ(g->value, 4);
-}
-
-TEST_F(GadgetTest, StringMousePlacesTheCursorAndSelects) {
-    char buffer[32] = "abcdefgh";
-    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 10, 10, 200, 0);
-    init.data = buffer;
-    t_gadget *g = Make("string", init);
-    i16 left = g->screen_x + 1, right = g->screen_x + g->base_width - 2, y = MidY(g);
-    Click(left, y);
-    EXPECT_EQ(g->value, 0);
-    Click(right, y);
-    EXPECT_EQ(g->value, 8);
-    Drag(left, y, right, y);
-    EXPECT_EQ(g->select_from, 0);
-    EXPECT_EQ(g->value, 8);
-    TypeText("Z");
-    EXPECT_STREQ(buffer, "Z");
-}
-
-TEST_F(GadgetTest, StringLongTextScrollsToTheCursor) {
-    char buffer[256] = {};
-    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 10, 10, 60, 0);
-    init.data = buffer;
-    t_gadget *g = Make("string", init);
-    SetCurrentGadget(window, g);
-    TypeText("a rather long text that will not fit");
-    EXPECT_GT(g->scroll, 0);
-    Key(KEY_HOME);
-    EXPECT_EQ(g->scroll, 0);
-}
-
 TEST_F(GadgetTest, SecretStringShowsNoText) {
     char a[32] = "iiii", b[32] = "WWWW";
     T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 10, 10, 120, 0);
@@ -173,35 +103,4 @@ TEST_F(GadgetTest, SecretStringShowsNoText) {
     EXPECT_NE(Look(a, 0), Look(b, 0));
     EXPECT_EQ(Look(a, GADGET_FLAGS_SECRET), Look(b, GADGET_FLAGS_SECRET));  // the same stars
     EXPECT_STREQ(a, "iiii");
-}
-
-TEST_F(GadgetTest, StringShowsTheCursorOnlyWhileCurrent) {
-    char buffer[32] = "";
-    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 10, 10, 120, 0);
-    init.data = buffer;
-    t_gadget *g = Make("string", init);
-    t_gadget *other = Make("other", Init(GADGET_TYPE_BUTTON, 10, 60, 80, 0));
-    SetCurrentGadget(window, other);
-    Turn();
-    std::vector<u32> away = Pixels(GadgetRect(g));
-    SetCurrentGadget(window, g);
-    Turn();
-    EXPECT_NE(Pixels(GadgetRect(g)), away);
-}
-
-TEST_F(GadgetTest, SettingsStyleFieldEditsTheRecordInPlace) {
-    struct {
-        char reserved[4];
-        char backup_path[256];
-    } record = {{}, "Backup"};
-    T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 8, 8, 300, 15, 50, ACT_LMOUSE_DBL);
-    init.max = 255, init.data = record.backup_path;
-    t_gadget *g = Make("string", init);
-    Click(MidX(g), MidY(g));
-    Key(KEY_END);
-    std::string long_path(249, 'p');  // with "Backup": 255 characters, the field's limit
-    TypeText(long_path.c_str());
-    TypeText("more");
-    EXPECT_EQ(strlen(record.backup_path), 255u);
-    EXPECT_EQ(strncmp(record.backup_path, "Backup", 6), 0);
 }

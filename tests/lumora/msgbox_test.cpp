@@ -62,16 +62,3 @@ TEST_F(LumoraTest, EnterEscapeAndTheMaskDecideTheAnswer) {
         Turn();
     }
 }
-
-TEST_F(LumoraTest, LongTextWrapsAndTheBoxIsCentred) {
-    t_Window *parent = MakeWindow("Parent", 0, 0, 800, 600, 0, 0);
-    std::string text(150, 'x');
-    for (size_t i = 10; i < text.size(); i += 11) text[i] = ' ';
-    t_Window *box = NewMsgBox(parent, "Long", text.c_str(), 64, 0);
-    ASSERT_NE(box, nullptr);
-    EXPECT_LT(box->w, 800);
-    EXPECT_NEAR(box->x + box->w / 2, 400, 1);
-    EXPECT_NEAR(box->y + box->h / 2, 300, 1);
-    EXPECT_TRUE(box->flags & WF_IN_FRONT);
-    EXPECT_TRUE(box->flags & WF_DEPENDANT);
-}

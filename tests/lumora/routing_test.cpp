@@ -79,17 +79,6 @@ TEST_F(LumoraTest, KeyGoesToHandlersThenGadgetThenMessage) {
     }
 }
 
-TEST_F(LumoraTest, TypedTextBecomesKeys) {
-    t_Window *w = MakeWindow("Typing", 10, 10, 300, 200, 0, IDCMP_KEY);
-    Turn();
-    recorded.clear();
-    TypeText("a\xc3\xa9" "b");  // a, e acute (Latin-1 233), b
-    ASSERT_EQ(CountRecorded(ACT_KEY, w), 3u);
-    EXPECT_EQ(recorded[0].item_code, (u32)'a');
-    EXPECT_EQ(recorded[1].item_code, 233u);
-    EXPECT_EQ(recorded[2].item_code, (u32)'b');
-}
-
 TEST_F(LumoraTest, ActionFunctionGetsOnlyItsMaskAndNothingElseDoes) {
     struct {
         u32 mask;
@@ -164,48 +153,6 @@ TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick) {
     EXPECT_EQ(actions[0].mouse_action, ACT_LMOUSE_DOWN);
 }
 
-TEST_F(LumoraTest, BackgroundPressGoesToHandlersAndIsCaptured) {
-    t_Window *w = MakeWindow("Back", 10, 10, 400, 300, 0, 0);
-    NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
-    Turn();
-    Reset();
-    handler_result = 1;
-    Press(100, 100);
-    Move(500, 500);  // outside the window: still the handler's
-    Release(500, 500);
-    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_DOWN), 1u);
-    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_MOUSE_MOVE), 1u);
-    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_UP), 1u);
-    Move(100, 100);  // a move with no button down reaches the handler with no action
-    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, 0), 1u);
-}
-
-TEST_F(LumoraTest, FocusLossDuringAPressBreaksIt) {
-    for (int by_display : {0, 1}) {
-        t_Window *a = MakeWindow("A", 10, 10, 200, 200, 0, 0);
-        t_Window *b = MakeWindow("B", 300, 10, 200, 200, 0, 0);
-        NewHandler(&a->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), a);
-        Turn();
-        Reset();
-        handler_result = 1;
-        Press(50, 50);
-        if (by_display) {
-            T_INPUT_EVENT e = {};
-            e.kind = INPUT_FOCUS_LOST;
-            HeadlessPush(&e);
-            Turn();
-        } else {
-            ISetActiveWindow(b);
-        }
-        EXPECT_EQ(Count(HANDLER_EVENT_BREAK, 0), 1u);
-        Release(50, 50);
-        EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_UP), 0u);
-        RemoveWindow(a);
-        RemoveWindow(b);
-        Turn();
-    }
-}
-
 static std::string dropped_directory, dropped_name;
 static u32 TakeDrop(t_Window *window, u32 item_code, u32 msg, void *data) {
     RecordMessage(window, item_code, msg, data);
@@ -232,51 +179,3 @@ TEST_F(LumoraTest, DroppedFileReachesTheWindowThatTakesIt) {
 
 // A message function that turns the loop itself: the input still queued is taken inside.
 static std::vector<u32> reentrant_log;
-static u32 TurnInside(t_Window *window, u32 item_code, u32 msg, void *data) {
-    (void)window, (void)data;
-    if (msg != ACT_KEY) return 0;
-    reentrant_log.push_back(item_code);
-    if (item_code == 'a') {
-        T_INPUT_EVENT e = {};
-        e.kind = INPUT_KEY_DOWN, e.key = 'b';
-        HeadlessPush(&e);
-        RefreshHandlers(nullptr);
-        reentrant_log.push_back(1000 + _LumoraBase->turn_depth);
-    }
-    return 1;
-}
-
-TEST_F(LumoraTest, MessageFunctionMayTurnTheLoopAgain) {
-    MakeWindow("Nested", 10, 10, 200, 200, 0, IDCMP_KEY, nullptr, TurnInside);
-    Turn();
-    Key('a');
-    std::vector<u32> expect = {'a', 'b', 1001};
-    EXPECT_EQ(reentrant_log, expect);
-    EXPECT_EQ(_LumoraBase->turn_depth, 0u);
-}
-
-TEST_F(LumoraTest, PopupGetsPressesOutsideFirst) {
-    t_Window *w = MakeWindow("Under", 10, 10, 300, 300, 0, 0);
-    NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
-    t_Window *popup = CreatePopupWindow(400, 400, 100, 100, nullptr);
-    NewHandler(&popup->handlers, RecordHandler, nullptr, "popup", 0, sizeof(t_Handler), popup);
-    EXPECT_EQ(FocusWindow(), w);  // a popup never takes the focus
-    Turn();
-    Reset();
-    handler_result = 1;
-    Click(50, 50);
-    EXPECT_EQ(Count(HANDLER_EVENT_OUTSIDE, 0), 1u);
-    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_DOWN), 0u);
-    EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_UP), 0u);
-}
-
-TEST_F(LumoraTest, AKeyNobodyAskedForGoesUpToTheParent) {
-    t_Window *main = MakeWindow("Main", 0, 0, 600, 500, 0, IDCMP_KEY);
-    t_Window *tools = MakeWindow("Tools", 10, 10, 100, 50, WF_CHILD, 0, main);
-    EXPECT_EQ(FocusWindow(), tools);
-    Turn();
-    recorded.clear();
-    Key(KEY_CTRL('S'));
-    ASSERT_EQ(CountRecorded(ACT_KEY, main), 1u);
-    EXPECT_EQ(recorded.back().item_code, (u32)KEY_CTRL('S'));
-}

@@ -34,22 +34,6 @@ TEST_F(LumoraTest, UserAreaFollowsFrameFlags) {
     Turn();
 }
 
-TEST_F(LumoraTest, ChildPlacedInParentUserAreaAndOwnerMayRepointName) {
-    t_Window *parent = MakeWindow("Main", 10, 10, 500, 400, WF_BORDER | WF_TITLE, 0);
-    t_Window *child = MakeWindow("Page", 20, 30, 100, 80, WF_CHILD | WF_BORDER, 0, parent);
-    EXPECT_EQ(child->x, parent->user_x + 20);
-    EXPECT_EQ(child->y, parent->user_y + 30);
-    EXPECT_EQ(child->parent, parent);
-    EXPECT_EQ((t_Window *)parent->first_child, child);
-    char own[32] = "Owner's name";
-    child->name = own;  // the toolkit keeps and frees its own copy
-    u64 mismatches = _OstrandBase->size_mismatches;
-    RemoveWindow(parent);
-    Turn();
-    EXPECT_EQ(_OstrandBase->size_mismatches, mismatches);
-    EXPECT_EQ(FindWindowByName(nullptr, "Main"), nullptr);
-}
-
 TEST_F(LumoraTest, GadgetsFromRightAndBottomFollowTheUserArea) {
     t_Window *w = MakeWindow("G", 0, 0, 208, 108, WF_BORDER, 0);  // user area 4,4 200x100
     struct {
@@ -254,20 +238,6 @@ TEST_F(LumoraTest, FocusChangeSendsLooseThenGain) {
     EXPECT_EQ((t_Window *)CURRENT_DISPLAY->window_class->windows.last, a);
     Click(60, 60);  // already the focus: nothing more
     EXPECT_EQ(recorded.size(), 2u);
-}
-
-TEST_F(LumoraTest, InFrontAndBackdropKeepTheirLayers) {
-    t_Window *front = MakeWindow("Front", 0, 0, 100, 100, WF_IN_FRONT, 0);
-    t_Window *back = MakeWindow("Back", 0, 0, 100, 100, WF_BACKDROP, 0);
-    t_Window *plain = MakeWindow("Plain", 0, 0, 100, 100, 0, 0);
-    t_List *list = &CURRENT_DISPLAY->window_class->windows;
-    EXPECT_EQ((t_Window *)list->first, back);
-    EXPECT_EQ((t_Window *)list->last, front);
-    ISetActiveWindow(back);
-    EXPECT_EQ((t_Window *)list->first, back);
-    WindowToBack(front);
-    EXPECT_EQ((t_Window *)list->last, front);
-    EXPECT_EQ((t_Window *)list->first->next, plain);
 }
 
 TEST_F(LumoraTest, BitmapIsFoundByNameOrLeftPlain) {

@@ -47,29 +47,6 @@ class Commands : public DataRootTest {
     std::string KeyStore() const { return ReadWhole(Path("keys/Quillform.keys")); }
 };
 
-TEST_F(Commands, RegisteredInOrderWithTheirTextsAndKeys) {
-    std::vector<std::string> names;
-    for (T_APP_COMMAND *c = (T_APP_COMMAND *)app->commands.first; c->next; c = c->next)
-        names.push_back(c->name);
-    EXPECT_EQ(names, (std::vector<std::string>{"Open", "Close", "Save", "Undo", "Settings",
-                                               "Keyboard"}));
-    for (const CommandRow &row : command_rows) {
-        T_APP_COMMAND *c = FindAppCommandByCode(app, row.item_code);
-        ASSERT_NE(c, nullptr) << row.name;
-        EXPECT_STREQ(c->name, row.name);
-        EXPECT_STREQ(c->description, row.description);
-        EXPECT_STREQ(c->group, row.group);
-        EXPECT_EQ(c->key, row.key);
-        EXPECT_EQ(c->default_key, row.key);
-        if (row.key) {
-            EXPECT_EQ(FindAppCommandByKey(app, row.key), c) << row.name;
-        }
-    }
-    EXPECT_EQ(FindAppCommandByKey(app, 0), nullptr);  // "no key" finds nothing
-    EXPECT_EQ(FindAppCommandByKey(app, 'x'), nullptr);
-    EXPECT_EQ(FindAppCommandByCode(app, 999), nullptr);
-}
-
 TEST_F(Commands, AKeyInUseIsRefusedAndAChangeOutlivesARestart) {
     T_APP_COMMAND *close = FindAppCommandByCode(app, 257);
     EXPECT_FALSE(SetAppCommandKey(app, close, KEY_CTRL('S')));
@@ -113,52 +90,4 @@ TEST_F(Commands, ABrokenKeyStoreGivesTheDefaultsAndOneLogLine) {
     std::string log = CaptureLog([&] { Restart(); });
     EXPECT_EQ(log, "");
     EXPECT_EQ(FindAppCommandByCode(app, 259)->key, 266u);
-}
-
-TEST(KeyName, NamesOfKeys) {
-    struct Case {
-        u32 key;
-        const char *name;
-    } cases[] = {
-        {KEY_CTRL('O'), "Ctrl+O"}, {KEY_CTRL('A'), "Ctrl+A"}, {KEY_CTRL('Z'), "Ctrl+Z"},
-        {KEY_F1 + 9, "F10"},       {KEY_F1, "F1"},            {KEY_F1 + 11, "F12"},
-        {KEY_DELETE, "Delete"},    {KEY_ESCAPE, "Escape"},    {'a', "A"},
-        {'7', "7"},                {' ', "Space"},            {0, ""},
-        {279, "Key 279"},
-    };
-    for (const Case &c : cases) {
-        char buffer[16];
-        EXPECT_STREQ(KeyName(c.key, buffer), c.name) << c.key;
-    }
-}
-
-// A window record of its own, enough for a direct message.
-static std::vector<std::pair<u32, u32>> received;
-static u32 Record(t_Window *, u32 item_code, u32 msg, void *) {
-    received.push_back({item_code, msg});
-    return 0;
-}
-
-TEST_F(Commands, AKeysCommandReachesTheWindowAsAMenuPick) {
-    t_Window window = {};
-    InitList(&window.handlers, "handlers");
-    InitList(&window.children, "children");
-    window.message = Record;
-    received.clear();
-    struct Case {
-        u16 key;
-        u32 ran;
-        u32 item_code;
-    } cases[] = {
-        {KEY_CTRL('S'), 1, 259}, {KEY_F1 + 9, 1, 272}, {KEY_CTRL('Q'), 0, 0}, {0, 0, 0},
-    };
-    for (const Case &c : cases) {
-        T_KEY_MSG key = {c.key, 0};
-        received.clear();
-        EXPECT_EQ(ExecuteAppCommand(app, &window, &key), c.ran) << c.key;
-        if (c.ran)
-            EXPECT_EQ(received, (std::vector<std::pair<u32, u32>>{{c.item_code, ACT_MENU_PICK}}));
-        else
-            EXPECT_TRUE(received.empty());
-    }
 }

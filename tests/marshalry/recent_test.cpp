@@ -64,28 +64,6 @@ TEST_F(RecentFiles, NewestFirstWithoutDuplicatesUpToTheLimit) {
     EXPECT_EQ(Paths(), (Paths_{"/p/a.cpp", "/p/d.cpp", "/p/c.cpp"}));
 }
 
-TEST_F(RecentFiles, TheListOutlivesARestartAndKeepsEachType) {
-    AddRecentFileType(app, 2, 2);
-    AddRecentFile(app, "/p/a.cpp", 1);
-    AddRecentFile(app, "/p/with space.cpp", 1);
-    AddRecentFile(app, "/img/x.png", 2);
-    EXPECT_EQ(ReadWhole(Path("recent/Quillform.txt")),
-              "1 /p/with space.cpp\n1 /p/a.cpp\n2 /img/x.png\n");
-    Restart();
-    AddRecentFileType(app, 2, 2);
-    EXPECT_EQ(Paths(1), (Paths_{"/p/with space.cpp", "/p/a.cpp"}));
-    EXPECT_EQ(Paths(2), (Paths_{"/img/x.png"}));
-}
-
-TEST_F(RecentFiles, AStoreLongerThanTheLimitIsCut) {
-    ASSERT_TRUE(MakeEntireDirectory(Path("recent").c_str()));
-    WriteWhole(Path("recent/Quillform.txt"), "1 /a\n1 /b\n1 /c\n1 /d\n1 /e\n");
-    Restart();
-    EXPECT_EQ(Paths(), (Paths_{"/a", "/b", "/c"}));
-    AddRecentFileType(app, 1, 1);  // a smaller limit takes effect at once
-    EXPECT_EQ(Paths(), (Paths_{"/a"}));
-}
-
 TEST_F(RecentFiles, ABrokenStoreGivesAnEmptyListAndOneLogLine) {
     const char *stores[] = {"/p/a.cpp\n", "1 /p/a.cpp\nx /p/b.cpp\n", "1\n", "1 \n"};
     for (const char *store : stores) {

@@ -37,16 +37,3 @@ TEST(IconBanks, TheToolIconsAreDrawnAndTellApart)
     EXPECT_EQ(OpaquePixels(bank, 8), 0u);
     FreeTextureBank(bank);
 }
-
-TEST(IconBanks, TheStandardBankHasItsIconsAndTheSaveIcon)
-{
-    T_TEXTURE_BANK *bank = MakeStandardIconBank();
-    ASSERT_NE(bank, nullptr);
-    EXPECT_EQ(bank->count, 20);
-    EXPECT_EQ(bank->icon_width, 16);
-    for (u16 icon : {0, 1, 2, 3, 4, 5, 6, 7, 16})
-        EXPECT_GT(OpaquePixels(bank, icon), 20u) << icon;
-    EXPECT_FALSE(SameIcon(bank, 16, 5));
-    EXPECT_EQ(OpaquePixels(bank, 19), 0u);
-    FreeTextureBank(bank);
-}

@@ -39,13 +39,6 @@ protected:
     }
 };
 
-static t_Menu *greyed_entry;
-static void GreyOnOpen(u32 item_code)
-{
-    (void)item_code;
-    greyed_entry->menu_flags |= MENU_FLAG_GREY;
-}
-
 TEST_F(MenuInputTest, OpeningATitleTellsTheOwnerBeforeTheMenuShows)
 {
     //  how                      title         Alt letter
@@ -117,56 +110,6 @@ TEST_F(MenuInputTest, KeysMoveThroughOpenMenusAndPick)
         }
         CloseOpenMenus();
     }
-}
-
-TEST_F(MenuInputTest, KeysWaitWhileAMenuIsOpen)
-{
-    Key('f', QUAL_ALT);
-    spy_messages.clear();
-    Key('q');
-    Key(KEY_F1);
-    EXPECT_TRUE(MessagesOf(ACT_KEY).empty());
-    EXPECT_EQ(OpenPopups(), 1u);
-    Key(KEY_ESCAPE);
-    Key('q');
-    EXPECT_EQ(MessagesOf(ACT_KEY).size(), 1u);
-}
-
-TEST_F(MenuInputTest, ClickingAnEntryPicksIt)
-{
-    ClickTitle(SAMPLE_FILE);
-    i16 x, y;
-    EntryCentre(0, file, 3, &x, &y);  // Save
-    Click(x, y);
-    EXPECT_EQ(Picked(), (u32)SAMPLE_SAVE);
-    EXPECT_EQ(OpenPopups(), 0u);
-}
-
-TEST_F(MenuInputTest, PressDragAndReleaseFromTheTitlePicks)
-{
-    i16 tx, ty, x, y;
-    TitleCentre(handler, file, &tx, &ty);
-    Press(tx, ty);
-    EXPECT_EQ(OpenPopups(), 1u);
-    EntryCentre(0, file, 6, &x, &y);  // Exit
-    Move(x, y);
-    Release(x, y);
-    EXPECT_EQ(Picked(), (u32)SAMPLE_EXIT);
-}
-
-TEST_F(MenuInputTest, GreyingDoneOnOpenHoldsForThatOpening)
-{
-    greyed_entry = FindMenuByItemCode(file, SAMPLE_SAVE);
-    spy_on_menu_open = GreyOnOpen;
-    ClickTitle(SAMPLE_FILE);
-    i16 x, y;
-    EntryCentre(0, file, 3, &x, &y);
-    Click(x, y);
-    EXPECT_EQ(Picked(), 0u);
-    EXPECT_EQ(OpenPopups(), 1u) << "a greyed entry leaves the menu open";
-    EntryCentre(0, file, 0, &x, &y);
-    Click(x, y);
-    EXPECT_EQ(Picked(), (u32)SAMPLE_OPEN);
 }
 
 TEST_F(MenuInputTest, PressesOutsideCloseOrSwitch)
@@ -277,57 +220,4 @@ TEST_F(ContextMenuTest, OpeningTellsTheWindowOnlyWhenTheMenuAsks)
         EXPECT_EQ(OpenPopups(), 1u);
         CloseOpenMenus();
     }
-}
-
-TEST_F(ContextMenuTest, APickFromTheClassHandlerGoesToTheWindowUnderThePoint)
-{
-    T_DETACH_MENU detach;
-    memset(&detach, 0, sizeof(detach));
-    detach.menu = &context;
-    GetNewMenuDetachBoxPos(&context, &detach.box, (i16)(owner->user_x + 20), (i16)(owner->user_y + 20));
-    ASSERT_NE(CreateObject(CURRENT_DISPLAY->detached_menu_class, "WinEdit", &detach), nullptr);
-    Turn();
-    i16 x, y;
-    EntryCentre(0, &context, 1, &x, &y);
-    Click(x, y, 3);  // the right button picks as well
-    std::vector<T_SPY_MESSAGE> picks = MessagesOf(ACT_MENU_PICK);
-    ASSERT_EQ(picks.size(), 1u);
-    EXPECT_EQ(picks[0].item_code, 0xE002u);
-    EXPECT_EQ(picks[0].data, FindMenuByItemCode(&context, 0xE002));
-}
-
-TEST_F(ContextMenuTest, TheBoxStaysOnTheScreen)
-{
-    //  x    y
-    const struct {
-        i16 x, y;
-    } rows[] = {{10, 10}, {790, 20}, {20, 590}, {799, 599}};
-    for (const auto &row : rows) {
-        T_RPOS box;
-        GetNewMenuDetachBoxPos(&context, &box, row.x, row.y);
-        EXPECT_GT(box.w, 0);
-        EXPECT_EQ(box.h, MenuPanelHeight(&context));
-        EXPECT_GE(box.x, 0);
-        EXPECT_GE(box.y, 0);
-        EXPECT_LE(box.x + box.w, 800);
-        EXPECT_LE(box.y + box.h, 600);
-        if (row.x + box.w + MENU_SHADOW <= 800) {
-            EXPECT_EQ(box.x, row.x);
-        }
-    }
-}
-
-TEST_F(ContextMenuTest, AnOpenMenuIsLaidOutAgainAfterItsEntriesChange)
-{
-    t_Window *popup = OpenDetachedMenu(owner, &context, 100, 100);
-    ASSERT_NE(popup, nullptr);
-    i16 width = popup->w;
-    t_Menu *copy = FindMenuByItemCode(&context, 0xE002);
-    copy->label = AllocString("Copy with every setting of the gadget", &copy->label_string);
-    copy->menu_width = (u16)(GetStringWidth(copy->label) + 2 * GetActiveFontHeight());
-    ReDetachMenu(owner, &context);
-    EXPECT_GT(popup->w, width);
-    EXPECT_EQ(popup->w, context.detached_width + MENU_SHADOW);
-    FreeString(&copy->label_string);
-    copy->label = copy->name;
 }

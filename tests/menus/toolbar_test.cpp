@@ -27,20 +27,6 @@ protected:
     }
 };
 
-TEST_F(ToolBarTest, ItsWindowSitsInTheOwnerAndFitsTheButtons)
-{
-    t_Window *w = toolbar->window;
-    EXPECT_EQ(w->parent, owner);
-    EXPECT_EQ(w->user_data, toolbar);
-    EXPECT_EQ(toolbar->owner, owner);
-    EXPECT_EQ(w->x, owner->user_x + 4);
-    EXPECT_EQ(w->y, owner->user_y + 4);
-    EXPECT_EQ(w->user_w, 4 * 30 + 4);
-    EXPECT_EQ(w->user_h, 30 + 4);
-    EXPECT_EQ(CURRENT_DISPLAY->window_class->current_window, owner) << "the toolbar never takes the focus";
-    EXPECT_STREQ(((T_TOOLBAR_ENTRY *)FindNodeByIndex(&toolbar->entries, 3))->name, "Radio button");
-}
-
 // Children made at the owner's cascade place stand below the toolbar, a step further each, and
 // start again after eight; a child made elsewhere leaves the cascade where it is.
 TEST_F(ToolBarTest, CascadedChildrenStandBelowItAndStartAgainAfterEight)
@@ -78,17 +64,4 @@ TEST_F(ToolBarTest, TheActiveEntryFollowsClicksAndCalls)
     EXPECT_EQ(GetActiveToolBarEntry(toolbar), 2);
     SetActiveToolBarEntry(toolbar, 4);  // past the last
     EXPECT_EQ(GetActiveToolBarEntry(toolbar), 2);
-}
-
-TEST_F(ToolBarTest, ItEndsOnlyWhenTheOwnerHasSetTheEndingBit)
-{
-    t_Window *w = toolbar->window;
-    SendWindowMessage(w, 0, ACT_TERMINATE, NULL);
-    EXPECT_TRUE(IsWindowLive(w));
-    w->extra_flags |= TOOLBAR_EXTRA_ENDING;
-    SendWindowMessage(w, 0, ACT_TERMINATE, NULL);
-    EXPECT_FALSE(IsWindowLive(w));
-    Turn();
-    EXPECT_EQ(FindWindowByName(owner, "qftoolbar"), nullptr);
-    EXPECT_EQ(_OstrandBase->blocks_allocated, blocks_before) << "the toolbar's records went with its window";
 }

@@ -85,19 +85,3 @@ TEST(UndoList, UndoAndRedoWalkTheHistoryAndANewRecordDropsTheRedoHalf)
     EXPECT_EQ(_OstrandBase->blocks_allocated, blocks);
     EXPECT_EQ(_OstrandBase->size_mismatches, 0u);
 }
-
-TEST(UndoList, ARecordOwnsAClearedBlockAndACopyOfItsLabel)
-{
-    T_UNDO_LIST list;
-    InitUndoList(&list, "page");
-    char label[32] = "Move gadget";
-    T_UNDO_NODE *node = AddUndoNode(&list, RedoStep, UndoStep, NULL, 40, label);
-    strcpy(label, "changed");
-    EXPECT_STREQ(node->name, "Move gadget");
-    ASSERT_NE(node->data, nullptr);
-    EXPECT_EQ(node->data_size, 40u);
-    static const u8 zeros[40] = {};
-    EXPECT_EQ(memcmp(node->data, zeros, sizeof(zeros)), 0);
-    EXPECT_EQ(node->third, nullptr);
-    EmptyUndoList(&list);
-}

@@ -71,25 +71,6 @@ TEST_F(ListTest, SubNodeOfFirstLastMiddleAndOnlyKeepsBothDirections) {
     }
 }
 
-TEST_F(ListTest, SubNodeTwiceOrOfTheTailMarkChangesNothing) {
-    Fill("ab");
-    t_Node *a = list.first;
-    SubNode(a);
-    SubNode(a);
-    SubNode(list.first->next);  // the tail mark
-    EXPECT_EQ(Names(&list), "b");
-    AddHead(&list, a);
-    EXPECT_EQ(Names(&list), "ab");
-}
-
-TEST_F(ListTest, FindFirstNodeFromAnyNodeAndFromTheTailMark) {
-    Fill("abcd");
-    t_Node *tail_mark = list.last->next;
-    ASSERT_EQ(tail_mark->next, nullptr);
-    for (t_Node *from : {list.first, list.first->next->next, list.last, tail_mark})
-        EXPECT_EQ(FindFirstNode(from), list.first);
-}
-
 TEST_F(ListTest, AddQueueIsStableHighestFirst) {
     struct Entry {
         const char *name;
@@ -108,79 +89,4 @@ TEST_F(ListTest, AddQueueIsStableHighestFirst) {
         SubNode(node);
         FreeMem(node, sizeof(t_Node));
     }
-}
-
-TEST_F(ListTest, AddHeadAddTailTransferAndCount) {
-    Fill("bc");
-    t_Node *a = (t_Node *)AllocMemC(sizeof(t_Node));
-    a->name = (char *)"a";
-    AddHead(&list, a);
-    t_List other;
-    InitList(&other, "other");
-    NewTail(&other, sizeof(t_Node), "d");
-    NewTail(&other, sizeof(t_Node), "e");
-    TransferList(&list, &other);
-    EXPECT_TRUE(LIST_EMPTY(&other));
-    EXPECT_EQ(Names(&list), "abcde");
-    EXPECT_EQ(NamesBackwards(&list), "abcde");
-    EXPECT_EQ(CountListEntries(&list), 5u);
-    TransferList(&list, &other);  // an empty source moves nothing
-    EXPECT_EQ(CountListEntries(&list), 5u);
-    SubNode(a);
-    FreeMem(a, sizeof(t_Node));
-}
-
-TEST_F(ListTest, FindNodeIsNullSafeAndStartsWhereItIsGiven) {
-    Fill("abca");
-    t_Node *unnamed = NewTail(&list, sizeof(t_Node), nullptr);
-    EXPECT_EQ(unnamed->name, nullptr);
-    EXPECT_EQ(FindNode(list.first, "a"), list.first);
-    EXPECT_EQ(FindNode(list.first->next, "a"), FindNodeByIndex(&list, 3));
-    EXPECT_EQ(FindNode(list.first, nullptr), nullptr);
-    EXPECT_EQ(FindNode(nullptr, "a"), nullptr);
-    EXPECT_EQ(FindNode(list.first, "z"), nullptr);
-    EXPECT_EQ(FindNodeByIndex(&list, 4), unnamed);
-    EXPECT_EQ(FindNodeByIndex(&list, 5), nullptr);
-}
-
-TEST_F(ListTest, NewTailCopiesTheNameIntoTheNodesBlock) {
-    char name[] = "gadget";
-    t_Node *node = NewTail(&list, 64, name);
-    name[0] = 'X';
-    EXPECT_STREQ(node->name, "gadget");
-    SubNode(node);
-    u64 mismatches = _OstrandBase->size_mismatches;
-    FreeMem(node, 64);  // the name goes with the node's block
-    EXPECT_EQ(_OstrandBase->size_mismatches, mismatches);
-}
-
-TEST_F(ListTest, NodeSizesBelowANodeStillHoldOne) {
-    NewTail(&list, 16, "*.fnt");
-    NewTail(&list, 16, "*.*");
-    EXPECT_EQ(Names(&list), "*.fnt*.*");
-    u64 mismatches = _OstrandBase->size_mismatches;
-    EmptyList(&list, 16);
-    EXPECT_EQ(_OstrandBase->size_mismatches, mismatches);
-}
-
-static void UnlinkAndFree(void *node) {
-    SubNode((t_Node *)node);
-    FreeMem(node, sizeof(t_Node));
-}
-
-static void CollectIfData(void *node, void *data) {
-    auto *names = (std::vector<std::string> *)data;
-    names->push_back(((t_Node *)node)->name);
-    if (names->size() % 2)
-        UnlinkAndFree(node);
-}
-
-TEST_F(ListTest, ApplyFunctionsMayUnlinkTheirNode) {
-    Fill("abcde");
-    std::vector<std::string> seen;
-    ApplyFuncToListData(list.first, CollectIfData, &seen);
-    EXPECT_EQ(seen, (std::vector<std::string>{"a", "b", "c", "d", "e"}));
-    EXPECT_EQ(Names(&list), "bd");
-    ApplyFuncToList(list.first, UnlinkAndFree);
-    EXPECT_TRUE(LIST_EMPTY(&list));
 }

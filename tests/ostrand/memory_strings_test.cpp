@@ -27,25 +27,6 @@ TEST(Memory, BlocksAreClearedCountedAndSizeChecked) {
     EXPECT_EQ(_OstrandBase->blocks_allocated, blocks);
 }
 
-TEST(Strings, AllocStringReplacesItsCopyAndFreeStringEmpties) {
-    u64 blocks = _OstrandBase->blocks_allocated;
-    STRING s = {};
-    char source[] = "first";
-    char *copy = AllocString(source, &s);
-    source[0] = 'X';
-    EXPECT_STREQ(copy, "first");
-    EXPECT_EQ(s.text, copy);
-    EXPECT_EQ(s.size, 6u);
-    EXPECT_STREQ(AllocString("a longer second", &s), "a longer second");
-    EXPECT_STREQ(AllocString(s.text + 2, &s), "longer second");  // its own text
-    EXPECT_EQ(_OstrandBase->blocks_allocated, blocks + 1);
-    FreeString(&s);
-    EXPECT_EQ(s.text, nullptr);
-    EXPECT_EQ(s.size, 0u);
-    FreeString(&s);
-    EXPECT_EQ(_OstrandBase->blocks_allocated, blocks);
-}
-
 TEST(Strings, RemoveSpacesAndMakeReadable) {
     struct Case {
         const char *in, *spaces_removed, *readable;
@@ -110,18 +91,4 @@ TEST(ValueTables, LookupsMatchWholeValuesAndWholeTexts) {
     };
     for (const ByText &c : by_text)
         EXPECT_EQ(FindV2SByString(flag_names, c.text), c.value) << (c.text ? c.text : "(null)");
-}
-
-TEST(Log, LinesEndWithALineFeedAndFollowTheLevel) {
-    int level = _OstrandBase->log_level;
-    _OstrandBase->log_level = 3;
-    EXPECT_EQ(CaptureLog([] { myprintf(3, "Lines in file %s : %d", "a.cpp", 4); }),
-              "Lines in file a.cpp : 4\n");
-    EXPECT_EQ(CaptureLog([] { myprintf(0, "\nOpenPage error, no page marker found"); }),
-              "\nOpenPage error, no page marker found\n");
-    EXPECT_EQ(CaptureLog([] { myprintf(0, "ends\n"); }), "ends\n");
-    EXPECT_EQ(CaptureLog([] { myprintf(4, "too detailed"); }), "");
-    std::string long_text(5000, 'x');
-    EXPECT_EQ(CaptureLog([&] { myprintf(0, "%s", long_text.c_str()); }), long_text + "\n");
-    _OstrandBase->log_level = level;
 }

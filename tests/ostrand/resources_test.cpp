@@ -25,30 +25,6 @@ class Resources : public DataRootTest {
     std::string StoreFile(const char *name) { return Path(std::string("store/") + name + ".res"); }
 };
 
-TEST_F(Resources, CreateOpenAndRemoveCountUses) {
-    u64 blocks = _OstrandBase->blocks_allocated;
-    T_RESOURCE *r = CreateResource(&list, "AppQuillform", 548, RESOURCE_TYPE_SETTINGS);
-    ASSERT_NE(r, nullptr);
-    EXPECT_EQ(r->use_count, 1u);
-    EXPECT_EQ(r->data_size, 548u);
-    EXPECT_EQ(((u8 *)r->data)[547], 0);
-    EXPECT_EQ(OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0), r);
-    EXPECT_EQ(r->use_count, 2u);
-    EXPECT_EQ(OpenResource(&list, "AppQuillform", 999, 0), nullptr);  // another type
-    RemoveResource(r);
-    EXPECT_EQ(CountListEntries(&list), 1u);
-    RemoveResource(r);
-    EXPECT_TRUE(LIST_EMPTY(&list));
-    EXPECT_EQ(_OstrandBase->blocks_allocated, blocks);
-}
-
-TEST_F(Resources, AMissingStoreGivesNullQuietly) {
-    std::string log = CaptureLog([&] {
-        EXPECT_EQ(OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0), nullptr);
-    });
-    EXPECT_EQ(log, "");
-}
-
 TEST_F(Resources, StoredSettingsComeBackByteForByteInAFreshList) {
     StoreSettings("AppQuillform");
     t_List fresh;
@@ -105,42 +81,4 @@ TEST_F(Resources, BrokenStoresGiveNullOneLogLineAndStayAsTheyAre) {
         EXPECT_NE(log.find("AppQuillform.res"), std::string::npos) << c.what;
         EXPECT_EQ(ReadWhole(StoreFile("AppQuillform")), c.bytes) << c.what;
     }
-}
-
-TEST_F(Resources, StoringReportsEachResourceThatFails) {
-    T_RESOURCE *a = CreateResource(&list, "A", 4, RESOURCE_TYPE_SETTINGS);
-    T_RESOURCE *b = CreateResource(&list, "B", 4, RESOURCE_TYPE_SETTINGS);
-    T_RESOURCE *font = OpenResource(&list, "DejaVuSans.ttf", RESOURCE_TYPE_FONT, 0);
-    ASSERT_TRUE(MakeEntireDirectory(Path("store/B.res").c_str()));  // B's place is taken
-    std::string log = CaptureLog([&] { EXPECT_EQ(StoreResources(&list), 1u); });
-    EXPECT_EQ(CountLines(log), 1) << log;
-    EXPECT_TRUE(FileExists(StoreFile("A").c_str()));
-    EXPECT_FALSE(FileExists(StoreFile("DejaVuSans.ttf").c_str()));  // only settings are stored
-    RemoveResource(a);
-    RemoveResource(b);
-    RemoveResource(font);
-}
-
-static int freed_objects;
-static void CountFree(void *object) {
-    freed_objects += object != nullptr;
-}
-
-TEST_F(Resources, FontAndBitmapRecordsFreeTheirObjectAtTheLastUse) {
-    freed_objects = 0;
-    T_RESOURCE *font = OpenResource(&list, "DejaVuSans.ttf", RESOURCE_TYPE_FONT, 0);
-    ASSERT_NE(font, nullptr);
-    EXPECT_STREQ(font->name, "DejaVuSans.ttf");
-    EXPECT_EQ(font->data, nullptr);
-    font->object = &freed_objects;
-    font->free_object = CountFree;
-    EXPECT_EQ(OpenResource(&list, "DejaVuSans.ttf", RESOURCE_TYPE_FONT, 0), font);
-    T_RESOURCE *bitmap = OpenResource(&list, "back.png", RESOURCE_TYPE_BITMAP, 0);
-    ASSERT_NE(bitmap, nullptr);
-    RemoveResource(font);
-    EXPECT_EQ(freed_objects, 0);
-    RemoveResource(font);
-    EXPECT_EQ(freed_objects, 1);
-    RemoveResource(bitmap);
-    EXPECT_TRUE(LIST_EMPTY(&list));
 }

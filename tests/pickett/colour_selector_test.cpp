@@ -42,16 +42,6 @@ class ColourSelector : public PickettTest {
     }
 };
 
-TEST_F(ColourSelector, StartsAtTheCallersColour) {
-    EXPECT_EQ(selector->parent, parent);
-    EXPECT_STREQ(selector->name, "Set text colour");
-    EXPECT_EQ(((T_COLOURSEL *)selector->user_data)->window, selector);
-    EXPECT_EQ(Value(SLIDER_RED), 10);
-    EXPECT_EQ(Value(SLIDER_GREEN), 20);
-    EXPECT_EQ(Value(SLIDER_BLUE), 30);
-    EXPECT_TRUE(spy.empty());
-}
-
 TEST_F(ColourSelector, MovingASliderChangesTheColourInPlaceAndPreviews) {
     t_gadget *red = FindGadgetByItemCode(selector, SLIDER_RED);
     i16 y = red->screen_y + red->base_height / 2;

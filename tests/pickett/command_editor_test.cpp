@@ -53,15 +53,6 @@ class KeyEditor : public PickettTest {
     bool EditorStands() { return FindWindowByName(parent, "Keyboard") != nullptr; }
 };
 
-TEST_F(KeyEditor, ListsTheCommandsByGroupWithTheirKeys) {
-    EXPECT_EQ(editor->parent, parent);
-    EXPECT_EQ(ListTexts(List()),
-              (std::vector<std::string>{"File: Open\tCtrl+O", "File: Save\tCtrl+S",
-                                        "Edit: Undo\tCtrl+Z", "Edit: Select None"}));
-    EXPECT_STREQ(FindGadgetByItemCode(editor, KEYS_HINT)->name,
-                 "Pick a command, then press the new key");
-}
-
 TEST_F(KeyEditor, APickedCommandTakesTheNextKeyAndRunsWithIt) {
     T_MENU_HANDLER *menus = NewMenuHandler(parent);
     T_MENUOBJECTINIT mi = {};
@@ -102,32 +93,4 @@ TEST_F(KeyEditor, AKeyAnotherCommandHasIsRefusedWithAMessage) {
     EXPECT_EQ(FindWindowByName(editor, "Keyboard"), nullptr);
     Key(KEY_CTRL('K'), QUAL_CONTROL);
     EXPECT_EQ(FindAppCommandByCode(app, 259)->key, (u32)KEY_CTRL('K'));
-}
-
-TEST_F(KeyEditor, EscapeDropsAPickThenClosesAsDoesTheCloseGadget) {
-    PickRow(0);
-    Key(KEY_ESCAPE);
-    EXPECT_TRUE(EditorStands());
-    EXPECT_EQ(FindAppCommandByCode(app, 256)->key, (u32)KEY_CTRL('O'));
-    Key(KEY_DOWN);  // moving the highlight picks nothing
-    Key('x');
-    EXPECT_EQ(RunKey('x'), 0u);
-    Key(KEY_ESCAPE);
-    Turn();
-    EXPECT_FALSE(EditorStands());
-
-    editor = OpenApplicationCmdEditWindow(parent, app);
-    Turn();
-    ASSERT_TRUE(EditorStands());
-    SendWindowMessage(editor, 0, ACT_TERMINATE, nullptr);
-    Turn();
-    EXPECT_FALSE(EditorStands());
-}
-
-TEST_F(KeyEditor, EnterPicksTheHighlightedCommand) {
-    Key(KEY_DOWN);
-    Key(KEY_DOWN);
-    Key(KEY_RETURN);
-    Key(KEY_CTRL('U'), QUAL_CONTROL);
-    EXPECT_EQ(FindAppCommandByCode(app, 259)->key, (u32)KEY_CTRL('U'));
 }

@@ -58,19 +58,6 @@ class FileSelector : public PickettTest {
     bool SelectorStands() { return FindWindowByName(parent, "Open Source file") != nullptr; }
 };
 
-TEST_F(FileSelector, OpensBesideItsParentWithTheFolderListed) {
-    ASSERT_NE(Open(scratch, "start.cpp"), nullptr);
-    EXPECT_EQ(selector->parent, parent);
-    EXPECT_STREQ(selector->name, "Open Source file");
-    EXPECT_TRUE(selector->flags & WF_CHILD);
-    EXPECT_EQ(Entries(), (std::vector<std::string>{"../", "sub/", "Zed/", "a.cpp", "B.cpp"}));
-    EXPECT_EQ(Field(PATH_FIELD), scratch);
-    EXPECT_EQ(Field(NAME_FIELD), "start.cpp");
-    EXPECT_EQ(Field(PATTERN_FIELD), "*.cpp");
-    EXPECT_STREQ(Gadget(OK_BUTTON)->name, "Open");
-    EXPECT_TRUE(Gadget(NOTE)->live_flags & GADGET_FLAGS_NO_DISPLAY);
-}
-
 TEST_F(FileSelector, OpensAtTheNearestExistingFolder) {
     struct {
         std::string path, folder;
@@ -147,18 +134,6 @@ TEST_F(FileSelector, TypedNamesAnswerWithTheirOwnPathOrGoIntoAFolder) {
     }
 }
 
-TEST_F(FileSelector, DoubleClickOnAFileAndTheOkButtonAnswer) {
-    Open(scratch);
-    DoubleClickEntry("B.cpp");
-    ASSERT_EQ(MessagesOf(ACT_REQUESTER_OK), std::vector<u32>{SELECTOR_CODE});
-    EXPECT_EQ(spy[0].name, "B.cpp");
-    spy.clear();
-    Open(scratch, "x.cpp");
-    ClickGadget(selector, OK_BUTTON);
-    ASSERT_EQ(MessagesOf(ACT_REQUESTER_OK), std::vector<u32>{SELECTOR_CODE});
-    EXPECT_EQ(spy[0].name, "x.cpp");
-}
-
 TEST_F(FileSelector, EscapeCancelButtonAndCloseGadgetCancel) {
     for (int way = 0; way < 3; way++) {
         spy.clear();
@@ -171,19 +146,6 @@ TEST_F(FileSelector, EscapeCancelButtonAndCloseGadgetCancel) {
         Turn();
         EXPECT_FALSE(SelectorStands()) << way;
     }
-}
-
-TEST_F(FileSelector, AnswersGoThroughTheParentsMask) {
-    RemoveWindow(parent);
-    MakeParent(IDCMP_TERMINATE | IDCMP_REQUESTER_CANCEL);
-    Open(scratch, "x.cpp");
-    Key(KEY_RETURN);
-    EXPECT_TRUE(spy.empty());
-    Turn();
-    EXPECT_FALSE(SelectorStands());
-    Open(scratch);
-    Key(KEY_ESCAPE);
-    EXPECT_EQ(MessagesOf(ACT_REQUESTER_CANCEL), std::vector<u32>{SELECTOR_CODE});
 }
 
 TEST_F(FileSelector, ThePatternAndPathFieldsTakeEffectOnEnter) {
@@ -217,17 +179,4 @@ TEST_F(FileSelector, AnUnreadableFolderShowsNothingAndSaysSo) {
     Key(KEY_RETURN);
     EXPECT_EQ(Entries().size(), 6u);  // "locked/" among them
     EXPECT_TRUE(Gadget(NOTE)->live_flags & GADGET_FLAGS_NO_DISPLAY);
-}
-
-TEST_F(FileSelector, ResizingKeepsTheButtonsInsideTheWindow) {
-    Open(scratch);
-    T_RPOS bigger = {selector->x, selector->y, (i16)(selector->w + 100), (i16)(selector->h + 80)};
-    ResizeWindow(selector, &bigger);
-    for (u32 code : {(u32)LIST, (u32)OK_BUTTON, (u32)CANCEL_BUTTON, (u32)NAME_FIELD}) {
-        t_gadget *g = Gadget(code);
-        EXPECT_LE(g->screen_x + g->base_width, selector->user_x + selector->user_w) << code;
-        EXPECT_LE(g->screen_y + g->base_height, selector->user_y + selector->user_h) << code;
-    }
-    EXPECT_EQ(Gadget(CANCEL_BUTTON)->screen_x + Gadget(CANCEL_BUTTON)->base_width,
-              selector->user_x + selector->user_w - SELECTOR_PAD);
 }

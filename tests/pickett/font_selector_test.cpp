@@ -77,28 +77,6 @@ class FontSelector : public PickettTest {
     }
 };
 
-TEST_F(FontSelector, HoldsItsRecordAndListsTheFolderThenTheMachinesFonts) {
-    std::string initial = "DejaVuSans.ttf";
-    ASSERT_NE(Open(initial.c_str()), nullptr);
-    initial[0] = 'X';  // the selector keeps its own copy
-    T_FONTSEL *sel = Record();
-    EXPECT_EQ(sel->window, font_window);
-    EXPECT_EQ(sel->parent, parent);
-    EXPECT_EQ(sel->item_code, (u32)FONT_CODE);
-    EXPECT_EQ(sel->user_data, &user_thing);
-    EXPECT_STREQ(sel->initial_font, "DejaVuSans.ttf");
-    EXPECT_STREQ(sel->chosen, "");
-    EXPECT_EQ(CountListEntries(&sel->patterns), 2u);
-    EXPECT_EQ(font_window->parent, parent);
-    std::vector<std::string> texts = ListTexts(List());
-    ASSERT_GE(texts.size(), 4u);
-    EXPECT_EQ(texts[0], "readme.txt");
-    EXPECT_EQ(texts[1], "Serif.fnt");
-    EXPECT_NE(ListIndexOf(List(), "DejaVuSerif.ttf"), -1);
-    EXPECT_STREQ(FindGadgetByItemCode(font_window, FONT_OK)->name, "Open");
-    EXPECT_EQ(LoadFontFromSelector(font_window, 0), nullptr);  // nothing chosen yet
-}
-
 TEST_F(FontSelector, AClickPreviewsAndTheFontIsFoundAgainByItsName) {
     Open(nullptr);
     for (const char *name : {"Serif.fnt", "DejaVuSansMono.ttf"}) {

@@ -49,7 +49,7 @@ protected:
 
     // A page window with a gadget handler and the gadgets of the table, in that order.
     t_Window *MakePage(const T_TEST_PAGE &page, const std::vector<T_TEST_GADGET> &gadgets);
-    t_gadget *AddGadget(t_Window *window, const T_TEST_GADGET &spec);
+    t_gadget *AddGadget(t_Window *window, const T_TEST_GADGET &row);
     // Saves the page with the given settings bits and returns the file's text.
     std::string SaveAndRead(t_Window *window, u32 settings, const char *file = "page.cpp");
     // The gadgets of the page in list order.
