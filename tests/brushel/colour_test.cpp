@@ -1,4 +1,4 @@
-// Colours: the colour word, mixing, and the HSI model both ways.
+// Colours: the HSI model both ways, on known colours and on a round trip.
 #include <gtest/gtest.h>
 
 #include "toolkit.h"

@@ -1,4 +1,4 @@
-// Drawing primitives: clipping, lines, frames, dotted boxes, bevels, blends, images and icons.
+// Drawing primitives: clipping of rectangles and lines, the running dotted box, and icons.
 #include <algorithm>
 #include <cstdlib>
 #include <map>

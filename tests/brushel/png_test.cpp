@@ -1,4 +1,4 @@
-// PNG files: a surface written and read back, PNGs of other colour types, and files that fail.
+// PNG files: a surface written and read back, and files that fail.
 #include <png.h>
 
 #include <fstream>

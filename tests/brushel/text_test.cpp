@@ -1,5 +1,5 @@
-// Fonts and text: the system font, widths by style, drawing inside the box and the clip, UTF-8,
-// the console, font lookup by folder and family, missing fonts, and fonts of resources.
+// Fonts and text: drawing inside the box and the clip, UTF-8, font lookup by folder and family,
+// and missing fonts.
 #include <cstdio>
 #include <filesystem>
 #include <string>

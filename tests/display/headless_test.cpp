@@ -1,5 +1,4 @@
-// The headless display: its framebuffer, the input queue in order, virtual time, and what the
-// toolkit asked of the pointer.
+// The headless display: the input queue in order.
 #include <gtest/gtest.h>
 
 #include "display/display.h"

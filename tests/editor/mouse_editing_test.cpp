@@ -1,6 +1,5 @@
-// Mouse editing on a page: selection by click and qualifiers, the drag threshold and the drag of
-// gadgets, handle resizes from the background, the rubber band, gadgets made with a tool, the
-// background's menu and the page's keys.
+// Mouse editing on a page: the drag threshold and the drag of gadgets, qualifiers and marks, handle
+// resizes, the rubber band, gadgets made with a tool, the background's menu and the page's keys.
 #include "tests/editor/editor_fixture.h"
 
 TEST_F(PageTest, DragThresholdIsFivePixelsInOneAxis)
@@ -63,45 +62,6 @@ TEST_F(PageTest, DragMovesMarkedGadgetsAgainstTheMouseFromRightOrBottom)
     }
 }
 
-TEST_F(PageTest, PressOnOneOfThreeMarkedKeepsTheSelection)
-{
-    struct {
-        i16 move;        // how far the mouse goes before the release
-        int all_marked;  // all three stay marked afterwards
-    } const cases[] = {{0, 0}, {3, 0}, {30, 1}};
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.move);
-        t_gadget *g[3] = {Make(TOOL_BUTTON, 20, 20, 60, 20), Make(TOOL_BUTTON, 20, 60, 60, 20),
-                          Make(TOOL_BUTTON, 20, 100, 60, 20)};
-        i16 before[3];
-        for (int i = 0; i < 3; i++) {
-            Mark(g[i]);
-            before[i] = g[i]->pos_x;
-        }
-        u32 records = Records();
-        i16 x = MidX(g[1]), y = MidY(g[1]);
-        Press(x, y);
-        CHECK_PAGE();
-        EXPECT_EQ(CountMarkedGadgets(g[0]), 3u);
-        for (int i = 0; i < 3; i++)
-            EXPECT_TRUE(g[i]->live_flags & GADGET_MARK_DRAG);
-        Move((i16)(x + c.move / 2), y);
-        Move((i16)(x + c.move), y);
-        Release((i16)(x + c.move), y);
-        CHECK_PAGE();
-        EXPECT_EQ(Records(), records + 3);  // one record for each marked gadget, moved or not
-        EXPECT_TRUE(Marked(g[1]));
-        for (int i = 0; i < 3; i++) {
-            if (i != 1) {
-                EXPECT_EQ(Marked(g[i]), c.all_marked);
-            }
-            EXPECT_EQ(g[i]->pos_x, before[i] + (c.all_marked ? c.move : 0));
-        }
-        Command(COMMAND_SELECT_ALL);
-        DeleteMarkedGadgets(page);
-    }
-}
-
 TEST_F(PageTest, QualifiersDecideTheMarksAtPressAndRelease)
 {
     struct {
@@ -137,17 +97,6 @@ TEST_F(PageTest, QualifiersDecideTheMarksAtPressAndRelease)
         Command(COMMAND_SELECT_ALL);
         DeleteMarkedGadgets(page);
     }
-}
-
-TEST_F(PageTest, ReleaseWithoutPressOnGadgetDoesNothing)
-{
-    t_gadget *g = Make(TOOL_BUTTON, 20, 20, 60, 20);
-    T_MOUSE_MSG release = {MidX(g), MidY(g), 0, ACT_LMOUSE_UP};
-    u32 records = Records();
-    EXPECT_EQ(GadgetEditAction(page, g, &release), 1u);
-    EXPECT_EQ(Records(), records);
-    EXPECT_FALSE(Marked(g));
-    CHECK_PAGE();
 }
 
 TEST_F(PageTest, HandleHitTestTriesTheBoxesInOrder)
@@ -213,28 +162,6 @@ TEST_F(PageTest, BackgroundPressInAHandleBoxResizesThatGadget)
     EXPECT_FALSE(HeadlessMouseRect(&limits));
 }
 
-TEST_F(PageTest, HandleOverAnotherGadgetResizesTheSelectedOne)
-{
-    t_gadget *selected = Make(TOOL_BUTTON, 40, 40, 60, 20);
-    t_gadget *below = Make(TOOL_BUTTON, 40, 62, 60, 20);  // under selected's bottom handles
-    ClearAllMarkedGadgets(selected);
-    Mark(selected);
-    gadgets->current_gadget = selected;
-    UserTurns(1);
-    ASSERT_EQ(record->handle_gadget, selected);
-    i16 x = MidX(selected), y = (i16)(selected->screen_y + selected->base_height + 3);
-    ASSERT_EQ(GadgetAtPoint(page, x, y), below);
-    Press(x, y);
-    CHECK_PAGE();
-    EXPECT_EQ(record->drag_handle, HANDLE_BOTTOM);
-    EXPECT_EQ(record->drag_gadget, selected);
-    Move(x, (i16)(y + 20));
-    Release(x, (i16)(y + 20));
-    CHECK_PAGE();
-    EXPECT_EQ(selected->screen_y + selected->base_height, y + 20);  // the bottom went to the mouse
-    EXPECT_EQ(below->base_height, 20);
-}
-
 TEST_F(PageTest, RubberBandUpAndLeftMarksTheNormalisedArea)
 {
     t_gadget *inside = Make(TOOL_BUTTON, 120, 120, 40, 20);
@@ -290,18 +217,6 @@ TEST_F(PageTest, BandWithAToolMakesOneGadgetAndTheToolbarFallsBack)
     CHECK_PAGE();
 }
 
-TEST_F(PageTest, WithAToolAPressOnAGadgetDragsAndTheToolStays)
-{
-    t_gadget *g = Make(TOOL_BUTTON, 30, 30, 60, 20);
-    SetActiveToolBarEntry(Toolbar(), TOOL_TEXT);
-    i16 x = g->pos_x;
-    Drag(MidX(g), MidY(g), (i16)(MidX(g) + 30), MidY(g));
-    CHECK_PAGE();
-    EXPECT_EQ(g->pos_x, x + 30);
-    EXPECT_EQ(CountListEntries(&gadgets->gadget_list), 1u);
-    EXPECT_EQ(GetActiveToolBarEntry(Toolbar()), TOOL_TEXT);
-}
-
 TEST_F(PageTest, RightReleaseOnTheBackgroundOpensThePageMenu)
 {
     t_gadget *g = Make(TOOL_BUTTON, 30, 30, 60, 20);
@@ -315,46 +230,6 @@ TEST_F(PageTest, RightReleaseOnTheBackgroundOpensThePageMenu)
     EXPECT_TRUE(Marked(g));  // the selection isn't touched
     CloseOpenMenus();
     UserTurns(1);
-}
-
-TEST_F(PageTest, StyleKeysToggleByTheFirstMarkedGadget)
-{
-    t_gadget *a = Make(TOOL_BUTTON, 20, 20, 60, 20);
-    t_gadget *b = Make(TOOL_BUTTON, 20, 60, 60, 20);
-    struct {
-        u16 key;
-        u32 bit;
-    } const cases[] = {{KEY_CTRL('B'), GADGET_FLAGS_BOLD}, {KEY_CTRL('I'), GADGET_FLAGS_ITALICS}};
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.key);
-        Mark(a);
-        Mark(b);
-        b->live_flags |= c.bit;  // the first marked gadget hasn't the bit: all get it
-        UserKey(c.key, QUAL_CONTROL);
-        EXPECT_TRUE(a->live_flags & c.bit);
-        EXPECT_TRUE(a->flags & c.bit);
-        EXPECT_TRUE(b->live_flags & c.bit);
-        UserKey(c.key, QUAL_CONTROL);  // now it has: all lose it
-        EXPECT_FALSE(a->live_flags & c.bit);
-        EXPECT_FALSE(b->flags & c.bit);
-        EXPECT_TRUE(Marked(a) && Marked(b));  // the marks stay
-        CHECK_PAGE();
-    }
-    // Nothing marked: the current gadget is marked first and takes the bit.
-    ClearAllMarkedGadgets(a);
-    gadgets->current_gadget = b;
-    UserKey(KEY_CTRL('B'), QUAL_CONTROL);
-    EXPECT_TRUE(b->live_flags & GADGET_FLAGS_BOLD);
-    EXPECT_FALSE(a->live_flags & GADGET_FLAGS_BOLD);
-    // Nothing marked and no current gadget: nothing changes.
-    ClearAllMarkedGadgets(a);
-    gadgets->current_gadget = NULL;
-    UserKey(KEY_CTRL('I'), QUAL_CONTROL);
-    EXPECT_FALSE(a->live_flags & GADGET_FLAGS_ITALICS);
-    EXPECT_FALSE(b->live_flags & GADGET_FLAGS_ITALICS);
-    EXPECT_FALSE(Modified());
-    EXPECT_EQ(Records(), 0u);
-    CHECK_PAGE();
 }
 
 TEST_F(PageTest, SpaceTogglesOneMarkAndDeleteRemovesTheMarked)
@@ -374,86 +249,4 @@ TEST_F(PageTest, SpaceTogglesOneMarkAndDeleteRemovesTheMarked)
     ASSERT_EQ(CountListEntries(&gadgets->gadget_list), 1u);
     EXPECT_EQ(gadgets->first_gadget, b);
     EXPECT_TRUE(Modified());
-}
-
-TEST_F(PageTest, TabWalksTheGadgetsAndMarksTheNewCurrentOne)
-{
-    t_gadget *g[3] = {Make(TOOL_BUTTON, 20, 20, 60, 20), Make(TOOL_BUTTON, 20, 60, 60, 20),
-                      Make(TOOL_BUTTON, 20, 100, 60, 20)};
-    Make(TOOL_BUTTON, 20, 140, 60, 20)->live_flags |= GADGET_FLAGS_NO_DISPLAY;  // never visited
-    struct {
-        u16 key, qualifiers;
-        int current;          // index of the current gadget afterwards
-        int marked[3];        // the marks afterwards
-    } const steps[] = {
-        {KEY_TAB, 0, 0, {1, 0, 0}},            // past the hidden one, wrapping to the first
-        {KEY_DOWN, 0, 1, {0, 1, 0}},
-        {KEY_TAB, QUAL_SHIFT, 0, {1, 1, 0}},   // Shift keeps the marks and goes back
-        {KEY_LEFT, QUAL_CONTROL, 2, {1, 1, 0}},  // Control marks nothing
-        {KEY_RIGHT, 0, 0, {1, 0, 0}},
-        {'q', 0, 0, {1, 0, 0}},                // not a key that walks
-    };
-    ClearAllMarkedGadgets(g[0]);
-    gadgets->current_gadget = g[2];
-    for (const auto &s : steps) {
-        SCOPED_TRACE(testing::Message() << s.key << "/" << s.qualifiers);
-        UserKey(s.key, s.qualifiers);
-        EXPECT_EQ(gadgets->current_gadget, g[s.current]);
-        for (int i = 0; i < 3; i++)
-            EXPECT_EQ(Marked(g[i]), s.marked[i]) << i;
-        CHECK_PAGE();
-    }
-}
-
-TEST_F(PageTest, EventOneReleasesTheRecordsBelongings)
-{
-    record->lines_total = 10;
-    record->line_map = (u8 *)AllocMemC(record->lines_total * 2);
-    AllocString("// PAGE", &record->head_line);
-    AllocString("/tmp/page.cpp", &record->file_name);
-    Make(TOOL_BUTTON, 20, 20, 60, 20);
-    SetActiveToolBarEntry(Toolbar(), TOOL_BUTTON);
-    Drag(AbsX(100), AbsY(100), AbsX(150), AbsY(120));
-    ASSERT_TRUE(CanUndo(&record->undo));
-    u64 mismatches = _OstrandBase->size_mismatches;
-    EXPECT_EQ(PageInput(&record->head, HANDLER_EVENT_END, NULL), 0u);
-    EXPECT_EQ(record->line_map, nullptr);
-    EXPECT_EQ(record->head_line.text, nullptr);
-    EXPECT_EQ(record->file_name.text, nullptr);
-    EXPECT_TRUE(LIST_EMPTY(&record->context_menu.items));
-    EXPECT_FALSE(CanUndo(&record->undo));
-    EXPECT_EQ(_OstrandBase->size_mismatches, mismatches);
-}
-
-TEST_F(PageTest, ABrokenPressEndsItsGestureWithItsRecords)
-{
-    enum { BAND, DRAG, RESIZE };
-    struct {
-        int gesture;
-        u32 records;  // made when it was broken off
-    } const cases[] = {{BAND, 0}, {DRAG, 1}, {RESIZE, 1}};
-    t_gadget *g = Make(TOOL_BUTTON, 60, 60, 80, 24);
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.gesture);
-        ClearAllMarkedGadgets(g);
-        EmptyUndoList(&record->undo);
-        i16 x = c.gesture == BAND ? AbsX(250) : c.gesture == DRAG ? MidX(g) : (i16)(g->screen_x + g->base_width + 3);
-        i16 y = c.gesture == BAND ? AbsY(200) : MidY(g);
-        Press(x, y);
-        Move((i16)(x + 10), y);
-        Move((i16)(x + 20), y);
-        Push(INPUT_FOCUS_LOST, 0, 0, 0, 0);
-        CHECK_PAGE();
-        EXPECT_EQ(record->rubber_active, 0);
-        EXPECT_EQ(record->edit_state & (EDIT_PRESSED_GADGET | EDIT_DRAGGING), 0);
-        EXPECT_EQ(record->drag_handle, HANDLE_NONE);
-        EXPECT_EQ(page->mouse_move_fn, nullptr);
-        EXPECT_EQ(Records(), c.records);
-        i16 pos_x = g->pos_x, w = g->base_width;
-        Move((i16)(x + 40), y);  // nothing follows the mouse any more
-        Release((i16)(x + 40), y);
-        EXPECT_EQ(g->pos_x, pos_x);
-        EXPECT_EQ(g->base_width, w);
-        CHECK_PAGE();
-    }
 }

@@ -1,5 +1,5 @@
-// Page commands: delete, centre, size to contents, align, same size, the selection commands, and
-// the gadget context menu's form with its geometry records.
+// Page commands: centre, size to contents, delete, align and same size, and the font from the
+// selector.
 #include "tests/editor/editor_fixture.h"
 
 #include "shell/menus.h"
@@ -92,32 +92,6 @@ TEST_F(CommandTest, SizeToContentsFitsTheTextInTheSystemFont)
     SetActiveFont(before);
 }
 
-TEST_F(CommandTest, SizeToContentLeavesOtherTypesAndMarksOnlyWhenSized)
-{
-    t_gadget *slider = Make(TOOL_SLIDER_H, 20, 20, 120, 20);
-    page->state_flags &= ~WSF_MODIFIED;
-    ClearAllMarkedGadgets(slider);
-    Mark(slider);
-    SizeMarkedToContents(page);
-    CHECK_PAGE();
-    EXPECT_EQ(slider->base_width, 120);
-    EXPECT_EQ(slider->base_height, 20);
-    EXPECT_FALSE(Marked(slider));
-    EXPECT_FALSE(Modified());
-    t_gadget *button = Make(TOOL_BUTTON, 20, 60, 200, 50);
-    ClearAllMarkedGadgets(button);
-    Mark(button);
-    Mark(slider);
-    SizeMarkedToContents(page);
-    EXPECT_NE(button->base_width, 200);
-    EXPECT_EQ(slider->base_width, 120);
-    EXPECT_TRUE(Modified());
-    EXPECT_EQ(CountMarkedGadgets(button), 0u);
-    EXPECT_EQ(Records(), 0u);  // the main menu's form makes no record
-    UserTurns(1);
-    EXPECT_EQ(record->handle_gadget, nullptr);  // nothing marked: no handles
-}
-
 TEST_F(CommandTest, DeleteTakesTheMarkedOrTheCurrentGadget)
 {
     struct {
@@ -148,38 +122,6 @@ TEST_F(CommandTest, DeleteTakesTheMarkedOrTheCurrentGadget)
         EXPECT_EQ(CountMarkedGadgets(gadgets->first_gadget), 0u);
         Command(COMMAND_SELECT_ALL);
         DeleteMarkedGadgets(page);
-    }
-}
-
-TEST_F(CommandTest, DeletingAGadgetClosesItsPropertiesWindowFirst)
-{
-    t_gadget *a = Make(TOOL_BUTTON, 20, 20, 60, 20);
-    t_gadget *b = Make(TOOL_BUTTON, 20, 60, 60, 20);
-    T_WINDOWOBJINIT init;
-    memset(&init, 0, sizeof(init));
-    init.x = 200, init.y = 20, init.w = 150, init.h = 100;
-    init.flags = WF_CHILD;
-    init.parent = page;
-    t_Window *dialogs[2];
-    t_gadget **edited[2];
-    t_gadget *gadget_of[2] = {a, b};
-    for (int i = 0; i < 2; i++) {
-        dialogs[i] = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, "Properties for", &init);
-        ASSERT_NE(dialogs[i], nullptr);
-        edited[i] = (t_gadget **)AllocMemC(sizeof(t_gadget *));
-        *edited[i] = gadget_of[i];
-        dialogs[i]->user_data = edited[i];
-    }
-    EXPECT_EQ(FindGadgetPropertyWindow(page, b), dialogs[1]);
-    ClearAllMarkedGadgets(a);
-    Mark(a);
-    DeleteMarkedGadgets(page);
-    CHECK_PAGE();
-    EXPECT_FALSE(IsWindowLive(dialogs[0]));
-    EXPECT_TRUE(IsWindowLive(dialogs[1]));
-    for (int i = 0; i < 2; i++) {
-        dialogs[i]->user_data = NULL;
-        FreeMem(edited[i], sizeof(t_gadget *));
     }
 }
 
@@ -225,82 +167,6 @@ TEST_F(CommandTest, AlignAndSameSizeFollowTheCurrentGadget)
         EXPECT_EQ(a->base_width, w);
         EXPECT_TRUE(Marked(a));
         EXPECT_FALSE(Modified());
-        Command(COMMAND_SELECT_ALL);
-        DeleteMarkedGadgets(page);
-    }
-}
-
-TEST_F(CommandTest, SelectionCommandsChangeOnlyTheMarks)
-{
-    t_gadget *a = Make(TOOL_BUTTON, 20, 20, 60, 20);
-    t_gadget *b = Make(TOOL_BUTTON, 20, 60, 60, 20);
-    ClearAllMarkedGadgets(a);
-    Mark(a);
-    struct {
-        u32 command;
-        int a, b;
-    } const steps[] = {
-        {COMMAND_INVERSE, 0, 1},
-        {COMMAND_SELECT_ALL, 1, 1},
-        {COMMAND_INVERSE, 0, 0},  // Select All, then Inverse: nothing marked
-        {COMMAND_SELECT_ALL, 1, 1},
-        {COMMAND_SELECT_NONE, 0, 0},
-    };
-    for (const auto &s : steps) {
-        Command(s.command);
-        EXPECT_EQ(Marked(a), s.a) << s.command;
-        EXPECT_EQ(Marked(b), s.b) << s.command;
-        CHECK_PAGE();
-    }
-    EXPECT_FALSE(Modified());
-    EXPECT_EQ(Records(), 0u);
-}
-
-TEST_F(CommandTest, GadgetMenuFormRecordsEachGadgetItChanged)
-{
-    struct {
-        u32 item;
-        int mark_button, mark_slider, mark_other;
-        u32 records;   // made by the command
-        int modified;
-    } const cases[] = {
-        {GADGET_MENU_SIZE_TO_CONTENTS, 1, 1, 0, 1, 1},  // the slider isn't sized: no record
-        {GADGET_MENU_SIZE_TO_CONTENTS, 0, 0, 0, 1, 1},  // nothing marked: the current button
-        {GADGET_MENU_ALIGN_LEFT, 1, 1, 0, 2, 1},
-        {GADGET_MENU_ALIGN_TOP, 0, 1, 1, 2, 1},
-        {GADGET_MENU_SAME_SIZE, 1, 0, 1, 2, 1},
-        {GADGET_MENU_SAME_SIZE, 0, 0, 0, 0, 0},  // nothing marked: nothing changes
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(testing::Message() << std::hex << c.item << std::dec << c.mark_button << c.mark_slider
-                                        << c.mark_other);
-        t_gadget *button = Make(TOOL_BUTTON, 40, 30, 200, 40);
-        t_gadget *slider = Make(TOOL_SLIDER_H, 100, 100, 120, 20);
-        t_gadget *other = Make(TOOL_BUTTON, 150, 150, 70, 26);
-        ClearAllMarkedGadgets(button);
-        if (c.mark_button)
-            Mark(button);
-        if (c.mark_slider)
-            Mark(slider);
-        if (c.mark_other)
-            Mark(other);
-        gadgets->current_gadget = button;
-        page->state_flags &= ~WSF_MODIFIED;
-        EmptyUndoList(&record->undo);
-        ApplyGadgetMenuCommand(page, c.item);
-        CHECK_PAGE();
-        EXPECT_EQ(Records(), c.records);
-        EXPECT_EQ(Modified(), c.modified);
-        EXPECT_EQ(CountMarkedGadgets(button), 0u);  // the marks go last
-        // Each record takes its gadget back.
-        for (u32 i = 0; i < c.records; i++)
-            Command(COMMAND_UNDO);
-        CHECK_PAGE();
-        EXPECT_EQ(button->pos_x, 40);
-        EXPECT_EQ(button->base_width, 200);
-        EXPECT_EQ(slider->pos_x, 100);
-        EXPECT_EQ(other->pos_y, 150);
-        EXPECT_EQ(other->base_width, 70);
         Command(COMMAND_SELECT_ALL);
         DeleteMarkedGadgets(page);
     }

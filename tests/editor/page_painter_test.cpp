@@ -1,5 +1,5 @@
-// The page painter: frames by mark, handles on a single selection, the mouse image over a handle,
-// handle resizes with the type's own record following, and tab-order mode's overlay.
+// The page painter: frames by mark, handles on a single selection, and a slider's marks when it is
+// resized by a handle.
 #include "tests/editor/editor_fixture.h"
 
 static u32 Pixel(i16 x, i16 y)
@@ -87,51 +87,6 @@ TEST_F(PageTest, HandlesShowOnTheCurrentGadgetWhenExactlyOneIsMarked)
     }
 }
 
-TEST_F(PageTest, MouseOverAHandleShowsItsResizeImage)
-{
-    t_gadget *g = Make(TOOL_BUTTON, 100, 100, 60, 30);
-    ClearAllMarkedGadgets(g);
-    Mark(g);
-    i16 X = g->screen_x, Y = g->screen_y, W = g->base_width, H = g->base_height;
-    struct {
-        i16 x, y;
-        u16 image;
-    } const cases[] = {
-        {(i16)(X - 3), (i16)(Y - 3), MOUSE_IMAGE_SIZE_NWSE},
-        {(i16)(X + W / 2), (i16)(Y - 3), MOUSE_IMAGE_SIZE_NS},
-        {(i16)(X + W + 3), (i16)(Y - 3), MOUSE_IMAGE_SIZE_NESW},
-        {(i16)(X - 3), (i16)(Y + H / 2), MOUSE_IMAGE_SIZE_WE},
-        {(i16)(X + W + 3), (i16)(Y + H / 2), MOUSE_IMAGE_SIZE_WE},
-        {(i16)(X - 3), (i16)(Y + H + 3), MOUSE_IMAGE_SIZE_NESW},
-        {(i16)(X + W / 2), (i16)(Y + H + 3), MOUSE_IMAGE_SIZE_NS},
-        {(i16)(X + W + 3), (i16)(Y + H + 3), MOUSE_IMAGE_SIZE_NWSE},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(testing::Message() << c.x - X << "," << c.y - Y);
-        Move(c.x, c.y);
-        EXPECT_EQ(HeadlessCursor(), c.image);
-    }
-}
-
-TEST_F(PageTest, HandleHeldStillKeepsMarkingAndChangesNoSize)
-{
-    t_gadget *g = Make(TOOL_BUTTON, 100, 100, 60, 30);
-    i16 x = (i16)(g->screen_x + g->base_width + 2), y = (i16)(g->screen_y + g->base_height + 2);
-    Press(x, y);  // the bottom right box: the corner goes to the mouse at each repaint
-    UserTurns(1);
-    i16 w = g->base_width, h = g->base_height;
-    for (int i = 0; i < 5; i++) {
-        page->state_flags &= ~WSF_MODIFIED;
-        UserTurns(1);
-        EXPECT_TRUE(Modified());
-        EXPECT_EQ(g->base_width, w);
-        EXPECT_EQ(g->base_height, h);
-        CHECK_PAGE();
-    }
-    Release(x, y);
-    CHECK_PAGE();
-}
-
 TEST_F(PageTest, SliderResizeSetsItsMarksByOrientation)
 {
     struct {
@@ -168,26 +123,5 @@ TEST_F(PageTest, SliderResizeSetsItsMarksByOrientation)
         EXPECT_EQ(g->base_width, 90);
         EXPECT_EQ(slider->slider_width, 120);
         EXPECT_EQ(slider->mark_width, c.mark_width);
-    }
-}
-
-TEST_F(PageTest, ListAndTreeResizeSetTheirResizedBit)
-{
-    struct {
-        u16 tool;
-        u8 bit;
-    } const cases[] = {{TOOL_LIST_BOX, LIST_RESIZED}, {TOOL_TREE, TREE_RESIZED}};
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.tool);
-        t_gadget *g = Make(c.tool, 50, 50, 100, 80);
-        ASSERT_NE(g->class_data, 0u);
-        T_LIST_DATA *list = (T_LIST_DATA *)g->class_data;
-        list->resized_flags = 0;
-        page->mouse_x = (i16)(g->screen_x + g->base_width);
-        page->mouse_y = (i16)(g->screen_y + 120);
-        ApplyHandleResize(page, g, HANDLE_BOTTOM);
-        EXPECT_EQ(g->base_height, 120);
-        EXPECT_EQ(list->resized_flags, c.bit);
-        CHECK_PAGE();
     }
 }

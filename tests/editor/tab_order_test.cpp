@@ -1,13 +1,6 @@
-// Tab-order mode: numbering on entering, clicks that renumber, Escape that turns the numbers into
-// links, and the number boxes drawn over the gadgets.
+// Tab-order mode: numbering on entering, clicks that renumber, and Escape that turns the numbers
+// into links.
 #include "tests/editor/editor_fixture.h"
-
-static u32 Pixel(i16 x, i16 y)
-{
-    i32 width, height, pitch;
-    u32 *pixels = display->pixels(&width, &height, &pitch);
-    return pixels[y * pitch + x];
-}
 
 class TabOrderTest : public PageTest {
 protected:
@@ -77,53 +70,4 @@ TEST_F(TabOrderTest, ClicksRenumberAndEscapeMakesTheLinks)
     EXPECT_FALSE(record->edit_state & EDIT_TAB_ORDER);
     EXPECT_EQ(CheckTabLinks(page), "");
     CHECK_PAGE();
-}
-
-TEST_F(TabOrderTest, EscapeOutsideTheModeChangesNothing)
-{
-    MakeRow();
-    g[0]->tab_index = 1;
-    g[1]->tab_index = 2;
-    T_KEY_MSG escape = {KEY_ESCAPE, 0};
-    EXPECT_EQ(PageInput(&record->head, HANDLER_EVENT_KEY, &escape), 1u);
-    EXPECT_EQ(g[0]->tab[1], 0u);  // no links were built
-    EXPECT_EQ(record->edit_state & EDIT_TAB_ORDER, 0);
-}
-
-TEST_F(TabOrderTest, DoubleClickInTheModeOpensNothingAndDragsNothing)
-{
-    MakeRow();
-    Command(COMMAND_TAB_ORDER);
-    u32 children = CountListEntries(&page->children);
-    i16 x = g[2]->pos_x;
-    UserDoubleClick(MidX(g[2]), MidY(g[2]));
-    Drag(MidX(g[2]), MidY(g[2]), (i16)(MidX(g[2]) + 40), MidY(g[2]));
-    CHECK_PAGE();
-    EXPECT_EQ(CountListEntries(&page->children), children);
-    EXPECT_EQ(g[2]->pos_x, x);
-    EXPECT_EQ(page->mouse_move_fn, nullptr);
-}
-
-TEST_F(TabOrderTest, TheNextNumbersHolderIsHighlighted)
-{
-    MakeRow();
-    g[4]->item_code = 0;  // without an item code: "X", never highlighted
-    Command(COMMAND_TAB_ORDER);
-    record->tab_next = 2;
-    g[4]->tab_index = 2;
-    UserTurns(1);
-    T_DISPLAY_RECORD *colours = DISPLAY_RECORD;
-    i16 box_bottom = (i16)(GetFontHeight(colours->system_font) + 3);
-    struct {
-        int gadget;
-        u32 colour;
-    } const cases[] = {
-        {0, colours->number_back_colour},
-        {1, colours->handle_colour},  // holds number 2, the next click's
-        {2, colours->number_back_colour},
-        {4, colours->number_back_colour},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(Pixel((i16)(g[c.gadget]->screen_x + 1), (i16)(g[c.gadget]->screen_y + box_bottom)), c.colour)
-            << c.gadget;
 }

@@ -80,43 +80,6 @@ TEST_F(UndoTest, GeometryRecordsTakeBackPositionAndSizeTogether)
     }
 }
 
-TEST_F(UndoTest, AClickMakesARecordThatChangesNothing)
-{
-    t_gadget *g = Draw(TOOL_BUTTON, 40, 40, 80, 24);
-    u32 records = Records();
-    UserClick(MidX(g), MidY(g), 1);
-    EXPECT_EQ(Records(), records + 1);
-    EXPECT_STREQ(UndoLabel(), UNDO_LABEL_MOVE);
-    i16 x = g->x, y = g->y, w = g->base_width;
-    Command(COMMAND_UNDO);
-    EXPECT_EQ(g->x, x);
-    EXPECT_EQ(g->y, y);
-    EXPECT_EQ(g->base_width, w);
-    EXPECT_EQ(Count(), 1u);  // it still took a turn: the creation is next
-    EXPECT_STREQ(UndoLabel(), UNDO_LABEL_CREATE);
-    CHECK_PAGE();
-}
-
-TEST_F(UndoTest, GeometryFollowsAGadgetMadeAgainByRedo)
-{
-    t_gadget *g = Draw(TOOL_BUTTON, 40, 40, 80, 24);
-    UserClick(MidX(g), MidY(g), 1);
-    Drag(MidX(g), MidY(g), (i16)(MidX(g) + 50), (i16)(MidY(g) + 30));
-    ASSERT_EQ(g->pos_x, 90);
-    Command(COMMAND_UNDO);  // the drag
-    Command(COMMAND_UNDO);  // the click
-    Command(COMMAND_UNDO);  // the creation: the gadget is freed
-    EXPECT_EQ(Count(), 0u);
-    CHECK_PAGE();
-    Command(COMMAND_REDO);  // a new gadget
-    Command(COMMAND_REDO);
-    Command(COMMAND_REDO);  // the drag again, on the new gadget
-    CHECK_PAGE();
-    ASSERT_EQ(Count(), 1u);
-    EXPECT_EQ(gadgets->first_gadget->pos_x, 90);
-    EXPECT_EQ(gadgets->first_gadget->pos_y, 70);
-}
-
 TEST_F(UndoTest, RecordsOfADeletedGadgetDoNothing)
 {
     t_gadget *a = Draw(TOOL_BUTTON, 40, 40, 80, 24);

@@ -1,6 +1,5 @@
 // Combos: gadgets made between SaveSetGadgetList and RestoreGadgetList go into the combo, are
-// found by item code, placed from its inside, scrolled by its bars and the wheel, and routed like
-// any gadget.
+// found by item code, and are scrolled by its bars and the wheel.
 #include "knobkit_fixture.h"
 
 // A combo 150 by 80 holding eight check boxes 20 apart (item codes 2 to 9), then a button

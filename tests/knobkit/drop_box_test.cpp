@@ -1,5 +1,4 @@
-// Drop boxes: the list opens on a press, an entry is picked by a click or by releasing the
-// opening press on it, and the list closes on a pick, on Escape, and on a press outside.
+// Drop boxes: the list opens on a press, an entry is picked, and the list closes.
 #include "knobkit_fixture.h"
 
 static T_LIST_DATA *ListOf(t_gadget *g) { return (T_LIST_DATA *)g->class_data; }

@@ -1,5 +1,5 @@
-// What holds across the gadget types: radio runs, the passive group, the colour swatch and a
-// dropped colour, disabled gadgets ignoring input, hover texts, and freeing each type's belongings.
+// What holds across the gadget types: radio runs, the colour swatch and a dropped colour, disabled
+// gadgets ignoring input, hover texts, and freeing each type's belongings.
 #include "knobkit_fixture.h"
 
 #include <functional>

@@ -1,5 +1,5 @@
-// List boxes: entries made through CreateObject, selection by mouse and keys, reports, scrolling
-// by wheel, keys and scroll bar, and the editor's resize bit.
+// List boxes: selection by mouse and its reports, scrolling by wheel and scroll bar, and a row's
+// tab column.
 #include "knobkit_fixture.h"
 
 #include <string.h>

@@ -1,5 +1,4 @@
-// String gadgets: editing keys, the selection, the maximum, the buffer edited in place, own
-// buffers, reports, the mouse and the secret look.
+// String gadgets: editing keys, the selection and the maximum, own buffers, and the secret look.
 #include "knobkit_fixture.h"
 
 #include <string.h>

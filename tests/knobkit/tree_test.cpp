@@ -1,32 +1,7 @@
-// Trees: NewBranch's order, rows of the open branches, opening and closing by the +/- box, a
-// double click and the keys, and the selection that follows its entry.
+// Trees: rows of the open branches, opening and closing, and the selection that follows its entry.
 #include "knobkit_fixture.h"
 
 static T_LIST_DATA *ListOf(t_gadget *g) { return (T_LIST_DATA *)g->class_data; }
-
-static std::string Names(t_List *list) {
-    std::string s;
-    for (T_LIST_ENTRY *e = (T_LIST_ENTRY *)list->first; e->next; e = e->next) s += e->name;
-    return s;
-}
-
-TEST_F(GadgetTest, NewBranchPutsEntriesInPlace) {
-    t_List list;
-    InitList(&list, "test");
-    T_LIST_ENTRY *a = NewBranch(&list, nullptr, "a", 0);
-    T_LIST_ENTRY *c = NewBranch(&list, nullptr, "c", BRANCH_OPEN);
-    NewBranch(&list, a, "b", 0);
-    NewBranch(&list, c, "d", 0);
-    NewBranch(&list, a, "a2", 0);
-    EXPECT_EQ(Names(&list), "aa2bcd");
-    EXPECT_FALSE(a->open);
-    EXPECT_TRUE(c->open);
-    NewBranch(&c->children, nullptr, "c1", 0);
-    EXPECT_TRUE(HasChildren(c));
-    EXPECT_TRUE(LIST_EMPTY(&a->children));
-    FreeListEntries(&list);
-    EXPECT_TRUE(LIST_EMPTY(&list));
-}
 
 // Three branches of two leaves each, the first leaf of branch 1 with one twig.
 static t_gadget *MakeTree(GadgetTest *t, t_Window *window) {

@@ -1,4 +1,4 @@
-// Gadgets: creation fields, the types' behaviour, reports, marks by area, the mouse helpers.
+// Gadgets: a check box's click and report, and the dialog keys with the tab walk.
 #include "lumora_input.h"
 
 TEST_F(LumoraTest, CheckBoxTogglesOnAReleaseInsideAndReports) {

@@ -1,5 +1,5 @@
-// Routing: keys in their order, gadgets and their action functions, capture, double clicks,
-// event 33, dropped files, re-entrant turns.
+// Routing: keys in their order, gadgets and their action functions, capture, double clicks and
+// dropped files.
 #include "lumora_input.h"
 
 struct ACTION_CALL {

@@ -1,4 +1,5 @@
-// Windows: creation, the user area, frame dragging and resizing, closing, deferred removal.
+// Windows: the user area, frame dragging and resizing, closing, maximise and minimise, deferred
+// removal, focus, and the window's bitmap.
 #include "lumora_input.h"
 
 static i16 TitleH() { return (i16)DISPLAY_RECORD->title_height; }
@@ -213,15 +214,6 @@ TEST_F(LumoraTest, RemovedWindowIsFreedOnlyAfterTheOutermostTurn) {
     EXPECT_LT(_OstrandBase->blocks_allocated, blocks);
 }
 
-TEST_F(LumoraTest, FirstRunIsDeliveredOnce) {
-    t_Window *w = MakeWindow("First", 0, 0, 100, 100, 0, IDCMP_FIRSTTIME_RUN);
-    t_Window *quiet = MakeWindow("Quiet", 0, 0, 100, 100, 0, 0);
-    EXPECT_EQ(CountRecorded(ACT_FIRSTTIME_RUN), 0u);
-    Turn(3);
-    EXPECT_EQ(CountRecorded(ACT_FIRSTTIME_RUN, w), 1u);
-    EXPECT_EQ(CountRecorded(ACT_FIRSTTIME_RUN, quiet), 0u);
-}
-
 TEST_F(LumoraTest, FocusChangeSendsLooseThenGain) {
     u32 mask = IDCMP_GAIN_CONTEXT | IDCMP_LOOSE_CONTEXT;
     t_Window *a = MakeWindow("A", 10, 10, 200, 200, WF_BORDER, mask);
@@ -259,17 +251,4 @@ TEST_F(LumoraTest, BitmapIsFoundByNameOrLeftPlain) {
               0x112233u);
     SetWindowBitmap(w, "");
     EXPECT_EQ(w->bitmap, nullptr);
-}
-
-TEST_F(LumoraTest, RepaintDrawsDesktopFrameAndUserArea) {
-    t_Window *w = MakeWindow("Paint", 100, 100, 200, 150, WF_BORDER | WF_TITLE, 0);
-    w->UserAreaColour = 0x00ABCDEF;
-    Turn();
-    T_SURFACE *s = &lumora_state.screen;
-    auto at = [s](int x, int y) { return s->pixels[y * s->pitch + x] & 0xFFFFFF; };
-    EXPECT_EQ(at(5, 5), DISPLAY_RECORD->desktop_colour);
-    EXPECT_EQ(at(w->user_x + 10, w->user_y + 10), 0xABCDEFu);
-    EXPECT_EQ(at(w->user_x + w->user_w - 1, w->user_y + 5), 0xABCDEFu);
-    T_RPOS t = TitleRect(w);
-    EXPECT_EQ(at(t.x + t.w / 2, t.y + 1), DISPLAY_RECORD->title_colour);
 }

@@ -1,4 +1,4 @@
-// Commands: registration, lookup, the user's keys and their store, key names, running a command.
+// Commands: the user's keys, a key in use refused, and their store across runs, broken or whole.
 #include <gtest/gtest.h>
 
 #include <string>

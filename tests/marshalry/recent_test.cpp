@@ -1,4 +1,4 @@
-// Recent files: newest first, no duplicates, the limit, the store across runs, broken stores.
+// Recent files: newest first, no duplicates, the limit, and a broken store.
 #include <gtest/gtest.h>
 
 #include <string>

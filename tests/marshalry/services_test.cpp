@@ -1,4 +1,4 @@
-// Application services on a live headless display: commands, window places, recent-file entries.
+// Window places: stored at the end of a run and given back on the screen at the next.
 #include <gtest/gtest.h>
 
 #include <string>

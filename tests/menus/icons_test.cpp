@@ -1,4 +1,4 @@
-// Icon banks: the display's standard bank and the application's toolbar bank.
+// Icon banks: the application's toolbar icons are drawn and tell apart.
 #include <gtest/gtest.h>
 
 #include "../../host/tool_icons.cpp"

@@ -1,5 +1,5 @@
-// Open menus at work: titles opened by click and by Alt+letter, keys and the pointer in them,
-// picks, greyed entries, closing, sub-menus and context menus.
+// Open menus at work: titles opened by click and by Alt+letter, keys in them and picks, closing,
+// and context menus.
 #include "menus/menu_fixture.h"
 
 class MenuInputTest : public ToolkitTest {
@@ -140,31 +140,6 @@ TEST_F(MenuInputTest, PressesOutsideCloseOrSwitch)
     Move(x, y);  // with a title open, the pointer alone moves along the bar
     EXPECT_EQ(handler->open_title, FindMenuInHandler(handler, SAMPLE_LAYOUT));
     EXPECT_EQ(Picked(), 0u);
-}
-
-TEST_F(MenuInputTest, ThePointerOpensSubMenusAndHighlights)
-{
-    ClickTitle(SAMPLE_FILE);
-    i16 x, y;
-    EntryCentre(0, file, 0, &x, &y);
-    Move(x, y);
-    EXPECT_EQ(handler->open_index, 0);
-    EntryCentre(0, file, 4, &x, &y);  // Recent
-    Move(x, y);
-    ASSERT_EQ(OpenPopups(), 2u);
-    EXPECT_EQ(handler->open_submenu, FindMenuByItemCode(file, SAMPLE_RECENT));
-    t_Menu *recent = handler->open_submenu;
-    EntryCentre(1, recent, 1, &x, &y);  // Two
-    Move(x, y);
-    EXPECT_EQ(handler->submenu_index, 1);
-    EntryCentre(0, file, 0, &x, &y);  // back on Open: the sub-menu closes
-    Move(x, y);
-    EXPECT_EQ(OpenPopups(), 1u);
-    EntryCentre(0, file, 4, &x, &y);
-    Move(x, y);
-    EntryCentre(1, recent, 1, &x, &y);
-    Click(x, y);
-    EXPECT_EQ(Picked(), (u32)SAMPLE_TWO);
 }
 
 class ContextMenuTest : public ToolkitTest {

@@ -1,4 +1,4 @@
-// The menu tree: building it, finding entries, greying, widths, freeing, the bar's room.
+// The menu tree: entries go where the init record says and are found by item code.
 #include "menus/menu_fixture.h"
 
 static std::vector<std::string> Labels(t_Menu *menu)
@@ -41,21 +41,4 @@ TEST_F(ToolkitTest, EntriesGoWhereTheInitRecordSaysAndAreFoundByItemCode)
     EXPECT_EQ(FindMenuByItemCode(file, 0), nullptr);            // separators are not entries
     EXPECT_EQ(FindMenuInHandler(handler, SAMPLE_OPEN), nullptr);  // only titles
     EXPECT_EQ(FindMenuHandler(owner), handler);
-}
-
-TEST_F(ToolkitTest, GreyingReachesSubMenusAndKeepsOtherBits)
-{
-    T_MENU_HANDLER *handler = BuildSampleMenus(owner);
-    t_Menu *file = FindMenuInHandler(handler, SAMPLE_FILE);
-    t_Menu *two = FindMenuByItemCode(file, SAMPLE_TWO);
-    two->menu_flags |= 0x40;
-    SetAllMenuItemFlags(file, MENU_FLAG_GREY, 1);
-    for (u32 code : {SAMPLE_OPEN, SAMPLE_SAVE, SAMPLE_RECENT, SAMPLE_ONE, SAMPLE_TWO, SAMPLE_EXIT})
-        EXPECT_TRUE(FindMenuByItemCode(file, code)->menu_flags & MENU_FLAG_GREY) << code;
-    EXPECT_FALSE(FindMenuByItemCode(FindMenuInHandler(handler, SAMPLE_EDIT), SAMPLE_UNDO)->menu_flags &
-                 MENU_FLAG_GREY);
-    SetAllMenuItemFlags(file, MENU_FLAG_GREY, 0);
-    EXPECT_EQ(two->menu_flags, 0x40);
-    EXPECT_FALSE(FindMenuByItemCode(file, SAMPLE_OPEN)->menu_flags & MENU_FLAG_GREY);
-    SetAllMenuItemFlags(NULL, MENU_FLAG_GREY, 1);  // a menu that wasn't found: nothing happens
 }

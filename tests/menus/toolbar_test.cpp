@@ -1,4 +1,4 @@
-// Toolbars: their window, the active entry by click and by call, and the end of the application.
+// Toolbars: children cascading in the owner stand below the toolbar.
 #include "menus/menu_fixture.h"
 
 static const char *const tool_labels[] = {"Selector", "Checkbox", "Listbox", "Radio button"};
@@ -44,24 +44,4 @@ TEST_F(ToolBarTest, CascadedChildrenStandBelowItAndStartAgainAfterEight)
         EXPECT_EQ(init.x, first + 16 * (i % 8)) << i;
         ASSERT_NE(CreateObject(&CURRENT_DISPLAY->window_class->head, "cascaded", &init), nullptr);
     }
-}
-
-TEST_F(ToolBarTest, TheActiveEntryFollowsClicksAndCalls)
-{
-    EXPECT_EQ(GetActiveToolBarEntry(toolbar), 0);
-    //  clicked  active after
-    const struct {
-        u32 button;
-        u16 active;
-    } clicks[] = {{2, 2}, {3, 3}, {0, 0}, {1, 1}};
-    for (const auto &row : clicks) {
-        ClickButton(row.button);
-        EXPECT_EQ(GetActiveToolBarEntry(toolbar), row.active) << row.button;
-    }
-    EXPECT_TRUE(MessagesOf(ACT_MENU_PICK).empty()) << "a click sends nothing";
-    EXPECT_EQ(CURRENT_DISPLAY->window_class->current_window, owner) << "the keys stay with the owner";
-    SetActiveToolBarEntry(toolbar, 2);
-    EXPECT_EQ(GetActiveToolBarEntry(toolbar), 2);
-    SetActiveToolBarEntry(toolbar, 4);  // past the last
-    EXPECT_EQ(GetActiveToolBarEntry(toolbar), 2);
 }

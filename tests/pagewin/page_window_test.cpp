@@ -54,35 +54,6 @@ TEST_F(PageBox, CornersInAnyOrderAndTheSmallestPage)
     }
 }
 
-// A person's rubber box on the main window: the same page either way round, the active one.
-TEST_F(PageBox, DraggedEitherWayRoundMakesTheSameActivePage)
-{
-    t_Window *main_window = harness.main_window;
-    i16 left = (i16)(main_window->user_x + 520), top = (i16)(main_window->user_y + 120);
-    i16 right = (i16)(left + 240), bottom = (i16)(top + 160);
-    T_RPOS frames[2];
-    for (int way = 0; way < 2; way++) {
-        int pages = PageCount();
-        if (way == 0)
-            UserDrag(left, top, right, bottom);
-        else
-            UserDrag(right, bottom, left, top);
-        ASSERT_EQ(PageCount(), pages + 1) << way;
-        t_Window *made = Main()->active_page;
-        ASSERT_NE(made, nullptr);
-        EXPECT_STREQ(made->name, TXT_NEW_WINDOW);
-        EXPECT_STREQ(made->hover_title, TXT_NEW_DOCUMENT);
-        frames[way] = T_RPOS{made->x, made->y, made->w, made->h};
-        RemovePage(made, 1);
-        UserTurns(1);
-    }
-    EXPECT_EQ(frames[0].x, left);
-    EXPECT_EQ(frames[0].y, top);
-    EXPECT_EQ(frames[0].w, right - left);
-    EXPECT_EQ(frames[0].h, bottom - top);
-    EXPECT_EQ(memcmp(&frames[0], &frames[1], sizeof(T_RPOS)), 0);
-}
-
 class PageMessages : public PageWindowTest {};
 
 // The page that gains the input focus becomes the active page and names the main window's title.

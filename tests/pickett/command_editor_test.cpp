@@ -1,5 +1,4 @@
-// The key editor "Keyboard": commands listed by group with their keys, a picked command takes the
-// next key, a key another command has is refused, and the commands follow the new keys at once.
+// The key editor "Keyboard": a key another command has is refused with a message.
 #include <filesystem>
 
 #include "lumora/menu_internal.h"
@@ -52,33 +51,6 @@ class KeyEditor : public PickettTest {
 
     bool EditorStands() { return FindWindowByName(parent, "Keyboard") != nullptr; }
 };
-
-TEST_F(KeyEditor, APickedCommandTakesTheNextKeyAndRunsWithIt) {
-    T_MENU_HANDLER *menus = NewMenuHandler(parent);
-    T_MENUOBJECTINIT mi = {};
-    mi.kind = MENU_KIND_TITLE;
-    CreateObject(&menus->head, "File", &mi);
-    t_Menu *entry = AddApplicationCmdMenu(app, menus, &mi, 256);
-    ASSERT_NE(entry, nullptr);
-
-    PickRow(0);
-    EXPECT_NE(std::string(FindGadgetByItemCode(editor, KEYS_HINT)->name).find("Open"),
-              std::string::npos);
-    Key(KEY_CTRL('P'), QUAL_CONTROL);
-    EXPECT_EQ(FindAppCommandByCode(app, 256)->key, (u32)KEY_CTRL('P'));
-    EXPECT_EQ(ListTexts(List())[0], "File: Open\tCtrl+P");
-    EXPECT_EQ(MenuEntryKey(entry), (u32)KEY_CTRL('P'));
-    EXPECT_EQ(RunKey(KEY_CTRL('P')), 256u);
-    EXPECT_EQ(RunKey(KEY_CTRL('O')), 0u);
-    EXPECT_TRUE(std::filesystem::exists(data_root + "/keys/KeyTest.keys"));
-
-    PickRow(3);  // a command without a key gets one; the next key after that is nobody's
-    Key(KEY_F1 + 4);
-    EXPECT_EQ(RunKey(KEY_F1 + 4), 269u);
-    Key('q');
-    EXPECT_EQ(RunKey('q'), 0u);
-    EXPECT_TRUE(EditorStands());
-}
 
 TEST_F(KeyEditor, AKeyAnotherCommandHasIsRefusedWithAMessage) {
     PickRow(1);

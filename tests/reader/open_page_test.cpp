@@ -141,15 +141,6 @@ TEST_F(Reader, FileStructures)
     }
 }
 
-TEST_F(Reader, AppConfigInTheHeadSetsBitOne)
-{
-    std::string text = PageFile(standard_window, "");
-    text.replace(text.find("OpenTWindow()"), 13, "OpenTWindow(T_APP_CONFIG *c)");
-    t_Window *page = Open(Write("a.cpp", text));
-    ASSERT_NE(page, nullptr);
-    EXPECT_EQ(((T_WINEDIT_HANDLER *)page->user_data)->saved, 0x37);
-}
-
 TEST_F(Reader, BlocksCarryForwardAndColoursDoNot)
 {
     std::string gadgets =

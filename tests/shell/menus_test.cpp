@@ -1,5 +1,5 @@
 // The main window's menus and toolbar: the tree as built, the gadget context menu, the tools, the
-// greying seen when a person opens a title, and the Undo and Redo labels with the Edit width.
+// greying seen when a person opens a title, and the Undo and Redo labels.
 #include <algorithm>
 
 #include "tests/shell/shell_fixture.h"
@@ -314,34 +314,4 @@ TEST_F(ShellTest, UndoAndRedoLabelsFollowTheHistory)
         MenuFontEnd(&font);
         Escape();
     }
-}
-
-// A label longer than any other widens the open Edit menu, and the menu narrows again with it.
-TEST_F(ShellTest, EditMenuWidthFollowsTheWidestLabel)
-{
-    t_Window *page = DrawPage(20, 100, 420, 400);
-    ASSERT_NE(page, nullptr);
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
-    ClickTitle(MENU_EDIT);
-    u16 plain = Title(MENU_EDIT)->detached_width;
-    Escape();
-    AddUndoNode(&record->undo, NULL, NULL, NULL, 0, "Create gadget with a much longer name than any other");
-    ClickTitle(MENU_EDIT);
-    u16 wide = Title(MENU_EDIT)->detached_width;
-    T_MENU_FONT_STATE font;
-    MenuFontBegin(&font);
-    i32 widest_before = GetStringWidth("Re-order Item codes");
-    i32 undo_grown = GetStringWidth("Undo Create gadget with a much longer name than any other") - widest_before;
-    i32 redo_grown = GetStringWidth("Redo Create gadget with a much longer name than any other") - widest_before;
-    MenuFontEnd(&font);
-    EXPECT_EQ(wide, plain + undo_grown);
-    Escape();
-    PickFromMenu(MENU_EDIT, CMD_UNDO);
-    ClickTitle(MENU_EDIT);
-    EXPECT_EQ(Title(MENU_EDIT)->detached_width, plain + redo_grown) << "the Redo label is the widest now";
-    Escape();
-    EmptyUndoList(&record->undo);
-    ClickTitle(MENU_EDIT);
-    EXPECT_EQ(Title(MENU_EDIT)->detached_width, plain);
-    Escape();
 }

@@ -186,27 +186,3 @@ TEST_F(RecentFilesTest, ADroppedFileEntersTheListOnlyWhenItOpens)
         CloseErrorBoxes();
     }
 }
-
-// Start after start on the same data root, each adding a recent file: the File menu keeps its own
-// entries and shows every recent file, up to six, each time. (Entries that an earlier start made
-// must not be mistaken for entries of the new menu.)
-TEST_F(RecentFilesTest, TheFileMenuStaysWholeOverManyStarts)
-{
-    const char *own[] = {"Open", "Close", "Close all", "", "Save", "Save as", "Save all", "", "Exit"};
-    for (int start = 0; start < 30; start++) {
-        SCOPED_TRACE(start);
-        for (int refreshed = 0; refreshed < 2; refreshed++) {
-            std::vector<std::string> labels;
-            for (t_Menu *e = (t_Menu *)Title(MENU_FILE)->items.first; e->next; e = e->next)
-                if (e->menu_item_code != ITEM_RECENT_OR_DROP)
-                    labels.push_back(e->label);
-            EXPECT_EQ(labels, std::vector<std::string>(std::begin(own), std::end(own)));
-            EXPECT_EQ(RecentEntries().size(), (size_t)std::min(start + refreshed, 6));
-            char path[64];
-            snprintf(path, sizeof(path), "/nowhere/%d.cpp", start % 9);
-            if (!refreshed)
-                RefreshRecentFiles(h.main_window, path);
-        }
-        Restart();
-    }
-}

@@ -1,5 +1,5 @@
-// A new page drawn as a box on the main window's background: the smallest box that makes one, the
-// mouse kept inside the user area while the box is drawn, the dotted box, and either direction.
+// A new page drawn as a box on the main window's background: the smallest box that makes one, and
+// the mouse kept inside the user area while the box is drawn.
 #include <algorithm>
 #include <cstdlib>
 
@@ -59,23 +59,6 @@ TEST_F(ShellTest, ABoxOfAtLeast32By12BecomesTheActivePage)
     }
 }
 
-// A box drawn from the bottom right makes the same page as one drawn from the top left.
-TEST_F(ShellTest, ABoxDrawnBackwardsMakesTheSamePage)
-{
-    DrawBox(100, 80, 500, 380);
-    ASSERT_EQ(Pages().size(), 1u);
-    t_Window *forwards = Pages().back();
-    DrawBox(1000, 600, 600, 300);
-    ASSERT_EQ(Pages().size(), 2u);
-    t_Window *backwards = Pages().back();
-    EXPECT_EQ(backwards->x - forwards->x, 500);
-    EXPECT_EQ(backwards->y - forwards->y, 220);
-    EXPECT_EQ(backwards->w, forwards->w);
-    EXPECT_EQ(backwards->h, forwards->h);
-    EXPECT_EQ(backwards->user_w, forwards->user_w);
-    EXPECT_EQ(backwards->user_h, forwards->user_h);
-}
-
 // While the button is down the mouse stays in the user area and the dotted box follows it; at the
 // release both end.
 TEST_F(ShellTest, WhileTheBoxIsDrawnTheMouseStaysInTheUserArea)
@@ -116,27 +99,4 @@ TEST_F(ShellTest, WhileTheBoxIsDrawnTheMouseStaysInTheUserArea)
     EXPECT_EQ(page->h, 200);
     UserTurns(1);
     EXPECT_EQ(RubberPixels((i16)(y1 + 99), (i16)(x1 + 10), (i16)(x1 + 200)), 0u) << "the box is gone";
-}
-
-// A press on a page, the toolbar or the menu bar draws no box.
-TEST_F(ShellTest, PressesOffTheBackgroundDrawNoBox)
-{
-    t_Window *page = DrawPage(400, 100, 700, 400);
-    ASSERT_NE(page, nullptr);
-    t_Window *toolbar = Main()->toolbar;
-    const struct {
-        const char *name;
-        i16 x, y;
-    } rows[] = {
-        {"on the page", (i16)(page->user_x + 150), (i16)(page->user_y + 150)},
-        {"on the toolbar's frame", (i16)(toolbar->x + 1), (i16)(toolbar->y + 1)},
-        {"on the menu bar", (i16)(h.main_window->user_x + 600), (i16)(h.main_window->user_y - 5)},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        UserPress(row.x, row.y, 1);
-        EXPECT_EQ(Main()->box_active, 0u);
-        UserRelease((i16)(row.x + 100), (i16)(row.y + 100), 1);
-        EXPECT_EQ(Pages().size(), 1u);
-    }
 }

@@ -38,29 +38,6 @@ TEST_F(SettingsDialogTest, TheDefaultRecordShowsEveryBoxOnAndTheBackupFolder)
     EXPECT_EQ(FieldText(Field()), "Backup");
 }
 
-// The bold "Backup path" label, given no width, shows its whole text above the field.
-TEST_F(SettingsDialogTest, TheLabelAboveTheFieldShowsItsText)
-{
-    t_gadget *label = FindGadgetHandler(dialog)->first_gadget;
-    while (label->next && label->type != GADGET_TYPE_TEXT)
-        label = label->next;
-    ASSERT_NE(label->next, nullptr);
-    EXPECT_STREQ(label->name, "Backup path");
-    EXPECT_LT(label->screen_y + label->base_height, Field()->screen_y + 1);
-    SetFontStyle(1);  // bold
-    i32 text_width = GetStringWidth("Backup path");
-    SetFontStyle(0);
-    EXPECT_GE(label->base_width, text_width);
-    UserTurns(1);
-    i32 width, height, pitch;
-    u32 *pixels = display->pixels(&width, &height, &pitch);
-    u32 ink = 0;
-    for (i16 y = label->screen_y; y < label->screen_y + label->base_height; y++)
-        for (i16 x = label->screen_x; x < label->screen_x + label->base_width; x++)
-            ink += (pixels[y * pitch + x] & 0xFFFFFF) != (dialog->UserAreaColour & 0xFFFFFF);
-    EXPECT_GT(ink, 60u);
-}
-
 // A click on a box switches its bit of the settings at once and leaves the other bits alone; a
 // second click switches it back. A dialog opened afterwards shows the record as it is.
 TEST_F(SettingsDialogTest, AClickOnABoxChangesItsBitAtOnce)

@@ -59,19 +59,6 @@ TEST_F(BackupTest, WhereTheCopyGoes)
     }
 }
 
-TEST_F(BackupTest, PathsThatWouldNotFitAreRefused)
-{
-    std::string folder = Path(std::string(200, 'd'));
-    MakeEntireDirectory(folder.c_str());
-    std::string document = folder + "/" + std::string(40, 'n') + ".cpp";
-    WriteWholeFile(document, "text");
-    strcpy(config.backup_path, std::string(30, 'b').c_str());  // the backup's path passes 255
-    EXPECT_FALSE(BackupDocument(document.c_str()));
-    EXPECT_FALSE(DirectoryExists((folder + "/" + std::string(30, 'b')).c_str()));
-    std::string too_long = Path(std::string(300, 'x') + ".cpp");
-    EXPECT_FALSE(BackupDocument(too_long.c_str()));
-}
-
 // A save with backups on copies the old file byte for byte, once: each save replaces the last
 // backup.
 TEST_F(BackupTest, OneGenerationByteForByte)

@@ -173,15 +173,4 @@ TEST_F(FormatEdgeTest, Table)
     }
 }
 
-// The tail of every file is the end of the PAGE block, and nothing follows it.
-TEST_F(FormatEdgeTest, FileEndsWithThePageMarker)
-{
-    t_Window *window = MakePage({.name = "Tail"}, {{.type = GADGET_TYPE_BUTTON, .text = "x"}});
-    std::string text = SaveAndRead(window, CONFIG_OPTIMISE);
-    const std::string tail = "\treturn(win);\n}\n" SRC_PAGE_END;
-    ASSERT_GE(text.size(), tail.size());
-    EXPECT_EQ(text.substr(text.size() - tail.size()), tail);
-    EXPECT_EQ(text.rfind(SRC_MESSAGE_START, 0), 0u);
-}
-
 }  // namespace

@@ -1,4 +1,4 @@
-// The name tables: lookups both ways, the row order that others count on, the terminators.
+// The name tables: lookups by code, the row order that others count on, the terminators.
 #include <gtest/gtest.h>
 #include <string.h>
 
@@ -46,35 +46,6 @@ struct STRING_LOOKUP {
     const char *text;
     u32 value;
 };
-
-TEST(NameTables, LookupByStringGivesZeroForNoRow)
-{
-    const STRING_LOOKUP cases[] = {
-        {gadget_flag_names, "0", 0},
-        {gadget_flag_names, "", 0},
-        {gadget_flag_names, "GADGET_FLAGS_XY", 0xc00},
-        {gadget_flag_names, "GADGET_FLAGS_DEPRESSED", 0},
-        {mouse_action_names, "ACT_MOUSE_WHEEL", 0x300},
-        {gadget_type_names, "GADGET_TYPE_DROP_BOX", 6},
-        {window_flag_names, "WF_CLIP_PARENT", 0x800},
-        {idcmp_names, "IDCMP_INTERNAL_REBUILD", 0x400000},
-        {message_names, "ACT_REQUESTER_PREVIEW", 0x1012},
-    };
-    for (const STRING_LOOKUP &c : cases)
-        EXPECT_EQ(FindV2SByString(c.table, c.text), c.value) << c.text;
-}
-
-// Every word of the source tables stands for one value: a word read back gives what was written.
-TEST(NameTables, SourceWordsRoundTrip)
-{
-    const T_VAL2STRING *tables[] = {gadget_flag_names, gadget_type_names, mouse_action_names,
-                                    window_flag_names, idcmp_names, message_names};
-    for (const T_VAL2STRING *table : tables)
-        for (u32 row = 0; table[row].value; row++) {
-            EXPECT_STREQ(FindV2SByCode(table, table[row].value), table[row].text);
-            EXPECT_EQ(FindV2SByString(table, table[row].text), table[row].value);
-        }
-}
 
 struct TABLE_SHAPE {
     const char *name;
