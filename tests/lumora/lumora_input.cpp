@@ -60,6 +60,16 @@ void Click(i16 x, i16 y, u16 button, u16 qualifiers) {
     HeadlessAdvance(PAUSE_AFTER_CLICK_MS);
 }
 
+void DoubleClick(i16 x, i16 y) {
+    Push(INPUT_MOUSE_MOVE, x, y, 0, 0, 0);
+    for (int i = 0; i < 2; i++) {
+        Push(INPUT_MOUSE_DOWN, x, y, 1, 0, 0);
+        Push(INPUT_MOUSE_UP, x, y, 1, 0, 0);
+    }
+    Turn();
+    HeadlessAdvance(PAUSE_AFTER_CLICK_MS);
+}
+
 void Drag(i16 x1, i16 y1, i16 x2, i16 y2) {
     Push(INPUT_MOUSE_MOVE, x1, y1, 0, 0, 0);
     Push(INPUT_MOUSE_DOWN, x1, y1, 1, 0, 0);

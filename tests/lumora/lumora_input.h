@@ -23,6 +23,7 @@ void Press(i16 x, i16 y, u16 button = 1, u16 qualifiers = 0);
 void Release(i16 x, i16 y, u16 button = 1, u16 qualifiers = 0);
 // Press and release in one turn, then a pause long enough that the next press is no double click.
 void Click(i16 x, i16 y, u16 button = 1, u16 qualifiers = 0);
+void DoubleClick(i16 x, i16 y);               // two quick clicks in one turn, then the pause
 void Drag(i16 x1, i16 y1, i16 x2, i16 y2);  // press, two moves, release, one turn
 void Key(u16 key, u16 qualifiers = 0);      // pushed and taken in one turn
 void TypeText(const char *text);

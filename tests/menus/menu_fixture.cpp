@@ -1,8 +1,5 @@
-// The menu suites' set-up: headless toolkit, the recording owner window, input and places.
+// The menu suites' set-up: the recording owner window, sample menus and places on screen.
 #include "menus/menu_fixture.h"
-
-#include <ftw.h>
-#include <unistd.h>
 
 std::vector<T_SPY_MESSAGE> spy_messages;
 void (*spy_on_menu_open)(u32 item_code);
@@ -35,85 +32,16 @@ u32 SpyMessage(t_Window *window, u32 item_code, u32 msg, void *data)
     return 0;
 }
 
-static int RemoveEntry(const char *path, const struct stat *, int, struct FTW *)
-{
-    return remove(path);
-}
-
 void ToolkitTest::SetUp()
 {
-    char root[] = "/tmp/qf_menus_XXXXXX";
-    ASSERT_NE(mkdtemp(root), nullptr);
-    data_root = root;
-    ASSERT_TRUE(OpenToolkit("headless", 800, 600, root));
+    LumoraTest::SetUp();
     spy_messages.clear();
     spy_on_menu_open = nullptr;
-    T_WINDOWOBJINIT init;
-    memset(&init, 0, sizeof(init));
-    init.x = 40;
-    init.y = 30;
-    init.w = 500;
-    init.h = 400;
-    init.flags = WF_TITLE | WF_BORDER;
-    init.idcmp = IDCMP_MENU_OPEN | IDCMP_KEY | IDCMP_TERMINATE;
-    init.message = SpyMessage;
-    owner = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, "owner", &init);
+    owner = MakeWindow("owner", 40, 30, 500, 400, WF_TITLE | WF_BORDER,
+                       IDCMP_MENU_OPEN | IDCMP_KEY | IDCMP_TERMINATE, nullptr, SpyMessage);
     ASSERT_NE(owner, nullptr);
     Turn();
     spy_messages.clear();
-    blocks_at_start = _OstrandBase->blocks_allocated;
-}
-
-void ToolkitTest::TearDown()
-{
-    CloseToolkit();
-    nftw(data_root.c_str(), RemoveEntry, 8, FTW_DEPTH | FTW_PHYS);
-}
-
-static void Push(T_INPUT_EVENT event)
-{
-    HeadlessPush(&event);
-    RefreshHandlers(NULL);
-}
-
-void ToolkitTest::Move(i16 x, i16 y)
-{
-    T_INPUT_EVENT e = {};
-    e.kind = INPUT_MOUSE_MOVE, e.x = x, e.y = y;
-    Push(e);
-}
-
-void ToolkitTest::Press(i16 x, i16 y, u16 button)
-{
-    T_INPUT_EVENT e = {};
-    e.kind = INPUT_MOUSE_DOWN, e.x = x, e.y = y, e.button = button;
-    Push(e);
-}
-
-void ToolkitTest::Release(i16 x, i16 y, u16 button)
-{
-    T_INPUT_EVENT e = {};
-    e.kind = INPUT_MOUSE_UP, e.x = x, e.y = y, e.button = button;
-    Push(e);
-}
-
-void ToolkitTest::Click(i16 x, i16 y, u16 button)
-{
-    Press(x, y, button);
-    Release(x, y, button);
-}
-
-void ToolkitTest::Key(u16 key, u16 qualifiers)
-{
-    T_INPUT_EVENT e = {};
-    e.kind = INPUT_KEY_DOWN, e.key = key, e.qualifiers = qualifiers;
-    Push(e);
-}
-
-void ToolkitTest::Turn(u32 turns)
-{
-    while (turns--)
-        RefreshHandlers(NULL);
 }
 
 std::vector<T_SPY_MESSAGE> ToolkitTest::MessagesOf(u32 msg) const

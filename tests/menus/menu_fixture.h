@@ -1,16 +1,10 @@
-// The menu suites' set-up: the toolkit on the headless display in a temporary data root, an owner
-// window that records the messages it gets, a person's input, and where things are on screen.
+// The menu suites' set-up: the Lumora suite's headless toolkit and input, an owner window that
+// records the messages it gets, sample menus, and where things are on screen.
 #pragma once
-#include <gtest/gtest.h>
-#include <stdlib.h>
 #include <string.h>
 
-#include <string>
-#include <vector>
-
-#include "display/display.h"
+#include "lumora/lumora_input.h"
 #include "lumora/menu_internal.h"
-#include "toolkit.h"
 
 typedef struct T_SPY_MESSAGE {
     u32 item_code;
@@ -27,23 +21,11 @@ u32 SpyMessage(t_Window *window, u32 item_code, u32 msg, void *data);
 u32 OpenPopups(void);
 t_Window *PopupAt(u32 level);  // the open menus in the order they opened
 
-class ToolkitTest : public ::testing::Test {
+class ToolkitTest : public LumoraTest {
 protected:
-    std::string data_root;
     t_Window *owner = nullptr;
-    u64 blocks_at_start = 0;
 
     void SetUp() override;
-    void TearDown() override;
-
-    // A person's input, each followed by a turn of the loop.
-    void Move(i16 x, i16 y);
-    void Press(i16 x, i16 y, u16 button = 1);
-    void Release(i16 x, i16 y, u16 button = 1);
-    void Click(i16 x, i16 y, u16 button = 1);
-    void Key(u16 key, u16 qualifiers = 0);
-    void Turn(u32 turns = 1);
-
     std::vector<T_SPY_MESSAGE> MessagesOf(u32 msg) const;
 };
 

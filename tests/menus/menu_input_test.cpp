@@ -130,7 +130,9 @@ TEST_F(MenuInputTest, PressesOutsideCloseOrSwitch)
 
     ClickTitle(SAMPLE_FILE);
     spy_messages.clear();
-    ClickTitle(SAMPLE_EDIT);  // another title of the bar
+    TitleCentre(handler, FindMenuInHandler(handler, SAMPLE_EDIT), &x, &y);
+    Press(x, y);  // another title of the bar, pressed without the pointer passing over it first
+    Release(x, y);
     EXPECT_EQ(OpenPopups(), 1u);
     EXPECT_EQ(handler->open_title, FindMenuInHandler(handler, SAMPLE_EDIT));
     ASSERT_EQ(MessagesOf(ACT_MENU_OPEN).size(), 1u);

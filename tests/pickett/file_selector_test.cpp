@@ -116,7 +116,7 @@ TEST_F(FileSelector, TypedNamesAnswerWithTheirOwnPathOrGoIntoAFolder) {
         spy.clear();
         Open(scratch);
         ASSERT_EQ(GetCurrentGadget(selector), Gadget(NAME_FIELD));
-        Type(r.typed.c_str());
+        TypeText(r.typed.c_str());
         Key(KEY_RETURN);
         if (r.answers) {
             ASSERT_EQ(MessagesOf(ACT_REQUESTER_OK).size(), 1u) << r.typed;
@@ -152,12 +152,12 @@ TEST_F(FileSelector, ThePatternAndPathFieldsTakeEffectOnEnter) {
     Open(scratch + "/sub");
     ClickGadget(selector, PATTERN_FIELD);
     Key(KEY_CTRL('A'));
-    Type("*.h");
+    TypeText("*.h");
     Key(KEY_RETURN);
     EXPECT_EQ(Entries(), (std::vector<std::string>{"../", "c.h"}));
     ClickGadget(selector, PATH_FIELD);
     Key(KEY_CTRL('A'));
-    Type(scratch.c_str());
+    TypeText(scratch.c_str());
     Key(KEY_RETURN);
     EXPECT_EQ(Entries(), (std::vector<std::string>{"../", "sub/", "Zed/"}));
     EXPECT_TRUE(spy.empty());
@@ -175,7 +175,7 @@ TEST_F(FileSelector, AnUnreadableFolderShowsNothingAndSaysSo) {
     Turn(2);
     ClickGadget(selector, PATH_FIELD);
     Key(KEY_CTRL('A'));
-    Type(scratch.c_str());
+    TypeText(scratch.c_str());
     Key(KEY_RETURN);
     EXPECT_EQ(Entries().size(), 6u);  // "locked/" among them
     EXPECT_TRUE(Gadget(NOTE)->live_flags & GADGET_FLAGS_NO_DISPLAY);

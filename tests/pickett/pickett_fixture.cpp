@@ -1,4 +1,4 @@
-// The selector suites' set-up and a person's input through the headless display.
+// The selector suites' set-up: the spy parent, the scratch folders and the list helpers.
 #include "pickett_fixture.h"
 
 #include <stdio.h>
@@ -7,8 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-
-#define PAUSE_AFTER_CLICK_MS 1000  // past the double-click time
 
 std::vector<SPY_MESSAGE> spy;
 void (*spy_check)(u32 item_code, u32 msg, void *data);
@@ -27,28 +25,21 @@ u32 SpyParentMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
 }
 
 void PickettTest::SetUp() {
-    char pattern[] = "/tmp/pickett_test_XXXXXX";
-    ASSERT_NE(mkdtemp(pattern), nullptr);
-    data_root = pattern;
+    LumoraTest::SetUp();
     scratch = data_root + "/files";
     std::filesystem::create_directories(scratch);
     _OstrandBase->log_level = -1;
-    blocks_at_start = _OstrandBase->blocks_allocated;
-    ASSERT_TRUE(OpenToolkit("headless", 800, 600, data_root.c_str()));
     spy.clear();
     spy_check = nullptr;
 }
 
+// Folders a test locked are opened again, so that the data root can go.
 void PickettTest::TearDown() {
-    CloseToolkit();
-    EXPECT_EQ(_OstrandBase->blocks_allocated, blocks_at_start) << "blocks left behind";
-    std::filesystem::permissions(scratch, std::filesystem::perms::owner_all,
-                                 std::filesystem::perm_options::add);
     for (auto &e : std::filesystem::recursive_directory_iterator(scratch))
         if (e.is_directory())
             std::filesystem::permissions(e.path(), std::filesystem::perms::owner_all,
                                          std::filesystem::perm_options::add);
-    std::filesystem::remove_all(data_root);
+    LumoraTest::TearDown();
 }
 
 t_Window *PickettTest::MakeParent(u32 idcmp) {
@@ -78,57 +69,6 @@ std::vector<u32> PickettTest::MessagesOf(u32 msg) const {
     for (const SPY_MESSAGE &m : spy)
         if (m.msg == msg) codes.push_back(m.item_code);
     return codes;
-}
-
-static void Push(u16 kind, i16 x, i16 y, u16 button, u16 key, u16 qualifiers) {
-    T_INPUT_EVENT e = {};
-    e.kind = kind, e.x = x, e.y = y, e.button = button, e.key = key, e.qualifiers = qualifiers;
-    HeadlessPush(&e);
-}
-
-void PickettTest::Turn(u32 turns) {
-    for (u32 i = 0; i < turns; i++) RefreshHandlers(nullptr);
-}
-
-void PickettTest::Click(i16 x, i16 y) {
-    Push(INPUT_MOUSE_MOVE, x, y, 0, 0, 0);
-    Push(INPUT_MOUSE_DOWN, x, y, 1, 0, 0);
-    Push(INPUT_MOUSE_UP, x, y, 1, 0, 0);
-    Turn();
-    HeadlessAdvance(PAUSE_AFTER_CLICK_MS);
-}
-
-void PickettTest::DoubleClick(i16 x, i16 y) {
-    Push(INPUT_MOUSE_MOVE, x, y, 0, 0, 0);
-    for (int i = 0; i < 2; i++) {
-        Push(INPUT_MOUSE_DOWN, x, y, 1, 0, 0);
-        Push(INPUT_MOUSE_UP, x, y, 1, 0, 0);
-    }
-    Turn();
-    HeadlessAdvance(PAUSE_AFTER_CLICK_MS);
-}
-
-void PickettTest::Drag(i16 x1, i16 y1, i16 x2, i16 y2) {
-    Push(INPUT_MOUSE_MOVE, x1, y1, 0, 0, 0);
-    Push(INPUT_MOUSE_DOWN, x1, y1, 1, 0, 0);
-    Push(INPUT_MOUSE_MOVE, (i16)((x1 + x2) / 2), (i16)((y1 + y2) / 2), 0, 0, 0);
-    Push(INPUT_MOUSE_MOVE, x2, y2, 0, 0, 0);
-    Push(INPUT_MOUSE_UP, x2, y2, 1, 0, 0);
-    Turn();
-    HeadlessAdvance(PAUSE_AFTER_CLICK_MS);
-}
-
-void PickettTest::Key(u16 key, u16 qualifiers) {
-    Push(INPUT_KEY_DOWN, 0, 0, 0, key, qualifiers);
-    Turn();
-}
-
-void PickettTest::Type(const char *text) {
-    T_INPUT_EVENT e = {};
-    e.kind = INPUT_TEXT;
-    snprintf(e.text, sizeof(e.text), "%s", text);
-    HeadlessPush(&e);
-    Turn();
 }
 
 void PickettTest::ClickGadget(t_Window *window, u32 item_code) {

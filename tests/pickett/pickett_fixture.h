@@ -1,15 +1,14 @@
-// The selector suites' set-up: the toolkit on the headless display in a temporary data root, a
-// parent window that records what it is told, a person's input, and a scratch folder tree.
+// The selector suites' set-up: the Lumora suite's headless toolkit and input, a parent window that
+// records what it is told, and a scratch folder tree.
 #pragma once
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "display/display.h"
 #include "knobkit/knobkit_internal.h"
+#include "lumora/lumora_input.h"
 #include "pickett/pickett_internal.h"
-#include "toolkit.h"
 
 // What the spy parent's message function was given; for a file selector's OK the answer is
 // copied, since it lives only as long as the call.
@@ -25,11 +24,10 @@ extern std::vector<SPY_MESSAGE> spy;
 extern void (*spy_check)(u32 item_code, u32 msg, void *data);
 u32 SpyParentMessage(t_Window *window, u32 item_code, u32 msg, void *data);
 
-class PickettTest : public ::testing::Test {
+class PickettTest : public LumoraTest {
   protected:
-    std::string data_root, scratch;
+    std::string scratch;
     t_Window *parent = nullptr;
-    u64 blocks_at_start = 0;  // every block the test made is freed by the end
 
     void SetUp() override;
     void TearDown() override;
@@ -39,14 +37,6 @@ class PickettTest : public ::testing::Test {
                                      IDCMP_REQUESTER_PREVIEW);
     void MakeFiles(const std::vector<std::string> &paths);  // below `scratch`; "x/" is a folder
     std::vector<u32> MessagesOf(u32 msg) const;             // their item codes
-
-    // A person's input, each followed by a turn of the loop.
-    void Turn(u32 turns = 1);
-    void Click(i16 x, i16 y);
-    void DoubleClick(i16 x, i16 y);
-    void Key(u16 key, u16 qualifiers = 0);
-    void Type(const char *text);
-    void Drag(i16 x1, i16 y1, i16 x2, i16 y2);
     void ClickGadget(t_Window *window, u32 item_code);  // in the middle of the gadget
 };
 
