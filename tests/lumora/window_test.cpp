@@ -148,16 +148,30 @@ TEST_F(LumoraTest, CloseGadgetAndAltF4AskToTerminate) {
     }
 }
 
-// In a child that doesn't take Alt+F4, the key closes the nearest parent that does.
-TEST_F(LumoraTest, AltF4InAChildClosesTheParentThatTakesIt) {
-    t_Window *main = MakeWindow("Main", 10, 10, 400, 300, WF_TITLE | WF_ALTF4, IDCMP_TERMINATE);
-    t_Window *page = MakeWindow("Page", 20, 20, 100, 80, WF_CHILD | WF_TITLE, IDCMP_TERMINATE, main);
-    ASSERT_EQ(FocusWindow(), page);
-    Turn();
-    recorded.clear();
-    Key(KEY_F1 + 3, QUAL_ALT);
-    EXPECT_EQ(CountRecorded(ACT_TERMINATE, main), 1u);
-    EXPECT_EQ(CountRecorded(ACT_TERMINATE, page), 0u);
+// In a child that doesn't take Alt+F4 the key closes the nearest parent that does, unless the child
+// is a dialog, in front of or dependent on its parent: then no one is closed.
+TEST_F(LumoraTest, AltF4InAChildClosesTheParentThatTakesItUnlessTheChildIsADialog) {
+    struct {
+        u32 child_flags;
+        int main_closes, child_closes;
+    } rows[] = {
+        {WF_CHILD | WF_TITLE, 1, 0},
+        {WF_CHILD | WF_TITLE | WF_IN_FRONT, 0, 0},
+        {WF_CHILD | WF_TITLE | WF_DEPENDANT, 0, 0},
+        {WF_CHILD | WF_TITLE | WF_IN_FRONT | WF_ALTF4, 0, 1},
+    };
+    for (const auto &row : rows) {
+        t_Window *main = MakeWindow("Main", 10, 10, 400, 300, WF_TITLE | WF_ALTF4, IDCMP_TERMINATE);
+        t_Window *child = MakeWindow("Child", 20, 20, 100, 80, row.child_flags, IDCMP_TERMINATE, main);
+        ASSERT_EQ(FocusWindow(), child);
+        Turn();
+        recorded.clear();
+        Key(KEY_F1 + 3, QUAL_ALT);
+        EXPECT_EQ(CountRecorded(ACT_TERMINATE, main), (u32)row.main_closes) << row.child_flags;
+        EXPECT_EQ(CountRecorded(ACT_TERMINATE, child), (u32)row.child_closes) << row.child_flags;
+        RemoveWindow(main);
+        Turn();
+    }
 }
 
 TEST_F(LumoraTest, MaximiseAndMinimiseRestore) {

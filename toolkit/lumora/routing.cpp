@@ -304,9 +304,12 @@ static void RouteKey(u16 key, u16 qualifiers) {
     t_Window *focus = FocusWindow();
     if (key == KEY_ALT_F4 && (qualifiers & QUAL_ALT)) {
         // Alt+F4 closes the focus window or, when that doesn't take it, the nearest parent that
-        // does: in a page inside the main window it closes the application.
+        // does: in a page inside the main window it closes the application. A dialog or box
+        // (in front of, or dependent on, its parent) that doesn't take it passes it on to no one.
         t_Window *closing = focus;
-        while (closing && !(closing->flags & WF_ALTF4)) closing = closing->parent;
+        while (closing && !(closing->flags & WF_ALTF4) && !(closing->flags & (WF_IN_FRONT | WF_DEPENDANT)))
+            closing = closing->parent;
+        if (closing && !(closing->flags & WF_ALTF4)) closing = NULL;
         if (closing) {
             CloseByFrame(closing);
             return;

@@ -11,7 +11,8 @@
 #define FILESEL_USER_H 380
 #define FILESEL_MIN_LIST_H 40
 #define FILESEL_FLAGS \
-    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_RESIZE | WF_IN_FRONT | WF_DEPENDANT)
+    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_RESIZE | WF_IN_FRONT | \
+     WF_DEPENDANT)
 
 // Item codes of the selector's own gadgets.
 enum {

@@ -14,7 +14,8 @@
 #define FONTSEL_PREVIEW_SIZE 18  // pixels of the preview's text
 #define FONTSEL_ANSWER_SIZE 13   // pixels of the font LoadFontFromSelector gives
 #define FONTSEL_FLAGS \
-    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_RESIZE | WF_IN_FRONT | WF_DEPENDANT)
+    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_RESIZE | WF_IN_FRONT | \
+     WF_DEPENDANT)
 
 enum { FONTSEL_LIST = 1, FONTSEL_OK, FONTSEL_CANCEL };
 
