@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <string.h>
 
+#include <array>
+
 #include "display/display.h"
 #include "editor/mouse_editing.h"
 #include "editor/page_commands.h"
@@ -18,24 +20,22 @@
 
 // The catalogue's tools used here.
 #define TOOL_CHECK_BOX 1
-#define TOOL_LIST_BOX 2
 #define TOOL_RADIO 3
 #define TOOL_SLIDER_H 4
 #define TOOL_SLIDER_V 5
 #define TOOL_TEXT 6
-#define TOOL_TREE 8
-#define TOOL_GROUP 11
 #define TOOL_BUTTON 12
 
 // Main window commands.
 #define COMMAND_UNDO 263
 #define COMMAND_REDO 264
 #define COMMAND_SELECT_ALL 268
-#define COMMAND_SELECT_NONE 269
-#define COMMAND_INVERSE 270
 #define COMMAND_TAB_ORDER 277
 
 #define PAST_DOUBLE_CLICK_MS 500
+
+// A gadget's place and size: x, y, width, height.
+typedef std::array<i16, 4> T_GEOM;
 
 // After a step, the page's records must still hold together.
 #define CHECK_PAGE() EXPECT_EQ(CheckPageInvariants(page), "")
@@ -77,6 +77,8 @@ protected:
     i16 AbsY(i16 y) { return (i16)(page->user_y + y); }
     static i16 MidX(const t_gadget *g) { return (i16)(g->screen_x + g->base_width / 2); }
     static i16 MidY(const t_gadget *g) { return (i16)(g->screen_y + g->base_height / 2); }
+    static T_GEOM Geom(const t_gadget *g) { return {g->pos_x, g->pos_y, g->base_width, g->base_height}; }
+    u32 Count() { return CountListEntries(&gadgets->gadget_list); }
     static int Marked(const t_gadget *g) { return (g->live_flags & GADGET_MARK_SELECTED) != 0; }
     static void Mark(t_gadget *g) { g->live_flags |= GADGET_MARK_SELECTED; }
     int Modified() { return (page->state_flags & WSF_MODIFIED) != 0; }
@@ -84,7 +86,6 @@ protected:
     const char *UndoLabel() { return record->undo.current ? record->undo.current->name : ""; }
     T_TOOLBAR_HANDLER *Toolbar() { return PageToolBar(page); }
     void Command(u32 item_code) { SendWindowMessage(harness.main_window, item_code, ACT_MENU_PICK, NULL); }
-    static void Advance() { HeadlessAdvance(PAST_DOUBLE_CLICK_MS); }
 
     // Raw input with qualifiers held, taken by turning the loop.
     static void Push(u16 kind, i16 x, i16 y, u16 button, u16 qualifiers)
@@ -111,7 +112,7 @@ protected:
     {
         Push(INPUT_MOUSE_MOVE, x, y, 0, qualifiers);
         Push(INPUT_MOUSE_UP, x, y, 1, qualifiers);
-        Advance();
+        HeadlessAdvance(PAST_DOUBLE_CLICK_MS);
     }
     static void Click(i16 x, i16 y, u16 qualifiers = 0)
     {

@@ -9,8 +9,6 @@
 #include "editor/undo_records.h"
 #include "page/records.h"
 
-#define TAB_FIRST_BIT 0x80000000u
-
 static inline int GadgetOnPage(t_Window *page, const t_gadget *gadget)
 {
     t_Gaget_Handler *handler = FindGadgetHandler(page);
@@ -103,42 +101,5 @@ static inline std::string CheckPageInvariants(t_Window *page)
     if ((record->edit_state & EDIT_TAB_ORDER) && record->handle_gadget)
         Violation(out, "handles in tab-order mode");
     CheckHistory(page, record, out);
-    return out;
-}
-
-// After BuildTabLinks on a page whose gadgets with item codes are numbered 1 to n without gaps or
-// doubles: the links form one ring in the order of the numbers, the first one flagged.
-static inline std::string CheckTabLinks(t_Window *page)
-{
-    std::string out;
-    t_Gaget_Handler *handler = FindGadgetHandler(page);
-    u32 members = 0, flagged = 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
-        members += g->item_code != 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-        long code = (long)g->item_code;
-        if (g->item_code == 0) {
-            if (g->tab[0] || g->tab[1])
-                Violation(out, "a gadget without an item code has links");
-            continue;
-        }
-        if (g->tab[0] & TAB_FIRST_BIT)
-            flagged++;
-        if (members < 2)
-            continue;
-        t_gadget *after = FindGadgetByCode(page, g->tab[1]);
-        if (!after) {
-            Violation(out, "gadget %ld links to no gadget after it", code);
-            continue;
-        }
-        if ((after->tab[0] & ~TAB_FIRST_BIT) != g->item_code)
-            Violation(out, "gadget %ld: the gadget after it doesn't link back", code);
-        if (after->tab_index != (g->tab_index == members ? 1 : g->tab_index + 1))
-            Violation(out, "gadget %ld: the link after it skips a number", code);
-        if (((g->tab[0] & TAB_FIRST_BIT) != 0) != (g->tab_index == 1))
-            Violation(out, "gadget %ld: the first mark is on the wrong gadget", code);
-    }
-    if (members > 1 && flagged != 1)
-        Violation(out, "%ld gadgets flagged first", (long)flagged);
     return out;
 }

@@ -2,12 +2,15 @@
 // into links.
 #include "tests/editor/editor_fixture.h"
 
+#define TAB_FIRST_BIT 0x80000000u
+
 class TabOrderTest : public PageTest {
 protected:
     t_gadget *g[5] = {};
 
-    void MakeRow()
+    void SetUp() override
     {
+        PageTest::SetUp();
         for (int i = 0; i < 5; i++)
             g[i] = Make(TOOL_BUTTON, 20, (i16)(20 + 40 * i), 60, 20);
         ClearAllMarkedGadgets(g[0]);
@@ -16,7 +19,6 @@ protected:
 
 TEST_F(TabOrderTest, EnteringNumbersTheGadgetsWithoutANumber)
 {
-    MakeRow();
     struct {
         u32 before[5];
         u32 after[5];
@@ -40,12 +42,11 @@ TEST_F(TabOrderTest, EnteringNumbersTheGadgetsWithoutANumber)
 
 TEST_F(TabOrderTest, ClicksRenumberAndEscapeMakesTheLinks)
 {
-    MakeRow();
     Command(COMMAND_TAB_ORDER);
     // Left presses number in click order, from 1.
     const int order[5] = {4, 2, 0, 1, 3};
-    for (int i = 0; i < 5; i++) {
-        UserClick(MidX(g[order[i]]), MidY(g[order[i]]), 1);
+    for (int i : order) {
+        UserClick(MidX(g[i]), MidY(g[i]), 1);
         CHECK_PAGE();
     }
     for (int i = 0; i < 5; i++)
@@ -63,11 +64,16 @@ TEST_F(TabOrderTest, ClicksRenumberAndEscapeMakesTheLinks)
     EXPECT_EQ(CountMarkedGadgets(g[0]), 0u);
     EXPECT_EQ(Records(), 0u);
     EXPECT_FALSE(Modified());
-    // Renumber cleanly, then leave: the links follow the numbers.
+    // Renumber 5 to 1 down the row, then leave: the links make one ring in the order of the
+    // numbers, each linking back, and the gadget numbered 1 is flagged first.
     for (int i = 0; i < 5; i++)
         g[i]->tab_index = (u32)(5 - i);
     UserKey(KEY_ESCAPE, 0);
     EXPECT_FALSE(record->edit_state & EDIT_TAB_ORDER);
-    EXPECT_EQ(CheckTabLinks(page), "");
+    for (int i = 0; i < 5; i++) {
+        EXPECT_EQ(g[i]->tab[1], g[(i + 4) % 5]->item_code) << i;
+        EXPECT_EQ(g[i]->tab[0] & ~TAB_FIRST_BIT, g[(i + 1) % 5]->item_code) << i;
+        EXPECT_EQ((g[i]->tab[0] & TAB_FIRST_BIT) != 0, i == 4) << i;
+    }
     CHECK_PAGE();
 }

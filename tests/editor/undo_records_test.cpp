@@ -11,7 +11,6 @@ protected:
         Drag(AbsX(x), AbsY(y), AbsX((i16)(x + w)), AbsY((i16)(y + h)));
         return (t_gadget *)gadgets->gadget_list.last;
     }
-    u32 Count() { return CountListEntries(&gadgets->gadget_list); }
 };
 
 TEST_F(UndoTest, UndoAndRedoOfACreatedGadget)
@@ -24,16 +23,12 @@ TEST_F(UndoTest, UndoAndRedoOfACreatedGadget)
     CHECK_PAGE();
     EXPECT_EQ(Count(), 0u);
     EXPECT_FALSE(Modified());  // the history is empty: the page is clean
-    EXPECT_EQ(record->drag_gadget, nullptr);
     Command(COMMAND_REDO);
     CHECK_PAGE();
     ASSERT_EQ(Count(), 1u);
     t_gadget *again = gadgets->first_gadget;
     EXPECT_EQ(again->type, GADGET_TYPE_BUTTON);
-    EXPECT_EQ(again->pos_x, 40);
-    EXPECT_EQ(again->pos_y, 40);
-    EXPECT_EQ(again->base_width, 80);
-    EXPECT_EQ(again->base_height, 24);
+    EXPECT_EQ(Geom(again), (T_GEOM{40, 40, 80, 24}));
     EXPECT_EQ(again->item_code, 1u);
     EXPECT_FALSE(Marked(again));
     EXPECT_TRUE(Modified());
@@ -56,27 +51,21 @@ TEST_F(UndoTest, GeometryRecordsTakeBackPositionAndSizeTogether)
     for (const auto &c : cases) {
         SCOPED_TRACE(c.label);
         UserClick(MidX(g), MidY(g), 1);  // selected and current: the handles show
-        i16 x = g->x, y = g->y, w = g->base_width, h = g->base_height;
-        i16 px = c.where == MIDDLE ? MidX(g) : c.where == TOP_LEFT_BOX ? (i16)(g->screen_x - 3) : (i16)(g->screen_x + w + 3);
+        const T_GEOM before = Geom(g);
+        i16 px = c.where == MIDDLE ? MidX(g) : c.where == TOP_LEFT_BOX ? (i16)(g->screen_x - 3) : (i16)(g->screen_x + g->base_width + 3);
         i16 py = c.where == TOP_LEFT_BOX ? (i16)(g->screen_y - 3) : MidY(g);
         Drag(px, py, (i16)(px + c.dx), (i16)(py + c.dy));
         CHECK_PAGE();
         EXPECT_STREQ(UndoLabel(), c.label);
-        i16 after_x = g->x, after_y = g->y, after_w = g->base_width, after_h = g->base_height;
-        EXPECT_TRUE(after_x != x || after_y != y || after_w != w || after_h != h);
+        const T_GEOM after = Geom(g);
+        EXPECT_NE(after, before);
         Command(COMMAND_UNDO);
         CHECK_PAGE();
-        EXPECT_EQ(g->x, x);
-        EXPECT_EQ(g->y, y);
-        EXPECT_EQ(g->base_width, w);
-        EXPECT_EQ(g->base_height, h);
+        EXPECT_EQ(Geom(g), before);
         EXPECT_EQ(gadgets->current_gadget, nullptr);
         Command(COMMAND_REDO);
         CHECK_PAGE();
-        EXPECT_EQ(g->x, after_x);
-        EXPECT_EQ(g->y, after_y);
-        EXPECT_EQ(g->base_width, after_w);
-        EXPECT_EQ(g->base_height, after_h);
+        EXPECT_EQ(Geom(g), after);
     }
 }
 
@@ -95,19 +84,14 @@ TEST_F(UndoTest, RecordsOfADeletedGadgetDoNothing)
     CHECK_PAGE();
     // A new gadget may take a freed address; no record may take it for the old one.
     t_gadget *c = Make(TOOL_BUTTON, 200, 200, 50, 20);
-    i16 x = c->pos_x, y = c->pos_y, w = c->base_width;
-    u32 records = Records();
-    for (u32 i = 0; i < records; i++) {
-        Command(COMMAND_UNDO);
-        CHECK_PAGE();
+    const T_GEOM made = Geom(c);
+    const u32 records = Records();
+    for (u32 command : {COMMAND_UNDO, COMMAND_REDO}) {
+        for (u32 i = 0; i < records; i++) {
+            Command(command);
+            CHECK_PAGE();
+        }
+        EXPECT_EQ(Count(), 1u);
+        EXPECT_EQ(Geom(c), made);
     }
-    EXPECT_EQ(Count(), 1u);
-    for (u32 i = 0; i < records; i++) {
-        Command(COMMAND_REDO);
-        CHECK_PAGE();
-    }
-    EXPECT_EQ(Count(), 1u);
-    EXPECT_EQ(c->pos_x, x);
-    EXPECT_EQ(c->pos_y, y);
-    EXPECT_EQ(c->base_width, w);
 }

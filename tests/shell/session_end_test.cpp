@@ -8,13 +8,6 @@
 
 #define TOOL_BUTTON 12
 
-static u32 ReadU32(const u8 *at)
-{
-    u32 value;
-    memcpy(&value, at, 4);
-    return value;
-}
-
 // A nested wait that never returned would hang the suite: the watchdog fails the test instead.
 static void WatchdogFired(int)
 {
@@ -22,17 +15,6 @@ static void WatchdogFired(int)
     ssize_t written = write(1, text, sizeof(text) - 1);
     (void)written;
     _exit(1);
-}
-
-static void StartWatchdog(unsigned seconds)
-{
-    signal(SIGALRM, WatchdogFired);
-    alarm(seconds);
-}
-
-static void StopWatchdog()
-{
-    alarm(0);
 }
 
 class SessionEndTest : public ShellTest {
@@ -65,36 +47,24 @@ protected:
 // Each way of ending stores the settings and ends the session; the next start reads them.
 TEST_F(SessionEndTest, EachWayOfEndingStoresTheSettings)
 {
-    //  way               how
-    const struct {
-        const char *way;
-        int how;  // 0 File > Exit, 1 Alt+F4, 2 the Exit command's item code
-    } rows[] = {{"File > Exit", 0}, {"Alt+F4", 1}, {"Exit command", 2}};
-    u32 flags = 0;
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.way);
-        editor_config->flags = flags;
-        snprintf(editor_config->backup_path, sizeof(editor_config->backup_path), "copies %u", flags);
-        switch (row.how) {
-        case 0:
+    const char *ways[] = {"File > Exit", "Alt+F4", "Exit command"};
+    for (u32 way = 0; way < 3; way++) {
+        SCOPED_TRACE(ways[way]);
+        const std::string copies = "copies " + std::to_string(way);
+        editor_config->flags = way;
+        strcpy(editor_config->backup_path, copies.c_str());
+        if (way == 0)
             PickFromMenu(MENU_FILE, CMD_EXIT);
-            break;
-        case 1:
+        else if (way == 1)
             UserKey(KEY_F1 + 3, QUAL_ALT);
-            break;
-        case 2:
+        else
             SendWindowMessage(h.main_window, CMD_EXIT, ACT_MENU_PICK, NULL);
-            break;
-        }
         EXPECT_TRUE(SessionEnded());
         Restart();
-        EXPECT_EQ(editor_config->flags, flags);
-        char expected[32];
-        snprintf(expected, sizeof(expected), "copies %u", flags);
-        EXPECT_STREQ(editor_config->backup_path, expected);
+        EXPECT_EQ(editor_config->flags, way);
+        EXPECT_EQ(editor_config->backup_path, copies);
         EXPECT_EQ(editor_config->open_count, 0u);
         EXPECT_TRUE(Pages().empty());
-        flags++;
     }
 }
 
@@ -108,28 +78,19 @@ TEST_F(SessionEndTest, TheTailHoldsThePagesWithFilesInChildOrder)
     memcpy(&before, editor_config, EDITOR_CONFIG_SIZE);
     StoreOpenDocuments(h.main_window, editor_config, Main()->toolbar);
 
-    std::vector<u8> tail;
-    for (const std::string &path : files) {
-        u32 length = (u32)path.size() + 1;
-        tail.insert(tail.end(), (u8 *)&length, (u8 *)&length + 4);
-        tail.insert(tail.end(), path.c_str(), path.c_str() + length);
-    }
-    const u8 *block = (const u8 *)editor_config;
+    const std::string tail = TailOf(files);
     EXPECT_EQ(editor_config->open_count, 3u);
     EXPECT_EQ(editor_config->size, EDITOR_CONFIG_SIZE + tail.size());
-    EXPECT_EQ(ReadU32(block + 516), EDITOR_CONFIG_SIZE + tail.size());
-    EXPECT_EQ(std::vector<u8>(block + EDITOR_CONFIG_SIZE, block + editor_config->size), tail);
-    EXPECT_STREQ(editor_config->last_path, before.last_path);
-    EXPECT_STREQ(editor_config->backup_path, before.backup_path);
-    EXPECT_EQ(editor_config->flags, before.flags);
+    EXPECT_EQ(std::string((const char *)editor_config + EDITOR_CONFIG_SIZE, tail.size()), tail);
+    EXPECT_EQ(memcmp(&before, editor_config, 516), 0) << "the block before the size is kept";
     EXPECT_EQ(config_resource->data, editor_config);
     EXPECT_EQ(config_resource->data_size, editor_config->size);
 
     // Stored again with the last page left out, the tail shrinks to two.
     StoreOpenDocuments(h.main_window, editor_config, pages[3]);
     EXPECT_EQ(editor_config->open_count, 2u);
-    EXPECT_EQ(editor_config->size, EDITOR_CONFIG_SIZE + 8 + files[0].size() + files[1].size() + 2);
-    EXPECT_STREQ((const char *)editor_config + EDITOR_CONFIG_SIZE + 4, files[0].c_str());
+    EXPECT_EQ(std::string((const char *)editor_config + EDITOR_CONFIG_SIZE, editor_config->size - EDITOR_CONFIG_SIZE),
+              TailOf({files[0], files[1]}));
 }
 
 // Exit with the four pages; the next start reopens the three with files, in order, and the last
@@ -193,32 +154,16 @@ static u32 TakeNothing(t_Handler *, u32, void *)
     return 0;
 }
 
-static std::vector<T_INPUT_EVENT> Keys(std::initializer_list<u16> keys)
+static T_INPUT_EVENT Event(u16 kind, u16 key, i16 x = 0, i16 y = 0)
 {
-    std::vector<T_INPUT_EVENT> events;
-    for (u16 key : keys) {
-        T_INPUT_EVENT event;
-        memset(&event, 0, sizeof(event));
-        event.kind = INPUT_KEY_DOWN;
-        event.key = key;
-        events.push_back(event);
-    }
-    return events;
-}
-
-static std::vector<T_INPUT_EVENT> Click(i16 x, i16 y)
-{
-    std::vector<T_INPUT_EVENT> events;
-    for (u16 kind : {INPUT_MOUSE_MOVE, INPUT_MOUSE_DOWN, INPUT_MOUSE_UP}) {
-        T_INPUT_EVENT event;
-        memset(&event, 0, sizeof(event));
-        event.kind = kind;
-        event.x = x;
-        event.y = y;
-        event.button = 1;
-        events.push_back(event);
-    }
-    return events;
+    T_INPUT_EVENT event;
+    memset(&event, 0, sizeof(event));
+    event.kind = kind;
+    event.key = key;
+    event.x = x;
+    event.y = y;
+    event.button = kind == INPUT_KEY_DOWN ? 0 : 1;
+    return event;
 }
 
 // Exit with a modified page, and Cancel in its query: the exit stops and the application runs on.
@@ -238,15 +183,17 @@ TEST_F(SessionEndTest, ExitWithAModifiedPageAndCancelKeepsRunning)
 
     NewHandler(&h.main_window->handlers, TakeNothing, ReactToTheScreen, "person", -20, sizeof(t_Handler),
                h.main_window);
+    const i16 x = (i16)(page->x + page->w - page->border_size - page->title_height / 2 - 1),
+              y = (i16)(page->y + page->border_size + page->title_height / 2);  // its close gadget
     reactions = {
-        {true, Keys({KEY_ESCAPE})},
-        {false, Click((i16)(page->x + page->w - page->border_size - page->title_height / 2 - 1),
-                      (i16)(page->y + page->border_size + page->title_height / 2))},
-        {true, Keys({KEY_TAB, KEY_RETURN})},
+        {true, {Event(INPUT_KEY_DOWN, KEY_ESCAPE)}},
+        {false, {Event(INPUT_MOUSE_MOVE, 0, x, y), Event(INPUT_MOUSE_DOWN, 0, x, y), Event(INPUT_MOUSE_UP, 0, x, y)}},
+        {true, {Event(INPUT_KEY_DOWN, KEY_TAB), Event(INPUT_KEY_DOWN, KEY_RETURN)}},
     };
-    StartWatchdog(20);
+    signal(SIGALRM, WatchdogFired);
+    alarm(20);
     SendWindowMessage(h.main_window, CMD_EXIT, ACT_MENU_PICK, NULL);
-    StopWatchdog();
+    alarm(0);
     UserTurns(1);
     EXPECT_TRUE(reactions.empty());
     EXPECT_FALSE(SessionEnded());
@@ -256,9 +203,9 @@ TEST_F(SessionEndTest, ExitWithAModifiedPageAndCancelKeepsRunning)
     EXPECT_TRUE(Pages().empty()) << "the second query was answered No";
     EXPECT_NE(editor_config, block_before);
 
-    i16 x, y;
-    ASSERT_TRUE(FindGadgetCentre(SETTINGS_TITLE, 50, &x, &y));
-    UserClick(x, y, 1);
+    i16 fx, fy;
+    ASSERT_TRUE(FindGadgetCentre(SETTINGS_TITLE, 50, &fx, &fy));
+    UserClick(fx, fy, 1);
     UserKey(KEY_END, 0);
     UserType("/kept");
     EXPECT_STREQ(editor_config->backup_path, "Backup/kept");

@@ -99,6 +99,16 @@ std::string MessageBoxTextOf(const char *title)
     return text ? text : "";
 }
 
+std::string TailOf(const std::vector<std::string> &paths)
+{
+    std::string tail;
+    for (const std::string &path : paths) {
+        u32 length = (u32)path.size() + 1;
+        tail.append((const char *)&length, 4).append(path.c_str(), length);
+    }
+    return tail;
+}
+
 bool WriteTextFile(const std::string &path, const std::string &text)
 {
     FILE *f = fopen(path.c_str(), "wb");

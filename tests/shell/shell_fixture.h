@@ -101,5 +101,7 @@ protected:
 
 // The text of a live message box of that title, or "" when there is none.
 std::string MessageBoxTextOf(const char *title);
+// The settings' tail for these paths: each a u32 length with its NUL, then the path with its NUL.
+std::string TailOf(const std::vector<std::string> &paths);
 // Writes a file of that text; false when it can't.
 bool WriteTextFile(const std::string &path, const std::string &text);
