@@ -69,3 +69,7 @@ void FreeListEntries(t_List *entries);
 void SaveSetGadgetList(t_Window *window, t_List *list);
 void RestoreGadgetList(t_Window *window);
 void SetComboScrollBars(t_gadget *combo);
+// Scrolls the combo that holds `gadget` (and the combos around that one) by the least move that
+// shows the gadget whole, as far as the combos' bars allow; one longer than the view shows its
+// start. A gadget outside any combo is left as it is.
+void ScrollComboToGadget(t_gadget *gadget);

@@ -5,7 +5,8 @@
 // through it and routed like any gadget. SetComboScrollBars measures them (content_w, content_h)
 // and shows a vertical and a horizontal scroll bar, as GADGET_FLAGS_VERTICAL and
 // GADGET_FLAGS_HORIZONTAL allow, where they don't fit. The bars are gadgets of the combo's own,
-// on no list. The combo itself reports nothing.
+// on no list. The combo itself reports nothing. ScrollComboToGadget brings a child into view when
+// the keyboard makes it the current gadget.
 #include "knobkit/knobkit_internal.h"
 
 #define CONTENT_MARGIN 4  // beyond the lowest and rightmost child
@@ -164,6 +165,35 @@ void SetComboScrollBars(t_gadget *combo) {
     PlaceComboGadget(combo);
 }
 
+// The offset that brings [at, at + length) inside [view_at, view_at + view_length) by the least
+// move; what is longer than the view shows its start.
+static i32 OffsetToShow(i32 offset, i32 at, i32 length, i32 view_at, i32 view_length) {
+    i32 shift = 0;
+    if (at + length > view_at + view_length) shift = at + length - (view_at + view_length);
+    if (at - shift < view_at) shift = at - view_at;
+    return offset + shift;
+}
+
+// Each combo from the gadget outwards scrolls to what must show of it: the gadget, or as much of
+// it as the inner combo shows.
+void ScrollComboToGadget(t_gadget *gadget) {
+    if (!gadget) return;
+    T_RPOS want = GadgetRect(gadget);
+    for (t_gadget *combo = gadget->parent_combo; combo; combo = combo->parent_combo) {
+        T_LIST_DATA *d = Data(combo);
+        if (!d) return;
+        T_RPOS view = ComboView(combo);
+        i32 top = d->top, top_x = d->top_x;
+        d->top = OffsetToShow(d->top, want.y, want.h, view.y, view.h);
+        d->top_x = OffsetToShow(d->top_x, want.x, want.w, view.x, view.w);
+        SyncBars(combo);
+        PlaceComboGadget(combo);
+        want.x = (i16)(want.x - (d->top_x - top_x));
+        want.y = (i16)(want.y - (d->top - top));
+        if (!RectIntersect(&want, &view)) want = GadgetRect(combo);
+    }
+}
+
 void SaveSetGadgetList(t_Window *window, t_List *list) {
     t_Gaget_Handler *gh = FindGadgetHandler(window);
     if (!gh || !list) {
@@ -218,7 +248,11 @@ void DrawComboGadget(t_gadget *g, int focused) {
         t_gadget *current = g->handler ? g->handler->current_gadget : NULL;
         for (t_gadget *c = (t_gadget *)d->entries.first; c->next; c = c->next) {
             T_RPOS cr = GadgetRect(c);
-            if ((c->live_flags & GADGET_FLAGS_NO_DISPLAY) || !RectIntersect(&cr, &view)) continue;
+            if (c->live_flags & GADGET_FLAGS_NO_DISPLAY) continue;
+            if (!RectIntersect(&cr, &view)) {  // scrolled away, a field still learns it was left
+                if (c->type == GADGET_TYPE_STRING) NoteStringFocus(c);
+                continue;
+            }
             GadgetTextFont(c);
             GadgetClass(c->type)->draw(c, dialog && current == c);
         }

@@ -155,7 +155,7 @@ static int HasFocus(t_gadget *g) {
 }
 
 // The focus left the field since its last paint: that is reported as ACT_LMOUSE_UP.
-static void NoteFocus(t_gadget *g) {
+void NoteStringFocus(t_gadget *g) {
     int current = g->handler && g->handler->current_gadget == g;
     if (current) {
         g->gadget_state |= GSTATE_FOCUS;
@@ -170,7 +170,7 @@ static void NoteFocus(t_gadget *g) {
 
 void DrawStringGadget(t_gadget *g, int focused) {
     (void)focused;  // the cursor shows the focus
-    NoteFocus(g);
+    NoteStringFocus(g);
     Sync(g);
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS r = GadgetRect(g);

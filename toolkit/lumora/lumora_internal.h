@@ -184,6 +184,9 @@ void DrawStringGadget(t_gadget *gadget, int focused);
 u32 StringMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
 u32 StringKey(t_gadget *gadget, u16 key, u16 qualifiers);
 void StringFree(t_gadget *gadget);
+// What a field's paint does first: a field left since it was last painted reports ACT_LMOUSE_UP.
+// An owner that doesn't paint a field (scrolled out of a combo's view) calls it in its stead.
+void NoteStringFocus(t_gadget *gadget);
 void DrawRadioGadget(t_gadget *gadget, int focused);
 u32 RadioMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
 u32 RadioKey(t_gadget *gadget, u16 key, u16 qualifiers);

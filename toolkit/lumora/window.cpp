@@ -309,15 +309,22 @@ void ResizeWindow(t_Window *window, T_RPOS *rect) {
 #define CONTENTS_MARGIN 8    // around the gadgets when a window is fitted to them
 #define CONTENTS_MIN_WIDTH 64
 
+// Gadgets placed from the right or the bottom stand in a band of their own beyond the others, so
+// that fitting the window never puts them over the rest (buttons in a dialog's corner).
 void ResizeWindowToContents(t_Window *window) {
     if (!IsWindowLive(window)) return;
-    i16 right = 0, bottom = 0;
+    i16 right = 0, bottom = 0, right_band = 0, bottom_band = 0;
     t_Gaget_Handler *gh = FindGadgetHandler(window);
     if (gh)
         for (t_gadget *g = gh->first_gadget; g->next; g = g->next) {
-            if (g->pos_x + g->base_width > right) right = g->pos_x + g->base_width;
-            if (g->pos_y + g->base_height > bottom) bottom = g->pos_y + g->base_height;
+            i16 x_extent = g->pos_x + g->base_width, y_extent = g->pos_y + g->base_height;
+            if (!(g->live_flags & GADGET_FLAGS_FROM_RIGHT) && x_extent > right) right = x_extent;
+            if ((g->live_flags & GADGET_FLAGS_FROM_RIGHT) && x_extent > right_band) right_band = x_extent;
+            if (!(g->live_flags & GADGET_FLAGS_FROM_BOTTOM) && y_extent > bottom) bottom = y_extent;
+            if ((g->live_flags & GADGET_FLAGS_FROM_BOTTOM) && y_extent > bottom_band) bottom_band = y_extent;
         }
+    if (right_band > right) right = right_band;
+    if (bottom_band) bottom = bottom + CONTENTS_MARGIN / 2 + bottom_band;
     i16 frame_w = window->w - window->user_w, frame_h = window->h - window->user_h;
     i16 w = right + CONTENTS_MARGIN + frame_w, h = bottom + CONTENTS_MARGIN + frame_h;
     if (w < CONTENTS_MIN_WIDTH) w = CONTENTS_MIN_WIDTH;
