@@ -3,6 +3,7 @@
 // and end of a drag, tab-order clicks) and the drag itself (GadgetDragMove). The painter does the
 // other half of the band and of a handle resize at each repaint.
 #include "editor/mouse_editing.h"
+#include "properties/gadget_properties.h"
 
 #include <string.h>
 
@@ -421,8 +422,8 @@ u32 GadgetEditAction(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg)
         return PressOnGadget(record, window, gadget, msg);
     case ACT_LMOUSE_UP:
         return ReleaseOnGadget(record, window, gadget, msg);
-    case ACT_LMOUSE_DBL:
-        // The gadget's properties dialog opens here, once it exists.
+    case ACT_LMOUSE_DBL:  // the press and release of the double click have run as usual
+        OpenGadgetProperties(window, gadget);
         return 0;
     default:  // the right button: the toolkit opens the gadget's context menu
         return 1;

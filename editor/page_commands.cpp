@@ -50,6 +50,12 @@ t_Window *FindGadgetPropertyWindow(t_Window *window, t_gadget *gadget)
     return NULL;
 }
 
+void CloseGadgetDialogs(t_Window *window, t_gadget *gadget)
+{
+    while (t_Window *dialog = FindGadgetPropertyWindow(window, gadget))
+        RemoveWindow(dialog);
+}
+
 void DeleteMarkedGadgets(t_Window *window)
 {
     MarkCurrentIfNothingMarked(window);
@@ -59,8 +65,7 @@ void DeleteMarkedGadgets(t_Window *window)
         for (t_gadget *g = handler->first_gadget; g->next;) {
             t_gadget *next = g->next;
             if (IsMarked(g)) {
-                if (t_Window *dialog = FindGadgetPropertyWindow(window, g))
-                    RemoveWindow(dialog);
+                CloseGadgetDialogs(window, g);
                 if (record)
                     ForgetGadgetInHistory(record, g);
                 RemoveObject(&handler->head, g);

@@ -25,6 +25,9 @@ void SameSizeMarkedGadgets(t_Window *window);
 void ApplyFontToMarked(t_Window *window, t_Window *selector);
 // The child window of the page that edits the gadget (its record begins with the gadget), or null.
 t_Window *FindGadgetPropertyWindow(t_Window *window, t_gadget *gadget);
+// Ends every dialog that edits the gadget (its properties, its action editors, their selectors)
+// without applying anything; their records go with their windows.
+void CloseGadgetDialogs(t_Window *window, t_gadget *gadget);
 // The gadget context menu's items 0xE004 to 0xE007: the operation with a geometry record for each
 // gadget it changed, the marks cleared, and the main window's menus refreshed.
 void ApplyGadgetMenuCommand(t_Window *window, u32 item_code);

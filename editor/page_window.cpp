@@ -7,6 +7,9 @@
 
 #include "editor/page_commands.h"
 #include "editor/page_painter.h"
+#include "properties/action_editor.h"
+#include "properties/gadget_properties.h"
+#include "properties/window_properties.h"
 #include "shell/main_window.h"
 #include "shell/menus.h"
 #include "shell/texts.h"
@@ -251,6 +254,16 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
         break;
     case PAGE_MENU_CHOOSE_FONT:
         OpenFontSelector(window);
+        break;
+    case GADGET_MENU_PROPERTIES:  // the current gadget's dialog
+        if (t_gadget *gadget = GetCurrentGadget(window))
+            OpenGadgetProperties(window, gadget);
+        break;
+    case PAGE_MENU_WINDOW_PROPERTIES:
+        OpenWindowProperties(window);
+        break;
+    case PAGE_MENU_ACTIONS:  // the current gadget's actions; nothing without one
+        OpenActionEditor(window);
         break;
     case PAGE_MENU_DELETE:  // the marked gadgets, or the current one
         DeleteMarkedGadgets(window);

@@ -12,6 +12,8 @@
 //   later gadget that happens to get the same address is never taken for it.
 #include "editor/undo_records.h"
 
+#include "editor/page_commands.h"
+
 #include <string.h>
 
 #include "page/catalogue.h"
@@ -93,6 +95,7 @@ void UndoCreateGadget(void *block)
         return;
     t_Gaget_Handler *handler = FindGadgetHandler(data->window);
     ForgetInPage(data->window, gadget);
+    CloseGadgetDialogs(data->window, gadget);
     RemoveGadget(gadget, handler);
     SubNode((t_Node *)gadget);
     FreeGadget(gadget);

@@ -13,7 +13,8 @@ typedef struct T_SCRIPT_WORD {
     const char *word;
     u16 verb;
     u16 numbers;  // how many numbers follow
-    u16 text;     // 1: a text follows (the rest of the line); 2: a quoted name, then a number
+    u16 text;     // 1: a text follows (the rest of the line); 2: a quoted name, then a number;
+                  // 3: a quoted name; 4: a quoted name, then a text
 } T_SCRIPT_WORD;
 
 //  word               verb                   numbers text
@@ -34,6 +35,7 @@ static const T_SCRIPT_WORD script_words[] = {
     {"expect-window", SCRIPT_EXPECT_WINDOW, 0, 3},
     {"expect-no-window", SCRIPT_EXPECT_NO_WINDOW, 0, 3},
     {"expect-window-at", SCRIPT_EXPECT_WINDOW_AT, 2, 3},
+    {"expect-file-has", SCRIPT_EXPECT_FILE_HAS, 0, 4},
 };
 
 // Reads a whole number; false when the text holds none.
@@ -66,6 +68,17 @@ static int ReadQuoted(const char **at, char *name, size_t size)
     return 1;
 }
 
+// Reads the rest of the line, after blanks, into `text`; false when nothing (or too much) is left.
+static int ReadRest(const char *at, char *text, size_t size)
+{
+    while (*at == ' ' || *at == '\t')
+        at++;
+    if (!*at || strlen(at) >= size)
+        return 0;
+    snprintf(text, size, "%s", at);
+    return 1;
+}
+
 static int AtEnd(const char *at)
 {
     while (*at == ' ' || *at == '\t')
@@ -88,19 +101,18 @@ static int ParseLine(T_SCRIPT_STEP *step, const char *line)
         if (strcmp(word, w.word) != 0)
             continue;
         step->verb = w.verb;
-        if (w.text == 2 || w.text == 3) {
+        if (w.text >= 2) {
             if (!ReadQuoted(&at, step->text, sizeof(step->text)))
                 return 0;
         }
         for (u16 i = 0; i < w.numbers; i++)
             if (!ReadNumber(&at, &step->numbers[i]))
                 return 0;
+        if (w.text == 4)
+            return ReadRest(at, step->detail, sizeof(step->detail));
         if (w.text == 1) {
-            while (*at == ' ' || *at == '\t')
-                at++;
-            if (!*at || strlen(at) >= sizeof(step->text))
+            if (!ReadRest(at, step->text, sizeof(step->text)))
                 return 0;
-            snprintf(step->text, sizeof(step->text), "%s", at);
             if (w.verb == SCRIPT_KEY)
                 return ParseKeyName(step->text, &step->key, &step->qualifiers);
             return 1;
@@ -263,6 +275,19 @@ static int PlayStep(const T_SCRIPT_STEP *step, char *error, size_t size)
             return 1;
         snprintf(error, size, "a window \"%.300s\" is still open", step->text);
         return 0;
+    case SCRIPT_EXPECT_FILE_HAS: {
+        char *data = (char *)LoadFile(step->text);
+        u32 length = data ? GetLoadFileSize() : 0;
+        int found = data && memmem(data, length, step->detail, strlen(step->detail)) != NULL;
+        FreeMem(data, length);
+        if (found)
+            return 1;
+        if (data)
+            snprintf(error, size, "the file %.150s doesn't hold \"%.150s\"", step->text, step->detail);
+        else
+            snprintf(error, size, "the file %.200s can't be read", step->text);
+        return 0;
+    }
     }
     return 0;
 }

@@ -19,6 +19,7 @@ typedef enum {
     SCRIPT_EXPECT_WINDOW,
     SCRIPT_EXPECT_NO_WINDOW,
     SCRIPT_EXPECT_WINDOW_AT,
+    SCRIPT_EXPECT_FILE_HAS,
 } T_SCRIPT_VERB;
 
 typedef struct T_SCRIPT_STEP {
@@ -27,6 +28,7 @@ typedef struct T_SCRIPT_STEP {
     i32 numbers[4];
     u16 key, qualifiers;
     char text[512];  // typed text, a file name, or a window's name
+    char detail[512];  // what follows a quoted file name: the text it must hold
 } T_SCRIPT_STEP;
 
 typedef struct T_SCRIPT {

@@ -205,6 +205,10 @@ int FindGadgetCentre(const char *window_name, u32 item_code, i16 *x, i16 *y)
     t_gadget *gadget = FindGadgetByItemCode(window, item_code);
     if (!gadget)
         return 0;
+    if (gadget->parent_combo) {  // a person scrolls a control in a combo into view before clicking it
+        ScrollComboToGadget(gadget);
+        UserTurns(1);
+    }
     *x = (i16)(gadget->screen_x + gadget->base_width / 2);
     *y = (i16)(gadget->screen_y + gadget->base_height / 2);
     return 1;

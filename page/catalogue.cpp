@@ -90,6 +90,14 @@ static void FreeStringBuffers(void *any, t_gadget *gadget)
     gadget->user_data = NULL;
 }
 
+u32 DesignActionOfType(u16 type)
+{
+    for (const T_TOOL_ROW &row : tool_rows)
+        if (row.type == type && row.object_text)
+            return row.no_item_code ? 0 : DESIGN_ACTION;
+    return DESIGN_ACTION;
+}
+
 u32 NextFreeItemCode(t_gadget *first)
 {
     // The codes in use below the count of gadgets + 1 decide; one pass marks them.

@@ -22,5 +22,7 @@ typedef struct T_GADGET_TOOL_ARGS {
 
 // The new gadget, or null for a tool outside 1 to 17.
 t_gadget *CreateGadgetByTool(t_Window *window, i16 tool, T_GADGETOBJECTINIT *init);
+// The action mask a new gadget of this type starts with: what a finished program's gadget reports.
+u32 DesignActionOfType(u16 type);
 // The smallest positive item code that no gadget of the list has; 1 for an empty list.
 u32 NextFreeItemCode(t_gadget *first);

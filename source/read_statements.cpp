@@ -270,6 +270,8 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
         SetGadgetColours(gadget, block.colours[0], block.colours[1]);
     gadget->action = gadget_init.action;
     gadget->item_code = gadget_init.item_code;
+    if (gadget->live_flags & GADGET_FLAGS_ICON)  // the icon chosen in the gadget's bank
+        gadget->icon = gadget_init.icon;
     // The font stays from block to block, as the writer's optimised form counts on.
     switch (gadget->type) {
     case GADGET_TYPE_BUTTON:

@@ -151,6 +151,13 @@ void SaveGadget(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
         previous->cursor = (u8)gadget->cursor;
     }
 
+    // The icon in the gadget's bank counts only with the Icon flag: written then, like the cursor.
+    if (gadget->live_flags & GADGET_FLAGS_ICON) {
+        if (full || gadget->icon != previous->icon)
+            SaveDecimal(SRC_GAD_ICON, gadget->icon);
+        previous->icon = gadget->icon;
+    }
+
     SaveTypeStatements(gadget, previous, full);
 
     SavePrint(SRC_GAD_CREATE);

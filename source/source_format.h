@@ -91,6 +91,7 @@
 #define SRC_GAD_FONT "\tgadinit.font=\""
 #define SRC_GAD_FONT_NULL "\tgadinit.font=NULL;\n"
 #define SRC_GAD_CURSOR "\tgadinit.cursor="
+#define SRC_GAD_ICON "\tgadinit.icon="
 #define SRC_GAD_MIN "\tgadinit.min="
 #define SRC_GAD_MAX "\tgadinit.max="
 #define SRC_GAD_STEP "\tgadinit.step="

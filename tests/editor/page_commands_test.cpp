@@ -149,8 +149,9 @@ TEST_F(CommandTest, AlignAndSameSizeFollowTheCurrentGadget)
         EXPECT_EQ(Geom(reference), (T_GEOM{50, 30, 90, 30}));
         EXPECT_EQ(Marked(a), operation == 3);
         EXPECT_EQ(Modified(), operation < 3);
-        if (operation == 3)
+        if (operation == 3) {
             EXPECT_EQ(Geom(a), a_was);
+        }
         for (t_gadget *g : {a, b}) {
             EXPECT_EQ(g->pos_x == 50, operation == 0);
             EXPECT_EQ(g->pos_y == 30, operation == 1);

@@ -32,7 +32,7 @@ int main(int argc, char **argv)
     } else {
         snprintf(root, sizeof(root), "%s", argv[1]);
     }
-    if (!OpenToolkit("headless", 1280, 800, root)) {
+    if (!OpenToolkit("headless", RUN_PAGE_SCREEN_W, RUN_PAGE_SCREEN_H, root)) {
         fprintf(stderr, "run_page: the toolkit could not be opened in %s\n", root);
         return 2;
     }
@@ -51,7 +51,8 @@ int main(int argc, char **argv)
         if (gh)
             for (T_GADGET *g = gh->first_gadget; g->next; g = g->next)
                 puts(DescribeGadget(line, g->type, g->pos_x, g->pos_y, g->base_width, g->base_height,
-                                    g->live_item_code, g->flags, g->back_colour, g->text_colour));
+                                    g->live_item_code, g->flags, g->back_colour, g->text_colour, g->live_action,
+                                    g->icon));
         // The window is found again by name once the toolkit has freed what was removed.
         char name[256];
         snprintf(name, sizeof(name), "%s", win->name);

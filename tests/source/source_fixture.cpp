@@ -142,6 +142,11 @@ std::vector<t_gadget *> SourceTest::Gadgets(t_Window *window)
 
 void SourceTest::ExpectGolden(const std::string &text, const char *name, int may_regenerate)
 {
+    ExpectGoldenFile(text, name, may_regenerate);
+}
+
+void ExpectGoldenFile(const std::string &text, const char *name, int may_regenerate)
+{
     std::string path = std::string(QF_SOURCE_DIR) + "/tests/golden/" + name;
     const char *regenerate = getenv("QF_REGENERATE_GOLDEN");
     if (may_regenerate && regenerate && strcmp(regenerate, "1") == 0) {

@@ -64,6 +64,9 @@ protected:
     T_EDITOR_CONFIG *saved_config;
 };
 
+// Compares `text` with tests/golden/<name>, or rewrites that file when QF_REGENERATE_GOLDEN=1 and
+// `may_regenerate`.
+void ExpectGoldenFile(const std::string &text, const char *name, int may_regenerate);
 std::string ReadWholeFile(const std::string &path);  // "" when it can't be read
 void WriteWholeFile(const std::string &path, const std::string &data);
 // The lines of `text` that contain `word`, without their line feed.

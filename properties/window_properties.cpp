@@ -1,0 +1,297 @@
+// The window properties dialog. A combo of check boxes, one per window flag that a page can
+// switch, then the page's name, "Set Idcmp" and "Source file...". Every change goes to the page
+// at once, so the page itself is the preview; nothing is undone. The dialog keeps no record: the
+// page record holds its combo, and its place is kept in the settings when the close gadget ends it.
+#include "properties/window_properties.h"
+
+#include "properties/dialog_support.h"
+#include "properties/message_control.h"
+#include "properties/source_file_info.h"
+#include "properties/texts.h"
+
+// The first place and size, before it is fitted to its contents.
+static const T_DIALOG_FRAME window_frame = {
+    TXT_WINDOW_PROPERTIES, 32, 32, 32, 32, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
+    IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN,  // 0x414
+    0, WindowPropertiesMsg};
+#define COMBO_FLAGS (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_SOLID | \
+                     GADGET_FLAGS_REPORT_DRAG)  // 0xC28
+#define COMBO_WIDTH 170
+#define COMBO_HEIGHT 96
+#define BOX_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DBL)
+#define NAME_MAX 127
+#define BUTTON_WIDTH 80
+
+// What a box brings along after its bit changed.
+enum { AFTER_NOTHING, AFTER_BACKDROP, AFTER_RECALC, AFTER_TITLE_BAR, AFTER_BORDER };
+
+typedef struct T_WINDOW_BOX {
+    u32 item_code;
+    const char *text;
+    i16 x;
+    u32 bit;
+    u8 after;
+} T_WINDOW_BOX;
+
+// In list order: the enable rule counts the boxes after "Border" and "Title Bar".
+//  item code text                     x   bit                   after the change
+static const T_WINDOW_BOX window_boxes[] = {
+    {2, "Window as Backdrop", 4, WF_BACKDROP, AFTER_BACKDROP},
+    {5, "Open FullScreen", 4, WF_OPEN_FULLSCREEN, AFTER_NOTHING},  // the saved source carries it
+    {12, "Title Bar", 4, WF_TITLE, AFTER_TITLE_BAR},
+    {6, "Minimise Gadget", 12, WF_MINIMISE, AFTER_RECALC},
+    {7, "Maximise Gadget", 12, WF_MAXIMISE, AFTER_RECALC},
+    {8, "Close Gadget", 12, WF_CLOSE, AFTER_RECALC},
+    {13, "Move Allowed", 12, WF_MOVE, AFTER_NOTHING},
+    {14, "Always in front", 12, WF_IN_FRONT, AFTER_NOTHING},
+    {15, "Let user modify", 20, WF_IN_FRONT_MODIFY, AFTER_RECALC},
+    {10, "Border", 4, WF_BORDER, AFTER_BORDER},
+    {11, "Resize allowed", 12, WF_RESIZE, AFTER_NOTHING},
+    {16, "AltF4 Closes window", 4, WF_ALTF4, AFTER_NOTHING},
+    {17, "Clear ZBuffer", 4, WF_CLEAR_ZBUFFER, AFTER_NOTHING},
+    {18, "See through", 4, WF_SEETHROUGH, AFTER_RECALC},
+    {19, "No background", 4, WF_NO_BACK, AFTER_RECALC},
+};
+
+#define BORDER_FOLLOWERS 1     // "Resize allowed"
+#define TITLE_BAR_FOLLOWERS 6  // "Minimise Gadget" to "Let user modify"
+
+static const T_WINDOW_BOX *FindBox(u32 item_code)
+{
+    for (const T_WINDOW_BOX &box : window_boxes)
+        if (box.item_code == item_code)
+            return &box;
+    return NULL;
+}
+
+u32 WindowBoxBit(u32 item_code)
+{
+    const T_WINDOW_BOX *box = FindBox(item_code);
+    return box ? box->bit : 0;
+}
+
+static T_WINEDIT_HANDLER *PageOf(t_Window *dialog)
+{
+    t_Window *page = dialog->parent;
+    return page && IsPageWindow(page) ? (T_WINEDIT_HANDLER *)page->user_data : NULL;
+}
+
+// Greys (or not) the `count` boxes after `box` in the combo.
+static void GreyFollowers(t_gadget *box, int count, int grey)
+{
+    for (t_gadget *g = box ? box->next : NULL; g && g->next && count > 0; g = g->next, count--) {
+        g->live_flags &= ~GADGET_FLAGS_DISABLED;
+        if (grey)
+            g->live_flags |= GADGET_FLAGS_DISABLED;
+    }
+}
+
+void UpdateFrameBoxes(t_Window *dialog)
+{
+    t_gadget *border = FindGadgetByItemCode(dialog, WINPROP_ITEM_BORDER);
+    t_gadget *title = FindGadgetByItemCode(dialog, WINPROP_ITEM_TITLE_BAR);
+    GreyFollowers(border, BORDER_FOLLOWERS, border && !border->class_data);
+    GreyFollowers(title, TITLE_BAR_FOLLOWERS, title && !title->class_data);
+}
+
+static t_gadget *AddGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
+                           i16 width, i16 height, u32 flags, u32 action)
+{
+    T_GADGETOBJECTINIT init = {};
+    init.type = type;
+    init.item_code = item_code;
+    init.x = x;
+    init.y = y;
+    init.base_width = width;
+    init.base_height = height;
+    init.flags = flags;
+    init.action = action;
+    return (t_gadget *)CreateObject(&handler->head, text, &init);
+}
+
+t_Window *OpenWindowProperties(t_Window *page)
+{
+    T_WINEDIT_HANDLER *page_record = page && IsPageWindow(page) ? (T_WINEDIT_HANDLER *)page->user_data : NULL;
+    if (!page_record)
+        return NULL;
+    t_Window *window = OpenDialogWindow(page, &window_frame, page->icon_bank);
+    if (!window)
+        return NULL;
+    window->title_suffix = page->name;
+    window->icon_bank = NULL;
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    i16 row_h = DialogRowHeight();
+
+    T_GADGETOBJECTINIT init = {};
+    init.type = GADGET_TYPE_COMBO;
+    init.item_code = WINPROP_ITEM_COMBO;
+    init.x = 12;
+    init.y = (i16)(row_h + 12);
+    init.base_width = COMBO_WIDTH;
+    init.base_height = COMBO_HEIGHT;
+    init.flags = COMBO_FLAGS;
+    init.action = ACT_LMOUSE_UP;
+    init.icon_bank = DISPLAY_RECORD->icon_bank;
+    page_record->win_combo = CreateObject(&handler->head, "Combo", &init);
+    page_record->win_combo_first = FindGadgetByItemCode(window, WINPROP_ITEM_COMBO);
+    if (page_record->win_combo && page_record->win_combo_first) {
+        SaveSetGadgetList(window, (t_List *)page_record->win_combo);
+        i16 y = 4;
+        for (const T_WINDOW_BOX &box : window_boxes) {
+            init = T_GADGETOBJECTINIT{};
+            init.type = GADGET_TYPE_CHECK_BOX;
+            init.item_code = box.item_code;
+            init.x = box.x;
+            init.y = y;
+            init.flags = (box.item_code == 2 || box.item_code == 5) ? GADGET_FLAGS_AUTOSIZE : 0;
+            init.action = BOX_ACTION;
+            init.init_val = (i32)(page->flags & box.bit);
+            CreateObject(&handler->head, box.text, &init);
+            y = (i16)(y + row_h);
+        }
+        UpdateFrameBoxes(window);
+        RestoreGadgetList(window);
+    }
+
+    AddGadget(handler, TXT_WINDOW_FLAGS, GADGET_TYPE_TEXT, 0, 8, 8, 0, 0, GADGET_FLAGS_BOLD | GADGET_FLAGS_AUTOSIZE,
+              BOX_ACTION);
+    AddGadget(handler, TXT_WINDOW_NAME, GADGET_TYPE_TEXT, 0, 4, (i16)(row_h + 112), 0, 0, GADGET_FLAGS_BOLD, BOX_ACTION);
+    init = T_GADGETOBJECTINIT{};
+    init.type = GADGET_TYPE_STRING;
+    init.item_code = WINPROP_ITEM_NAME;
+    init.x = 4;
+    init.y = (i16)(2 * row_h + 116);
+    init.base_width = 160;
+    init.max = NAME_MAX;
+    init.data = page_record->page_name;  // in place: the title and the undo list follow each key
+    init.action = BOX_ACTION;
+    CreateObject(&handler->head, "Window name string", &init);
+    // The two buttons are at least 80 wide, and as wide as their text.
+    t_gadget *buttons[2] = {
+        AddGadget(handler, TXT_SET_IDCMP, GADGET_TYPE_BUTTON, WINPROP_ITEM_SET_IDCMP, 4, (i16)(3 * row_h + 120), 0,
+                  row_h, GADGET_FLAGS_AUTOSIZE, ACT_LMOUSE_UP),
+        AddGadget(handler, TXT_SOURCE_FILE, GADGET_TYPE_BUTTON, WINPROP_ITEM_SOURCE_FILE, 4, (i16)(4 * row_h + 124), 0,
+                  row_h, GADGET_FLAGS_AUTOSIZE | (page_record->saved ? 0 : GADGET_FLAGS_DISABLED), ACT_LMOUSE_UP)};
+    for (t_gadget *button : buttons)
+        if (button && button->base_width < BUTTON_WIDTH)
+            button->base_width = button->pos_width = BUTTON_WIDTH;
+    handler->current_gadget = NULL;
+
+    ResizeWindowToContents(window);
+    if (editor_config->win_dialog_rect.w != 0)  // it comes back where it was closed
+        PlaceDialog(window, &editor_config->win_dialog_rect);
+    KeepDialogInView(window);
+    return window;
+}
+
+// "Border": a new border handler and the display's border size, or neither.
+static void SwitchBorder(t_Window *page, T_WINEDIT_HANDLER *record, int on)
+{
+    if (on) {
+        if (record->border)  // it has one already
+            return;
+        page->border_size = DISPLAY_RECORD->border_size;
+        record->border = NewBorderHandler(page);
+        page->flags |= WF_BORDER;
+    } else {
+        if (record->border)
+            DelHandler(record->border);
+        record->border = NULL;
+        page->flags &= ~WF_BORDER;
+        page->border_size = 0;
+    }
+    RecalcUserSize(page);
+}
+
+// "Title Bar": a new title bar handler, or none.
+static void SwitchTitleBar(t_Window *page, T_WINEDIT_HANDLER *record, int on)
+{
+    if (on) {
+        if (record->titlebar && (page->flags & WF_TITLE))
+            return;
+        record->titlebar = NewTitleBarHandler(page);
+        page->flags |= WF_TITLE;
+    } else {
+        if (record->titlebar)
+            DelHandler(record->titlebar);
+        record->titlebar = NULL;
+        page->flags &= ~WF_TITLE;
+    }
+    RecalcUserSize(page);
+}
+
+// A box changed: the page is marked, its bit follows the box, and what the bit brings along.
+static void BoxChanged(t_Window *dialog, const T_WINDOW_BOX *box, t_gadget *gadget)
+{
+    t_Window *page = dialog->parent;
+    T_WINEDIT_HANDLER *record = PageOf(dialog);
+    if (!record || !gadget)
+        return;
+    int on = gadget->class_data != 0;
+    page->state_flags |= WSF_MODIFIED;
+    switch (box->after) {
+    case AFTER_BORDER:
+        UpdateFrameBoxes(dialog);
+        SwitchBorder(page, record, on);
+        return;
+    case AFTER_TITLE_BAR:
+        UpdateFrameBoxes(dialog);
+        SwitchTitleBar(page, record, on);
+        return;
+    default:
+        break;
+    }
+    page->flags &= ~box->bit;
+    if (on)
+        page->flags |= box->bit;
+    if (box->after == AFTER_BACKDROP && on)
+        WindowToBack(page);
+    else if (box->after == AFTER_RECALC)
+        RecalcUserSize(page);
+}
+
+// The name field being typed in when the dialog closes reports first, as leaving it would have.
+static void ReportOpenNameField(t_Window *window)
+{
+    t_gadget *current = GetCurrentGadget(window);
+    if (current && current->live_item_code == WINPROP_ITEM_NAME)
+        window->parent->state_flags |= WSF_MODIFIED;
+}
+
+u32 WindowPropertiesMsg(t_Window *window, u32 item_code, u32 msg, void *data)
+{
+    t_Window *page = window->parent;
+    switch (msg) {
+    case ACT_TERMINATE:  // the close gadget: the place is kept for the next opening
+        ReportOpenNameField(window);
+        DialogRectOf(window, &editor_config->win_dialog_rect);
+        RemoveWindow(window);
+        return 0;
+    case ACT_KEY:  // Escape closes without keeping the place
+        if (item_code == KEY_ESCAPE) {
+            ReportOpenNameField(window);
+            RemoveWindow(window);
+        }
+        return 0;
+    case ACT_FIRSTTIME_RUN:
+        if (T_WINEDIT_HANDLER *record = PageOf(window))
+            SetComboScrollBars(record->win_combo_first);
+        return 0;
+    default:
+        switch (item_code) {
+        case WINPROP_ITEM_NAME:  // the name is edited in place: the page is changed
+            page->state_flags |= WSF_MODIFIED;
+            return 0;
+        case WINPROP_ITEM_SET_IDCMP:
+            OpenMessageControl(page);
+            return 0;
+        case WINPROP_ITEM_SOURCE_FILE:
+            OpenSourceFileInfo(page);
+            return 0;
+        default:
+            if (const T_WINDOW_BOX *box = FindBox(item_code))
+                BoxChanged(window, box, (t_gadget *)data);
+            return 0;
+        }
+    }
+}
