@@ -87,6 +87,48 @@ TEST_F(PropertiesTest, APersonRenamesAButtonAndEscapeApplies)
     EXPECT_STREQ(button->hover_text, "Sends the name");
     EXPECT_TRUE(Modified());
     CHECK_PAGE();
+    // The saved file carries each change.
+    std::string path = std::string(harness.root) + "/login.cpp";
+    SavePage(page, path.c_str());
+    char *text = (char *)LoadFile(path.c_str());
+    ASSERT_NE(text, nullptr);
+    std::string saved(text, GetLoadFileSize());
+    FreeMem(text, GetLoadFileSize());
+    for (const char *line : {"\tgad=CreateGadget(\"Log in\");\n", "\tgadinit.item_code=0x2a;\n",
+                             "\tgadinit.flags=GADGET_FLAGS_DISABLED;\n", "\tgadinit.hover_text=\"Sends the name\";\n"})
+        EXPECT_NE(saved.find(line), std::string::npos) << line;
+}
+
+// Texts at their limits and no texts: a page name of 127 characters, a hover text of 255 from a
+// file, an empty page name; each is kept and saved, and nothing breaks.
+TEST_F(PropertiesTest, TextsAtTheirLimits)
+{
+    t_gadget *button = Make(TOOL_BUTTON, 20, 20, 100, 24);
+    std::string hover(255, 'x');
+    SetGadgetHover(button, hover.c_str());
+    OpenGadgetProperties(page, button);
+    SendWindowMessage(Dialog(TXT_GADGET_PROPERTIES), 0, ACT_TERMINATE, NULL);
+    EXPECT_EQ(std::string(button->hover_text), hover);
+    struct {
+        std::string name;
+    } const cases[] = {{std::string(127, 'N')}, {""}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name.size());
+        t_Window *dialog = OpenWindowProperties(page);
+        TypeInto(Control(dialog, WINPROP_ITEM_NAME), c.name.empty() ? "x" : c.name.c_str());
+        if (c.name.empty())
+            UserKey(KEY_BACKSPACE, 0);
+        UserKey(KEY_RETURN, 0);
+        EXPECT_EQ(std::string(page->name), c.name);
+        SendWindowMessage(dialog, 0, ACT_TERMINATE, NULL);
+        std::string path = std::string(harness.root) + "/limits.cpp";
+        SavePage(page, path.c_str());
+        char *text = (char *)LoadFile(path.c_str());
+        ASSERT_NE(text, nullptr);
+        std::string saved(text, GetLoadFileSize());
+        FreeMem(text, GetLoadFileSize());
+        EXPECT_NE(saved.find("win=ICreateWindow(\"" + c.name + "\");"), std::string::npos);
+    }
 }
 
 // Text colour and background colour through the selector's answers; Cancel goes back to the

@@ -71,5 +71,6 @@ void RestoreGadgetList(t_Window *window);
 void SetComboScrollBars(t_gadget *combo);
 // Scrolls the combo that holds `gadget` (and the combos around that one) by the least move that
 // shows the gadget whole, as far as the combos' bars allow; one longer than the view shows its
-// start. A gadget outside any combo is left as it is.
+// start. Across, a gadget whose start shows is left where it is. A gadget outside any combo is
+// left as it is.
 void ScrollComboToGadget(t_gadget *gadget);

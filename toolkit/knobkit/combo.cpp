@@ -175,7 +175,7 @@ static i32 OffsetToShow(i32 offset, i32 at, i32 length, i32 view_at, i32 view_le
 }
 
 // Each combo from the gadget outwards scrolls to what must show of it: the gadget, or as much of
-// it as the inner combo shows.
+// it as the inner combo shows; across, only when its start is out of sight.
 void ScrollComboToGadget(t_gadget *gadget) {
     if (!gadget) return;
     T_RPOS want = GadgetRect(gadget);
@@ -185,7 +185,10 @@ void ScrollComboToGadget(t_gadget *gadget) {
         T_RPOS view = ComboView(combo);
         i32 top = d->top, top_x = d->top_x;
         d->top = OffsetToShow(d->top, want.y, want.h, view.y, view.h);
-        d->top_x = OffsetToShow(d->top_x, want.x, want.w, view.x, view.w);
+        // Across, a gadget whose start shows stays put: a row reads from its label on the left,
+        // which a scroll to show the gadget's far end would hide.
+        if (want.x < view.x || want.x >= view.x + view.w)
+            d->top_x = OffsetToShow(d->top_x, want.x, want.w, view.x, view.w);
         SyncBars(combo);
         PlaceComboGadget(combo);
         want.x = (i16)(want.x - (d->top_x - top_x));
