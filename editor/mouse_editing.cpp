@@ -290,6 +290,8 @@ static void ReleasePageRecord(T_WINEDIT_HANDLER *record)
     FreeString(&record->head_line);
     FreeString(&record->file_name);
     EmptyUndoList(&record->undo);
+    FreeItemCodes(&record->item_codes);
+    record->item_codes_valid = 0;
 }
 
 u32 PageInput(t_Handler *handler, u32 event, void *data)

@@ -66,6 +66,7 @@ void DeleteMarkedGadgets(t_Window *window)
             t_gadget *next = g->next;
             if (IsMarked(g)) {
                 CloseGadgetDialogs(window, g);
+                ForgetGadgetItemCode(window, g);
                 if (record)
                     ForgetGadgetInHistory(record, g);
                 RemoveObject(&handler->head, g);

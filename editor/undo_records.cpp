@@ -96,6 +96,7 @@ void UndoCreateGadget(void *block)
     t_Gaget_Handler *handler = FindGadgetHandler(data->window);
     ForgetInPage(data->window, gadget);
     CloseGadgetDialogs(data->window, gadget);
+    ForgetGadgetItemCode(data->window, gadget);
     RemoveGadget(gadget, handler);
     SubNode((t_Node *)gadget);
     FreeGadget(gadget);

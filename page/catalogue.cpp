@@ -280,9 +280,11 @@ t_gadget *CreateGadgetByTool(t_Window *window, i16 tool, T_GADGETOBJECTINIT *cal
         gadget->live_flags &= ~GADGET_FLAGS_PASSIVE;
 
     // Step 9: the design fields.
-    t_gadget *first = args.gadget_handler->first_gadget;
+    // The new gadget enters the page's set of codes with 0, which counts for no code.
     gadget->item_code = 0;
-    gadget->item_code = row->no_item_code ? 0 : NextFreeItemCode(first);
+    AddGadgetItemCode(window, gadget);
+    if (!row->no_item_code)
+        SetGadgetItemCode(window, gadget, NextFreeItemCodeOf(window));
     gadget->action = row->no_item_code ? 0 : DESIGN_ACTION;
     switch (row->type) {
     case GADGET_TYPE_SLIDER:

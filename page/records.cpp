@@ -3,6 +3,8 @@
 
 #include <string.h>
 
+#include "page/catalogue.h"
+
 T_EDITOR_CONFIG *editor_config;
 T_RESOURCE *config_resource;
 t_Menu gadget_context_menu;
@@ -37,4 +39,57 @@ t_gadget *FindGadgetByCode(t_Window *window, u32 code)
         if (((t_gadget *)n)->item_code == code)
             return (t_gadget *)n;
     return NULL;
+}
+
+// The page's set of item codes, built from its gadgets when it isn't kept.
+static T_ITEM_CODES *PageItemCodes(t_Window *window)
+{
+    if (!IsPageWindow(window))
+        return NULL;
+    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    if (record->item_codes_valid)
+        return &record->item_codes;
+    FreeItemCodes(&record->item_codes);
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    for (t_gadget *g = handler ? handler->first_gadget : NULL; g && g->next; g = g->next)
+        if (!AddItemCode(&record->item_codes, g->item_code))
+            return NULL;
+    record->item_codes_valid = 1;
+    return &record->item_codes;
+}
+
+// A set that lost a change (no memory) is built again at its next use.
+static void NoteCode(t_Window *window, T_ITEM_CODES *codes, u32 code)
+{
+    if (codes && !AddItemCode(codes, code))
+        ((T_WINEDIT_HANDLER *)window->user_data)->item_codes_valid = 0;
+}
+
+void SetGadgetItemCode(t_Window *window, t_gadget *gadget, u32 code)
+{
+    T_ITEM_CODES *codes = PageItemCodes(window);
+    if (codes)
+        RemoveItemCode(codes, gadget->item_code);
+    gadget->item_code = code;
+    NoteCode(window, codes, code);
+}
+
+void AddGadgetItemCode(t_Window *window, t_gadget *gadget)
+{
+    if (IsPageWindow(window) && ((T_WINEDIT_HANDLER *)window->user_data)->item_codes_valid)
+        NoteCode(window, &((T_WINEDIT_HANDLER *)window->user_data)->item_codes, gadget->item_code);
+}
+
+void ForgetGadgetItemCode(t_Window *window, t_gadget *gadget)
+{
+    if (IsPageWindow(window) && ((T_WINEDIT_HANDLER *)window->user_data)->item_codes_valid)
+        RemoveItemCode(&((T_WINEDIT_HANDLER *)window->user_data)->item_codes, gadget->item_code);
+}
+
+u32 NextFreeItemCodeOf(t_Window *window)
+{
+    if (T_ITEM_CODES *codes = PageItemCodes(window))
+        return LowestFreeItemCode(codes);
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    return handler ? NextFreeItemCode(handler->first_gadget) : 1;
 }

@@ -1,5 +1,6 @@
 // The module's own records (main window, page, settings) and the few helpers that read them.
 #pragma once
+#include "page/item_codes.h"
 #include "toolkit.h"
 
 // The main window's handler, named "WinEditMain", reached through the window's user_data.
@@ -45,6 +46,8 @@ typedef struct T_WINEDIT_HANDLER {
     void *msg_combo;
     t_gadget *win_combo_first;
     void *win_combo;
+    T_ITEM_CODES item_codes;  // the codes of the page's gadgets; see SetGadgetItemCode
+    u16 item_codes_valid;     // 0: built again from the gadgets at the next use
 } T_WINEDIT_HANDLER;
 
 #define EDIT_TAB_ORDER 2
@@ -86,6 +89,16 @@ int IsPageWindow(t_Window *window);
 // Walks the list from its first node, clearing each drag mark; false at the first selected
 // gadget, true at the tail. Null gives false.
 int NothingMarked(t_gadget *gadget);
+// The page's item codes are kept in a counted set, so that a new gadget's code costs no walk. Every
+// change of a page gadget's `item_code` goes through SetGadgetItemCode; a gadget made on the page
+// enters the set with AddGadgetItemCode and leaves it, before it goes, with ForgetGadgetItemCode.
+// Windows that are no page go without a set: the calls then only write the field.
+void SetGadgetItemCode(t_Window *window, t_gadget *gadget, u32 code);
+void AddGadgetItemCode(t_Window *window, t_gadget *gadget);
+void ForgetGadgetItemCode(t_Window *window, t_gadget *gadget);
+// The smallest positive item code that no gadget of the window holds: from the set on a page, by a
+// walk elsewhere.
+u32 NextFreeItemCodeOf(t_Window *window);
 // The first gadget with this design item code in the list that the window's gadget handler has
 // in use, or null.
 t_gadget *FindGadgetByCode(t_Window *window, u32 code);

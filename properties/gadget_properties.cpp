@@ -425,7 +425,7 @@ static void ControlReported(t_Window *window, T_GADGET_PROPERTIES *record, u32 i
         page->state_flags |= WSF_MODIFIED;
         break;
     case PROP_ITEM_ITEM_CODE:
-        gadget->item_code = (u32)FieldValue(record->item_code_text);
+        SetGadgetItemCode(page, gadget, (u32)FieldValue(record->item_code_text));
         page->state_flags |= WSF_MODIFIED;
         break;
     case PROP_ITEM_ICON:  // the scroll bar picks the icon in the bank; the bank's button does nothing
@@ -469,7 +469,7 @@ static void CloseGadgetProperties(t_Window *window, T_GADGET_PROPERTIES *record)
 {
     t_gadget *gadget = record->gadget;
     ReportOpenField(window, record);
-    gadget->item_code = (u32)FieldValue(record->item_code_text);
+    SetGadgetItemCode(window->parent, gadget, (u32)FieldValue(record->item_code_text));
     if (record->row_mask & FLAG_BIT_CURSOR)  // a type without the row keeps its cursor
         gadget->cursor = (u16)FieldValue(record->cursor_text);
     if (T_SLIDER_DATA *slider = SliderOf(gadget)) {

@@ -23,35 +23,28 @@ static void ShowPathMessage(t_Window *parent, const char *title, const char *for
     FreeMem(text, size);
 }
 
-static int CodeInUse(t_gadget *first, u32 code)
+// Gives each later gadget that shares an item code with one before it the smallest code that no
+// gadget holds. The codes seen so far are a set, and the page's own set gives the free code, so
+// the repair is one walk.
+static int RepairDuplicateItemCodes(t_Window *page)
 {
-    for (t_gadget *g = first; g->next; g = g->next)
-        if (g->item_code == code)
-            return 1;
-    return 0;
-}
-
-// Gives each later gadget that shares an item code with one before it the smallest free code.
-static int RepairDuplicateItemCodes(t_gadget *first)
-{
+    t_Gaget_Handler *handler = FindGadgetHandler(page);
+    if (!handler)
+        return 0;
+    T_ITEM_CODES seen;
+    InitItemCodes(&seen);
     int changed = 0;
-    for (t_gadget *g = first; g->next; g = g->next) {
-        if (g->item_code == 0)
-            continue;
-        int duplicate = 0;
-        for (t_gadget *before = first; before != g; before = before->next)
-            if (before->item_code == g->item_code) {
-                duplicate = 1;
-                break;
-            }
-        if (!duplicate)
-            continue;
-        u32 code = 1;
-        while (CodeInUse(first, code))
-            code++;
-        g->item_code = code;
-        changed = 1;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
+        if (g->item_code != 0 && ItemCodeCount(&seen, g->item_code)) {
+            SetGadgetItemCode(page, g, NextFreeItemCodeOf(page));
+            changed = 1;
+        }
+        if (!AddItemCode(&seen, g->item_code)) {
+            myprintf(0, "No memory to repair the item codes of %s\n", page->name);
+            break;
+        }
     }
+    FreeItemCodes(&seen);
     return changed;
 }
 
@@ -60,29 +53,34 @@ void ResolveTabOrder(t_Window *window)
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     if (!handler)
         return;
+    // One walk finds the head and each code's first holder: each link is then one look-up.
     t_gadget *head = NULL;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
-        if (g->tab[0] & SRC_TAB_FIRST) {
+    u32 count = 0;
+    T_ITEM_CODES by_code;
+    InitItemCodes(&by_code);
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next, count++) {
+        if (!head && (g->tab[0] & SRC_TAB_FIRST))
             head = g;
-            break;
+        if (!AddItemCodeOf(&by_code, g->item_code, g)) {
+            myprintf(0, "No memory to number the tab order of %s\n", window->name);
+            return;
         }
-    if (!head)
-        return;
-    head->tab_index = 1;
-    u32 code = head->tab[1];
-    u32 n = 2;
-    // A chain longer than the list can only be a loop that misses the head: it stops there.
-    u32 limit = CountListEntries(&handler->gadget_list);
-    while (n <= limit + 1) {
-        t_gadget *g = FindGadgetByCode(window, code);
-        if (!g || g == head)
-            return;
-        g->tab_index = n;
-        if (g->tab[1] == 0)
-            return;
-        code = g->tab[1];
-        n++;
     }
+    if (head) {
+        head->tab_index = 1;
+        u32 code = head->tab[1];
+        // A chain longer than the list can only be a loop that misses the head: it stops there.
+        for (u32 n = 2; n <= count + 1; n++) {
+            t_gadget *g = (t_gadget *)FirstHolder(&by_code, code);
+            if (!g || g == head)
+                break;
+            g->tab_index = n;
+            if (g->tab[1] == 0)
+                break;
+            code = g->tab[1];
+        }
+    }
+    FreeItemCodes(&by_code);
 }
 
 t_Window *OpenPageFile(t_Window *main_window, const char *path)
@@ -108,7 +106,7 @@ t_Window *OpenPageFile(t_Window *main_window, const char *path)
     AllocString(path, &record->file_name);
     SetTitleBarHoverTitle(page, record->file_name.text);
     t_Gaget_Handler *handler = FindGadgetHandler(page);
-    if (handler && RepairDuplicateItemCodes(handler->first_gadget)) {
+    if (handler && RepairDuplicateItemCodes(page)) {
         NewMsgBox(page, TXT_WARNING_TITLE, TXT_DUPLICATES_REMAPPED, DUPLICATES_STYLE, DUPLICATES_ITEM_CODE);
         page->state_flags |= WSF_MODIFIED;
     }

@@ -106,6 +106,17 @@ static void DropRead(T_READING *reading, T_DECLARATIONS *declarations)
     FreeString(&declarations->head_line);
 }
 
+// The lines ReadLine will give: one per line feed, and a last one without a feed.
+static u32 CountLines(const char *data, const char *end)
+{
+    u32 lines = 0;
+    for (const char *at = data; at < end; lines++) {
+        const char *feed = (const char *)memchr(at, '\n', (size_t)(end - at));
+        at = feed ? feed + 1 : end;
+    }
+    return lines;
+}
+
 t_Window *OpenPage(t_Window *parent, const char *path)
 {
     T_DECLARATIONS declarations;
@@ -123,8 +134,7 @@ t_Window *OpenPage(t_Window *parent, const char *path)
 
     T_READING reading;
     memset(&reading, 0, sizeof(reading));
-    for (const char *at = data; u32 used = ReadLine(line, at, end); at += used)
-        reading.lines_total++;
+    reading.lines_total = CountLines(data, end);
     reading.line_map = (u8 *)AllocMemC(reading.lines_total * 2);
     myprintf(3, "Lines in file %s : %d", path, (int)reading.lines_total);
 

@@ -117,28 +117,89 @@ typedef struct T_WINDOW_READ {
     u32 colour;  // 0xFFFFFFFF: none
 } T_WINDOW_READ;
 
+// The statement words of a block, in the order in which they decide when a line holds several.
+typedef struct T_STATEMENT_WORD {
+    const char *word;
+    u8 length;
+    u8 statement;
+} T_STATEMENT_WORD;
+
+#define WORD(text) text, (u8)(sizeof(text) - 1)
+
+// Which word of `words` decides the line: the first in table order that the line holds anywhere.
+// The words that begin with `prefix` are found from the prefix's places in the line, so that a line
+// is searched once for the prefix and once for each word without it; -1 when none.
+static int DecidingWord(const char *line, const T_STATEMENT_WORD *words, int count, const char *prefix)
+{
+    if (!line[0])
+        return -1;
+    size_t prefix_length = strlen(prefix);
+    int best = -1;
+    for (const char *at = strstr(line, prefix); at; at = strstr(at + 1, prefix)) {
+        const char *rest = at + prefix_length;
+        for (int i = 0; i < count && (best < 0 || i < best); i++) {
+            const char *tail = words[i].word + prefix_length;
+            if (words[i].length > prefix_length && tail[0] == rest[0] &&
+                memcmp(words[i].word, prefix, prefix_length) == 0 &&
+                strncmp(rest, tail, words[i].length - prefix_length) == 0)
+                best = i;
+        }
+    }
+    for (int i = 0; i < count && (best < 0 || i < best); i++)
+        if (strncmp(words[i].word, prefix, prefix_length) != 0 && strstr(line, words[i].word))
+            best = i;
+    return best;
+}
+
+enum { WIN_FLAGS, WIN_X, WIN_Y, WIN_W, WIN_H, WIN_ICON, WIN_IDCMP, WIN_BITMAP, WIN_COLOUR };
+
+//  word                  statement
+static const T_STATEMENT_WORD window_words[] = {
+    {WORD("win_init.flags"), WIN_FLAGS},
+    {WORD("win_init.x"), WIN_X},
+    {WORD("win_init.y"), WIN_Y},
+    {WORD("win_init.w"), WIN_W},
+    {WORD("win_init.h"), WIN_H},
+    {WORD("win_init.icon"), WIN_ICON},  // also "win_init.icon_bank=NULL;", which gives 0
+    {WORD("win_init.idcmp"), WIN_IDCMP},
+    {WORD("win_init.bitmap"), WIN_BITMAP},
+    {WORD("UserAreaColour"), WIN_COLOUR},
+};
+
 static int ParseWindowLine(const char *line, T_WINDOW_READ *window)
 {
-    if (LineHasWord(line, "win_init.flags"))
-        window->init.flags = ReadNameList(line, window_flag_names);
-    else if (LineHasWord(line, "win_init.x"))
-        window->init.x = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "win_init.y"))
-        window->init.y = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "win_init.w"))
-        window->init.w = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "win_init.h"))
-        window->init.h = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "win_init.icon"))  // also "win_init.icon_bank=NULL;", which gives 0
-        window->init.icon = (u16)FieldValue(line, 1);
-    else if (LineHasWord(line, "win_init.idcmp"))
-        window->init.idcmp = ReadNameList(line, idcmp_names);
-    else if (LineHasWord(line, "win_init.bitmap"))
-        window->has_bitmap = ReadQuotedValue(line, window->bitmap, sizeof(window->bitmap));
-    else if (LineHasWord(line, "UserAreaColour"))
-        window->colour = FieldValue(line, 1);
-    else
+    int word = DecidingWord(line, window_words, (int)(sizeof(window_words) / sizeof(window_words[0])), "win_init.");
+    if (word < 0)
         return 0;
+    switch (window_words[word].statement) {
+    case WIN_FLAGS:
+        window->init.flags = ReadNameList(line, window_flag_names);
+        break;
+    case WIN_X:
+        window->init.x = (i16)FieldValue(line, 1);
+        break;
+    case WIN_Y:
+        window->init.y = (i16)FieldValue(line, 1);
+        break;
+    case WIN_W:
+        window->init.w = (i16)FieldValue(line, 1);
+        break;
+    case WIN_H:
+        window->init.h = (i16)FieldValue(line, 1);
+        break;
+    case WIN_ICON:
+        window->init.icon = (u16)FieldValue(line, 1);
+        break;
+    case WIN_IDCMP:
+        window->init.idcmp = ReadNameList(line, idcmp_names);
+        break;
+    case WIN_BITMAP:
+        window->has_bitmap = ReadQuotedValue(line, window->bitmap, sizeof(window->bitmap));
+        break;
+    case WIN_COLOUR:
+        window->colour = FieldValue(line, 1);
+        break;
+    }
     return 1;
 }
 
@@ -154,54 +215,109 @@ static i32 Cut16(u32 value)
     return (i32)(i16)value;
 }
 
+enum {
+    GAD_TYPE, GAD_FLAGS, GAD_X, GAD_Y, GAD_WIDTH, GAD_HEIGHT, GAD_CURSOR, GAD_ICON, GAD_ACTION, GAD_ITEM_CODE,
+    GAD_TAB0, GAD_TAB1, GAD_MARK_WIDTH, GAD_MARK_HEIGHT, GAD_MIN, GAD_MAX, GAD_STEP, GAD_INIT_VAL, GAD_COLOURS,
+    GAD_HOVER, GAD_FONT,
+};
+
+//  word                    statement
+static const T_STATEMENT_WORD gadget_words[] = {
+    {WORD("gadinit.type"), GAD_TYPE},
+    {WORD("gadinit.flags"), GAD_FLAGS},
+    {WORD("gadinit.x"), GAD_X},
+    {WORD("gadinit.y"), GAD_Y},
+    {WORD("gadinit.base_width"), GAD_WIDTH},
+    {WORD("gadinit.base_height"), GAD_HEIGHT},
+    {WORD("gadinit.cursor"), GAD_CURSOR},
+    {WORD("gadinit.icon"), GAD_ICON},
+    {WORD("gadinit.action"), GAD_ACTION},
+    {WORD("gadinit.item_code"), GAD_ITEM_CODE},
+    {WORD("gadinit.tab[0]"), GAD_TAB0},
+    {WORD("gadinit.tab[1]"), GAD_TAB1},
+    {WORD("gadinit.mark_width"), GAD_MARK_WIDTH},
+    {WORD("gadinit.mark_height"), GAD_MARK_HEIGHT},
+    {WORD("gadinit.min"), GAD_MIN},
+    {WORD("gadinit.max"), GAD_MAX},
+    {WORD("gadinit.step"), GAD_STEP},
+    {WORD("gadinit.init_val"), GAD_INIT_VAL},
+    {WORD("SetGadgetColours"), GAD_COLOURS},
+    {WORD("gadinit.hover_text"), GAD_HOVER},
+    {WORD("gadinit.font"), GAD_FONT},
+};
+
 static int ParseGadgetLine(const char *line, T_GADGETOBJECTINIT *init, T_GADGET_BLOCK *block)
 {
-    if (LineHasWord(line, "gadinit.type"))
+    int word = DecidingWord(line, gadget_words, (int)(sizeof(gadget_words) / sizeof(gadget_words[0])), "gadinit.");
+    if (word < 0)
+        return 0;
+    switch (gadget_words[word].statement) {
+    case GAD_TYPE:
         init->type = (u16)ReadNameList(line, gadget_type_names);
-    else if (LineHasWord(line, "gadinit.flags"))
+        break;
+    case GAD_FLAGS:
         init->flags = ReadNameList(line, gadget_flag_names);
-    else if (LineHasWord(line, "gadinit.x"))
+        break;
+    case GAD_X:
         init->x = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.y"))
+        break;
+    case GAD_Y:
         init->y = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.base_width"))
+        break;
+    case GAD_WIDTH:
         init->base_width = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.base_height"))
+        break;
+    case GAD_HEIGHT:
         init->base_height = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.cursor"))
+        break;
+    case GAD_CURSOR:
         init->cursor = (u8)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.icon"))
+        break;
+    case GAD_ICON:
         init->icon = (u16)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.action"))
+        break;
+    case GAD_ACTION:
         init->action = ReadNameList(line, mouse_action_names);
-    else if (LineHasWord(line, "gadinit.item_code"))
+        break;
+    case GAD_ITEM_CODE:
         init->item_code = FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.tab[0]"))
+        break;
+    case GAD_TAB0:
         init->tab[0] = FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.tab[1]"))
+        break;
+    case GAD_TAB1:
         init->tab[1] = FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.mark_width"))
+        break;
+    case GAD_MARK_WIDTH:
         init->mark_width = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.mark_height"))
+        break;
+    case GAD_MARK_HEIGHT:
         init->mark_height = (i16)FieldValue(line, 1);
-    else if (LineHasWord(line, "gadinit.min"))
+        break;
+    case GAD_MIN:
         init->min = Cut16(FieldValue(line, 1));
-    else if (LineHasWord(line, "gadinit.max"))
+        break;
+    case GAD_MAX:
         init->max = Cut16(FieldValue(line, 1));
-    else if (LineHasWord(line, "gadinit.step"))
+        break;
+    case GAD_STEP:
         init->step = Cut16(FieldValue(line, 1));
-    else if (LineHasWord(line, "gadinit.init_val"))
+        break;
+    case GAD_INIT_VAL:
         init->init_val = Cut16(FieldValue(line, 1));
-    else if (LineHasWord(line, "SetGadgetColours")) {
+        break;
+    case GAD_COLOURS:
         block->colours[0] = FieldValue(line, 1);
         block->colours[1] = FieldValue(line, 2);
         block->has_colours = 1;
-    } else if (LineHasWord(line, "gadinit.hover_text"))
+        break;
+    case GAD_HOVER:
         init->hover_text = ReadQuotedValue(line, hover_buffer, sizeof(hover_buffer)) ? hover_buffer : NULL;
-    else if (LineHasWord(line, "gadinit.font"))
+        break;
+    case GAD_FONT:
         init->font = ReadQuotedValue(line, font_buffer, sizeof(font_buffer)) ? font_buffer : NULL;
-    else
-        return 0;
+        break;
+    }
     return 1;
 }
 
@@ -269,7 +385,7 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
     if (block.has_colours)
         SetGadgetColours(gadget, block.colours[0], block.colours[1]);
     gadget->action = gadget_init.action;
-    gadget->item_code = gadget_init.item_code;
+    SetGadgetItemCode(window, gadget, gadget_init.item_code);
     if (gadget->live_flags & GADGET_FLAGS_ICON)  // the icon chosen in the gadget's bank
         gadget->icon = gadget_init.icon;
     // The font stays from block to block, as the writer's optimised form counts on.

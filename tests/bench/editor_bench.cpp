@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 #include <string.h>
 
+#include "display/display.h"
 #include "editor/page_window.h"
 #include "page/catalogue.h"
 #include "tests/harness/harness.h"
@@ -66,3 +67,84 @@ static void BM_CreateGadgets(benchmark::State &state)
     state.SetItemsProcessed(state.iterations() * count);
 }
 BENCHMARK(BM_CreateGadgets)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// A page of `count` buttons in rows, all of them selected, on a fresh harness.
+static t_Window *SelectedPage(T_HARNESS *h, i64 count)
+{
+    t_Window *page = CreatePageWindow(h->main_window, (char *)"Bench", 0x7C, 10, 60, 1200, 760);
+    T_GADGETOBJECTINIT init;
+    memset(&init, 0, sizeof(init));
+    init.base_width = 30;
+    init.base_height = 16;
+    init.hover_text = "";
+    for (i64 i = 0; i < count; i++) {
+        init.x = (i16)(i % 36 * 32);
+        init.y = (i16)(i / 36 % 40 * 17);
+        CreateGadgetByTool(page, 12, &init);
+    }
+    for (t_gadget *g = FindGadgetHandler(page)->first_gadget; g->next; g = g->next)
+        g->live_flags |= GADGET_MARK_SELECTED;
+    ISetActiveWindow(page);
+    RefreshHandlers(NULL);
+    return page;
+}
+
+static void PushMouse(u16 kind, i16 x, i16 y)
+{
+    T_INPUT_EVENT event;
+    memset(&event, 0, sizeof(event));
+    event.kind = kind;
+    event.x = x;
+    event.y = y;
+    event.button = 1;
+    HeadlessPush(&event);
+}
+
+// One turn of the loop with the page of selected gadgets on the screen and no input.
+static void BM_RepaintPage(benchmark::State &state)
+{
+    T_HARNESS h;
+    if (!HarnessStart(&h, NULL, 1280, 800)) {
+        state.SkipWithError("the harness did not start");
+        return;
+    }
+    SelectedPage(&h, state.range(0));
+    for (auto _ : state)
+        RefreshHandlers(NULL);
+    state.counters["time_per_gadget"] = benchmark::Counter(
+        (double)state.iterations() * state.range(0), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    HarnessStop(&h, 0);
+}
+BENCHMARK(BM_RepaintPage)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// One step of dragging the whole selection: a mouse move and the turn that takes it.
+static void BM_DragStep(benchmark::State &state)
+{
+    T_HARNESS h;
+    if (!HarnessStart(&h, NULL, 1280, 800)) {
+        state.SkipWithError("the harness did not start");
+        return;
+    }
+    t_Window *page = SelectedPage(&h, state.range(0));
+    t_gadget *first = FindGadgetHandler(page)->first_gadget;
+    i16 x = (i16)(first->screen_x + 10), y = (i16)(first->screen_y + 8);
+    PushMouse(INPUT_MOUSE_MOVE, x, y);
+    PushMouse(INPUT_MOUSE_DOWN, x, y);
+    RefreshHandlers(NULL);
+    for (int i = 0; i < 8; i++) {  // past the drag threshold
+        PushMouse(INPUT_MOUSE_MOVE, (i16)(x + i), y);
+        RefreshHandlers(NULL);
+    }
+    i16 step = 1;
+    for (auto _ : state) {
+        step = (i16)-step;
+        PushMouse(INPUT_MOUSE_MOVE, (i16)(x + 8 + step), y);
+        RefreshHandlers(NULL);
+    }
+    PushMouse(INPUT_MOUSE_UP, x, y);
+    RefreshHandlers(NULL);
+    state.counters["time_per_gadget"] = benchmark::Counter(
+        (double)state.iterations() * state.range(0), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    HarnessStop(&h, 0);
+}
+BENCHMARK(BM_DragStep)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);

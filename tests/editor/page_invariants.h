@@ -51,6 +51,31 @@ static inline void CheckHistory(t_Window *page, T_WINEDIT_HANDLER *record, std::
     }
 }
 
+// The page's kept set of item codes counts exactly the codes its gadgets hold, and no code below
+// its lowest free one is free.
+static inline void CheckItemCodes(t_Window *page, T_WINEDIT_HANDLER *record, t_Gaget_Handler *handler,
+                                  std::string &out)
+{
+    (void)page;
+    if (!record->item_codes_valid)
+        return;
+    T_ITEM_CODES recount;
+    InitItemCodes(&recount);
+    u32 gadgets = 0;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next, gadgets++)
+        AddItemCode(&recount, g->item_code);
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
+        if (ItemCodeCount(&record->item_codes, g->item_code) != ItemCodeCount(&recount, g->item_code))
+            Violation(out, "item code %ld is counted wrongly", (long)g->item_code);
+    if (record->item_codes.used != recount.used)
+        Violation(out, "the set holds %ld codes more than the gadgets",
+                  (long)record->item_codes.used - (long)recount.used);
+    for (u32 code = 1; code < record->item_codes.lowest_free && code <= gadgets + 1; code++)
+        if (!ItemCodeCount(&recount, code))
+            Violation(out, "code %ld is free below the lowest free one", (long)code);
+    FreeItemCodes(&recount);
+}
+
 static inline std::string CheckPageInvariants(t_Window *page)
 {
     std::string out;
@@ -100,6 +125,7 @@ static inline std::string CheckPageInvariants(t_Window *page)
         Violation(out, "dash phase %ld", record->dash_phase);
     if ((record->edit_state & EDIT_TAB_ORDER) && record->handle_gadget)
         Violation(out, "handles in tab-order mode");
+    CheckItemCodes(page, record, handler, out);
     CheckHistory(page, record, out);
     return out;
 }

@@ -17,7 +17,7 @@ TEST_F(UndoTest, UndoAndRedoOfACreatedGadget)
 {
     t_gadget *g = Draw(TOOL_BUTTON, 40, 40, 80, 24);
     ASSERT_EQ(Count(), 1u);
-    g->item_code = 9;  // what the user set on the old gadget is gone after a redo
+    SetGadgetItemCode(page, g, 9);  // what the user set on the old gadget is gone after a redo
     EXPECT_TRUE(Modified());
     Command(COMMAND_UNDO);
     CHECK_PAGE();

@@ -99,7 +99,7 @@ TEST_F(Catalogue, ItemCodes)
     t_gadget *third = Make(12);
     EXPECT_EQ(second->item_code, 2u);
     EXPECT_EQ(third->item_code, 3u);
-    third->item_code = 4;
+    SetGadgetItemCode(page, third, 4);
     EXPECT_EQ(Make(1)->item_code, 3u);  // 1, 2, 4 in use
     t_Gaget_Handler *gh = FindGadgetHandler(page);
     EXPECT_EQ(NextFreeItemCode(gh->first_gadget), 5u);

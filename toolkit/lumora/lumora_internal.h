@@ -19,8 +19,10 @@ t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init);
 // handlers first. Remove it with RemoveWindow. Null only when memory runs out.
 t_Window *CreatePopupWindow(i16 x, i16 y, i16 w, i16 h, T_MESSAGE_FN message);
 
-// Paints the whole screen and presents it without taking input (progress bars use it).
+// Paints the whole screen and presents it without taking input.
 void RepaintScreen(void);
+// Paints one top-level window over the screen as it stands and presents it (progress bars).
+void RepaintWindowOnly(t_Window *window);
 
 // List entries of list boxes, drop boxes and trees (the gadget types' step): what CreateObject
 // makes on a gadget handler when the init record names a parent gadget.

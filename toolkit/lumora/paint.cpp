@@ -119,3 +119,15 @@ void PaintScreen(void) {
     ClipAll();
     SetFontStyle(0);
 }
+
+// One top-level window alone, over what the screen shows: for a window in front whose contents
+// change while nothing else does (a progress bar during a long save).
+void RepaintWindowOnly(t_Window *window) {
+    if (!display || !CURRENT_DISPLAY->record || !IsWindowLive(window)) return;
+    T_DISPLAY *d = CURRENT_DISPLAY;
+    T_RPOS screen = {0, 0, d->width, d->height};
+    PaintWindow(window, screen);
+    ClipAll();
+    SetFontStyle(0);
+    display->present();
+}

@@ -1,6 +1,6 @@
 // Progress bars: a small window in front, centred on the screen, with a title, the step's text and
-// a bar. Updates repaint the screen at most every PROGRESS_PAINT_MS of display time, so a long
-// save spends its time saving.
+// a bar. Updates repaint the bar's window alone, at most every PROGRESS_PAINT_MS of display time,
+// so a long save spends its time saving.
 #include <string.h>
 
 #include "lumora/lumora_internal.h"
@@ -68,7 +68,7 @@ T_PROGRESS_BAR *NewProgressBar(const char *title, u32 steps)
     window->user_data = bar;
     NewHandler(&window->handlers, NULL, ProgressPaint, "progress", 0, sizeof(t_Handler), window);
     bar->last_paint_ms = display->ticks();
-    RepaintScreen();
+    RepaintWindowOnly(window);  // in front of the last frame; the turn's repaint shows the rest
     return bar;
 }
 
@@ -82,7 +82,7 @@ void UpdateProgressBar(T_PROGRESS_BAR *bar, u32 step, const char *text)
     u32 now = display->ticks();
     if (now - bar->last_paint_ms >= PROGRESS_PAINT_MS) {
         bar->last_paint_ms = now;
-        RepaintScreen();
+        RepaintWindowOnly(bar->window);  // nothing but the bar changes while the work goes on
     }
 }
 

@@ -173,10 +173,17 @@ static struct {
     u32 length, capacity;
 } stream;
 
+// The buffer stays for the next save, so that saving a large page again costs no fresh memory;
+// one past STREAM_KEEP_MAX bytes goes.
+#define STREAM_KEEP_MAX (64u << 20)
+
 static void DropStream(void) {
-    free(stream.text);
-    stream.text = NULL;
-    stream.length = stream.capacity = 0;
+    if (stream.capacity > STREAM_KEEP_MAX) {
+        free(stream.text);
+        stream.text = NULL;
+        stream.capacity = 0;
+    }
+    stream.length = 0;
     stream.state = STREAM_IDLE;
 }
 
