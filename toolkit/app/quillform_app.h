@@ -1,9 +1,14 @@
 // What a page file written by Quillform compiles against: the toolkit's records under the names
-// the page uses, and the statements it is written in.
+// the page uses, the statements it is written in, and the one way a program built on pages runs:
 //
 //   #include "quillform_app.h"
 //   #include "my_page.cpp"
-//   ...  T_WINDOW *window = OpenMyPageWindow();  then turn RefreshHandlers(NULL) until it ends.
+//   int main(int argc, char **argv) {
+//       if (!OpenAppToolkit(argc, argv)) return 2;
+//       int status = RunAppWindow(OpenMyPageWindow());
+//       CloseToolkit();
+//       return status;
+//   }
 #pragma once
 #include <string.h>
 
@@ -37,3 +42,19 @@ static inline T_GADGET *CreatePageGadget(T_GADGET_HANDLER *gh, const char *name,
 extern T_COLOUR_DATA cb;
 extern u32 tg[8];
 extern u32 sg[8];
+
+// --- Running a program ---------------------------------------------------------------------------
+// Opens the toolkit on the SDL display, or headless when the command line holds --headless or the
+// environment variable QF_HEADLESS is set (and not "0"). False, with a line on standard error, when
+// the display can't be opened. The page's open function may only be called after this.
+int OpenAppToolkit(int argc, char **argv);
+// Runs the page's window as the program's window: it takes the window's name as its title and the
+// size of its frame (a page opened full screen keeps the screen), the focus starts on the first
+// gadget of the page's tab order, and the loop turns until the window is gone; a resizable window
+// follows the program's window when the user resizes it. Headless, the window is shown for a few
+// turns, printed to standard output (its name and size, then each gadget, one a line) and told to
+// end as its close gadget does. Gives 0, or 1 when there is no window or it wouldn't end.
+int RunAppWindow(T_WINDOW *window);
+// The gadget that takes the focus first: the first one that can take it along the tab order saved
+// with the page, or else the first stop of the tab walk in list order; null when there is none.
+T_GADGET *FirstTabGadget(T_WINDOW *window);

@@ -56,3 +56,7 @@ void HeadlessAdvance(u32 ms);
 u16 HeadlessCursor(void);
 int HeadlessMouseRect(T_RPOS *rect);  // false when the pointer is free
 void HeadlessWarpXY(i16 *x, i16 *y);  // where the toolkit last put the pointer (0, 0 at first)
+
+// SDL only, for a program built on a page: the window's title and size.
+void SdlSetTitle(const char *title);
+void SdlSetSize(i16 width, i16 height);

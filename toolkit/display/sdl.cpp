@@ -258,3 +258,15 @@ const T_DISPLAY_BACKEND display_sdl = {
     "sdl",        SdlOpen,         SdlClose,     SdlPixels, SdlPoll,      SdlPresent,
     SdlTicks,     SdlWait,         SdlSetCursor, SdlSetMouseRect, SdlWarpMouse, SdlQualifiers,
 };
+
+// A program built on a page titles its window with the page's name and gives it the page's size;
+// the size arrives as a resize event, so the framebuffer follows as for a resize by the user.
+void SdlSetTitle(const char *title) {
+    if (sdl.window) SDL_SetWindowTitle(sdl.window, title ? title : "");
+}
+
+void SdlSetSize(i16 width, i16 height) {
+    if (!sdl.window) return;
+    SDL_SetWindowSize(sdl.window, width, height);
+    SDL_SetWindowPosition(sdl.window, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
+}

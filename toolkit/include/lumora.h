@@ -281,6 +281,10 @@ void MarkGadgetsInArea(t_gadget *first, T_RPOS *area, u32 first_time);
 // Searches the list in use and, inside combos, their gadgets, by live item code.
 t_gadget *FindGadgetByItemCode(t_Window *window, u32 item_code);
 t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y);  // topmost visible gadget, or null
+// A string gadget's text ("" for another type); a new text, cut to the field's length, with the
+// cursor at its end.
+const char *GetStringGadgetText(t_gadget *gadget);
+void SetStringGadgetText(t_gadget *gadget, const char *text);
 // The keys that every gadget knows, for a gadget's action function to pass on: Tab and Shift+Tab,
 // and the arrow keys, move the current gadget to the next or previous one in list order. True
 // when the key was one of them.

@@ -383,7 +383,7 @@ static u32 CountWalk(t_List *list) {
 }
 
 // A combo with children leaves the stop to them.
-static int TabStop(t_gadget *g) {
+int TabStop(t_gadget *g) {
     return !(g->live_flags & (GADGET_FLAGS_DISABLED | GADGET_FLAGS_NO_DISPLAY)) &&
            g->type != GADGET_TYPE_TEXT && g->type != GADGET_TYPE_GROUP && !WalkInside(g);
 }

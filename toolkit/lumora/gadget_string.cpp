@@ -6,6 +6,7 @@
 // the selection's other end `select_from`, the first character shown `scroll`. Keys insert
 // printable Latin-1 as single bytes. Enter reports ACT_LMOUSE_UP; so does leaving the field,
 // which the field learns at its next paint, and which reaches the window as a posted message.
+#include <stdio.h>
 #include <string.h>
 
 #include "knobkit/knobkit_internal.h"
@@ -289,4 +290,16 @@ u32 StringKey(t_gadget *g, u16 key, u16 qualifiers) {
     KeepCursorVisible(g, &r);
     GadgetTextFontEnd();
     return result;
+}
+
+// For programs: a string gadget's text, and a new text put into its buffer.
+const char *GetStringGadgetText(t_gadget *g) {
+    return g && g->type == GADGET_TYPE_STRING ? Text(g) : "";
+}
+
+void SetStringGadgetText(t_gadget *g, const char *text) {
+    if (!g || g->type != GADGET_TYPE_STRING || !g->data) return;
+    snprintf((char *)g->data, (size_t)g->max_chars + 1, "%s", text ? text : "");
+    g->value = g->select_from = Length(g);
+    g->scroll = 0;
 }
