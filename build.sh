@@ -1,43 +1,93 @@
 #!/usr/bin/env bash
-# Sets up, builds, and then starts Quillform or runs its tests, on a fresh Debian 12 machine too.
-#   ./build.sh run [quillform options]   install what is missing, build, start the editor
-#   ./build.sh test                      install what is missing, build, run every test
-#   ./build.sh build                     install what is missing, build
+# Sets up, builds, and then starts Quillform, runs its tests or installs it, on a fresh Debian 12
+# machine too. Each command first installs what it needs and is missing, with apt-get.
+#   ./build.sh run [OPTION]... [FILE]...  build the editor alone (toolkit, module, host), start it
+#   ./build.sh build                      build the editor alone
+#   ./build.sh test                       build everything (tests and benchmarks too), run every test
+#   ./build.sh install [PREFIX]           build the editor and install it (default /usr/local)
 set -euo pipefail
 cd "$(dirname "$0")"
 
-packages=(build-essential cmake pkg-config libsdl2-dev libfreetype-dev libpng-dev libgtest-dev
-          libbenchmark-dev fonts-dejavu-core)
+# What the editor needs to build and run, and what the tests add.
+editor_packages=(build-essential cmake pkg-config libsdl2-dev libfreetype-dev libpng-dev fonts-dejavu-core)
+test_packages=(libgtest-dev libbenchmark-dev desktop-file-utils)
+build=build
+jobs=$(nproc)
 
-missing=()
-for p in "${packages[@]}"; do
-  dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "Installing: ${missing[*]}"
+usage() {
+  echo "usage: ./build.sh run [OPTION]... [FILE]... | build | test | install [PREFIX]" >&2
+  exit 2
+}
+
+# Runs a command as root: directly, or through sudo.
+as_root() {
   if [ "$(id -u)" -eq 0 ]; then
-    apt-get update -qq
-    DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}" >/dev/null
+    "$@"
   elif command -v sudo >/dev/null; then
-    sudo apt-get update -qq
-    sudo DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}" >/dev/null
+    sudo "$@"
   else
-    echo "Please install: ${missing[*]}" >&2
+    echo "Needs root, and there is no sudo: $*" >&2
     exit 1
   fi
-fi
+}
+
+install_missing() {
+  local missing=()
+  for p in "$@"; do
+    dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  echo "== Installing with apt-get: ${missing[*]}"
+  as_root apt-get update -qq
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}" >/dev/null
+}
+
+# Configures the build folder when it has never been, or with the options given.
+configure() {
+  if [ ! -f "$build/CMakeCache.txt" ] || [ $# -gt 0 ]; then
+    echo "== Configuring $build/"
+    cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@"
+  fi
+}
+
+# The editor alone: a first build of the tests is left to ./build.sh test.
+build_editor() {
+  install_missing "${editor_packages[@]}"
+  [ -f "$build/CMakeCache.txt" ] || configure -DQF_TESTS=OFF -DQF_BENCHMARKS=OFF
+  echo "== Building the editor (toolkit, module, host) with $jobs jobs"
+  cmake --build "$build" -j"$jobs" --target quillform quillform_module
+  echo "== The editor is $build/quillform"
+}
 
 what="${1:-build}"
 [ $# -gt 0 ] && shift
-build=build
-if [ ! -f "$build/CMakeCache.txt" ]; then
-  cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-fi
-cmake --build "$build" -j"$(nproc)"
-
 case "$what" in
-  run)   exec "$build/quillform" "$@" ;;
-  test)  ctest --test-dir "$build" --output-on-failure -j"$(nproc)" ;;
-  build) ;;
-  *)     echo "usage: ./build.sh run|test|build" >&2; exit 2 ;;
+  run)
+    build_editor
+    exec "$build/quillform" "$@"
+    ;;
+  build)
+    build_editor
+    ;;
+  test)
+    install_missing "${editor_packages[@]}" "${test_packages[@]}"
+    configure -DQF_TESTS=ON -DQF_BENCHMARKS=ON
+    echo "== Building everything with $jobs jobs"
+    cmake --build "$build" -j"$jobs"
+    ctest --test-dir "$build" --output-on-failure -j"$jobs"
+    ;;
+  install)
+    [ $# -le 1 ] || usage
+    prefix="${1:-/usr/local}"
+    build_editor
+    echo "== Installing into $prefix"
+    if mkdir -p "$prefix" 2>/dev/null && [ -w "$prefix" ]; then
+      cmake --install "$build" --prefix "$prefix"
+    else
+      as_root cmake --install "$build" --prefix "$prefix"
+    fi
+    ;;
+  *)
+    usage
+    ;;
 esac

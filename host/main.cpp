@@ -32,6 +32,16 @@
 typedef t_Window *(*T_OPEN_FN)(T_CREATE_APPLICATION *);
 
 #define MAIN_WINDOW_MARGIN 16
+#define DROP_ITEM_CODE 2  // ACT_RECEIVE_OBJECT's item code for a file dropped from the desktop
+
+#ifndef QF_VERSION
+#error "QF_VERSION comes from the project's version in CMakeLists.txt"
+#endif
+#ifndef QF_LIB_FROM_BIN
+#define QF_LIB_FROM_BIN "../lib"
+#endif
+
+#define HOST_MAX_FILES 64  // page files named on one command line
 
 typedef struct T_HOST_OPTIONS {
     int headless;
@@ -39,15 +49,34 @@ typedef struct T_HOST_OPTIONS {
     const char *home;
     i16 width, height;
     int log_level;
+    const char *files[HOST_MAX_FILES];
+    int file_count;
 } T_HOST_OPTIONS;
 
+// The same options, in the same words, as the manual page (packaging/quillform.1).
 static const char *const usage_text =
-    "Usage: quillform [--headless] [--script FILE] [--home DIR] [--size WxH] [--log N] [--help] [--version]\n"
-    "  --headless     run without a window (the framebuffer alone); implied by --script\n"
-    "  --script FILE  play the actions in FILE, then exit (see the README for the format)\n"
+    "Usage: quillform [OPTION]... [FILE]...\n"
+    "Opens each FILE (a page source file) as a page, as if it were dropped on the main window.\n"
+    "  --headless     run without a window (the framebuffer alone); only with --script\n"
+    "  --script FILE  play the actions in FILE headless, then exit (see the README for the format)\n"
     "  --home DIR     the data root (default: $XDG_DATA_HOME/quillform or ~/.local/share/quillform)\n"
     "  --size WxH     the size of the screen (default 1280x800)\n"
-    "  --log N        print log lines up to level N (0 errors ... 3 information; default 1)\n";
+    "  --log N        print log lines up to level N (0 errors ... 3 information; default 1)\n"
+    "  --help         print this help and exit\n"
+    "  --version      print the version and exit\n"
+    "  --             what follows are files, even when their names begin with a dash\n"
+    "Exit status: 0 after an ordinary end, 1 when a script step fails or the editor can't start,\n"
+    "2 for a bad command line, an unreadable script or no display.\n";
+
+static int AddFile(T_HOST_OPTIONS *options, const char *file)
+{
+    if (options->file_count == HOST_MAX_FILES) {
+        fprintf(stderr, "quillform: at most %d files on one command line\n", HOST_MAX_FILES);
+        return 0;
+    }
+    options->files[options->file_count++] = file;
+    return 1;
+}
 
 // Reads the command line; returns 0 to go on, or the exit code to leave with.
 static int ReadOptions(int argc, char **argv, T_HOST_OPTIONS *options)
@@ -62,7 +91,7 @@ static int ReadOptions(int argc, char **argv, T_HOST_OPTIONS *options)
             fputs(usage_text, stdout);
             return -1;
         } else if (strcmp(arg, "--version") == 0) {
-            puts("Quillform 0.62");
+            puts("Quillform " QF_VERSION);
             return -1;
         } else if (strcmp(arg, "--headless") == 0) {
             options->headless = 1;
@@ -85,15 +114,26 @@ static int ReadOptions(int argc, char **argv, T_HOST_OPTIONS *options)
         } else if (strcmp(arg, "--log") == 0 && value) {
             options->log_level = atoi(value);
             i++;
-        } else {
+        } else if (strcmp(arg, "--") == 0) {  // what follows are files, whatever their names
+            for (i++; i < argc; i++)
+                if (!AddFile(options, argv[i]))
+                    return 2;
+        } else if (arg[0] == '-') {
             fprintf(stderr, "quillform: unknown option \"%s\" (try --help)\n", arg);
             return 2;
+        } else if (!AddFile(options, arg)) {
+            return 2;
         }
+    }
+    if (options->headless && !options->script) {
+        fprintf(stderr, "quillform: --headless shows nothing and waits for ever; give it a --script FILE to play\n");
+        return 2;
     }
     return 0;
 }
 
-// Loads the module from beside the executable, or from the install's lib folder.
+// Loads the module from beside the executable (a build), or from the install's lib folder, found
+// from the executable's folder so that an installed tree can be moved.
 static T_OPEN_FN LoadModule(void)
 {
     char self[PATH_MAX];
@@ -104,7 +144,7 @@ static T_OPEN_FN LoadModule(void)
     char *slash = strrchr(self, '/');
     if (slash)
         *slash = '\0';
-    static const char *const places[] = {"%s/libquillform.so", "%s/../lib/libquillform.so"};
+    static const char *const places[] = {"%s/libquillform.so", "%s/" QF_LIB_FROM_BIN "/libquillform.so"};
     for (const char *place : places) {
         char path[PATH_MAX + 32];
         snprintf(path, sizeof(path), place, self);
@@ -117,6 +157,55 @@ static T_OPEN_FN LoadModule(void)
     }
     fprintf(stderr, "quillform: cannot load libquillform.so: %s\n", dlerror());
     return NULL;
+}
+
+// Whether a program is on the PATH, so that a hint names only what can be run.
+static int OnPath(const char *program)
+{
+    const char *path = getenv("PATH");
+    while (path && *path) {
+        const char *end = strchr(path, ':');
+        size_t length = end ? (size_t)(end - path) : strlen(path);
+        char candidate[PATH_MAX];
+        if (length > 0 && length + strlen(program) + 2 < sizeof(candidate)) {
+            snprintf(candidate, sizeof(candidate), "%.*s/%s", (int)length, path, program);
+            if (access(candidate, X_OK) == 0)
+                return 1;
+        }
+        path = end ? end + 1 : NULL;
+    }
+    return 0;
+}
+
+static void TellNoDisplay(const char *what)
+{
+    if (OnPath("xvfb-run"))
+        fprintf(stderr, "quillform: %s; run it on a desktop, under xvfb-run (xvfb-run quillform), "
+                        "or play a script headless (quillform --script FILE)\n", what);
+    else
+        fprintf(stderr, "quillform: %s; run it on a desktop, or play a script headless "
+                        "(quillform --script FILE)\n", what);
+}
+
+// Hands each file to the main window as a file dropped on it: the editor opens it as a page, or
+// tells why it can't, and goes on. A relative name is taken from the current folder.
+static void OpenFiles(t_Window *main_window, const T_HOST_OPTIONS *options)
+{
+    char cwd[PATH_MAX];
+    if (!getcwd(cwd, sizeof(cwd)))
+        cwd[0] = '\0';
+    for (int i = 0; i < options->file_count; i++) {
+        const char *file = options->files[i];
+        char path[2 * PATH_MAX], directory[2 * PATH_MAX], name[PATH_MAX];
+        if (file[0] == '/')
+            snprintf(path, sizeof(path), "%s", file);
+        else
+            snprintf(path, sizeof(path), "%s/%s", cwd, file);
+        XGetPath(directory, path);
+        StripPath(name, path);
+        T_DROPPED_FILE dropped = {directory, name};
+        SendWindowMessage(main_window, DROP_ITEM_CODE, ACT_RECEIVE_OBJECT, &dropped);
+    }
 }
 
 static int HasDisplay(void)
@@ -145,13 +234,11 @@ int main(int argc, char **argv)
         return 2;
     }
     if (!options.headless && !HasDisplay()) {
-        fprintf(stderr, "quillform: no display found; run it under a display (xvfb-run quillform) "
-                        "or without one (quillform --headless --script FILE)\n");
+        TellNoDisplay("no display found");
         return 2;
     }
     if (!OpenToolkit(options.headless ? "headless" : "sdl", options.width, options.height, options.home)) {
-        fprintf(stderr, "quillform: the display could not be opened; try xvfb-run quillform, "
-                        "or quillform --headless --script FILE\n");
+        TellNoDisplay("the display could not be opened");
         return 2;
     }
     // The folders the editor's selectors start in.
@@ -172,15 +259,18 @@ int main(int argc, char **argv)
     create.y = MAIN_WINDOW_MARGIN;
     create.w = (i16)(options.width - 2 * MAIN_WINDOW_MARGIN);
     create.h = (i16)(options.height - 2 * MAIN_WINDOW_MARGIN);
-    if (!open(&create)) {
+    t_Window *main_window = open(&create);
+    if (!main_window) {
         fprintf(stderr, "quillform: the editor did not start\n");
         CloseToolkit();
         return 1;
     }
+    // The first turn reopens the documents of the last run; the files named come after them.
+    RefreshHandlers(NULL);
+    OpenFiles(main_window, &options);
 
     int result = 0;
     if (options.script) {
-        RefreshHandlers(NULL);
         if (!PlayScript(&script, options.script)) {
             fprintf(stderr, "quillform: %s\n", script.error);
             result = 1;

@@ -2,7 +2,7 @@
 #pragma once
 
 #define TXT_ABOUT_TITLE "About Quillform"
-#define TXT_ABOUT_TEXT "Quillform Version 0.62"
+#define TXT_ABOUT_TEXT "Quillform Version " QF_VERSION  // the project's version, from CMakeLists.txt
 #define TXT_OPEN_TITLE "Open Source file"
 #define TXT_SAVE_AS_TITLE "Save Source as"
 #define TXT_OPEN_BUTTON "Open"
