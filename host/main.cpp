@@ -53,7 +53,7 @@ typedef struct T_HOST_OPTIONS {
     int file_count;
 } T_HOST_OPTIONS;
 
-// The same options, in the same words, as the manual page (packaging/quillform.1).
+// The same options, in the same words, as the manual page (docs/quillform.1).
 static const char *const usage_text =
     "Usage: quillform [OPTION]... [FILE]...\n"
     "Opens each FILE (a page source file) as a page, as if it were dropped on the main window.\n"
