@@ -186,6 +186,8 @@ void PagePaint(t_Handler *handler)
     ClipToUserArea(window);
     if (record->rubber_active == 1)
         PaintRubberBand(record, window, first);
+    if (record->rubber_active || record->drag_handle)  // the band's dots run; a held handle goes on
+        KeepAnimating();
     record->dash_phase = (u16)((record->dash_phase + 1) % DASH_STEPS);
     record->handle_gadget = NULL;
     if (!first)

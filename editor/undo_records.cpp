@@ -12,6 +12,8 @@
 //   later gadget that happens to get the same address is never taken for it.
 #include "editor/undo_records.h"
 
+#include <unordered_map>
+
 #include "editor/page_commands.h"
 
 #include <string.h>
@@ -115,17 +117,15 @@ void RedoCreateGadget(void *block)
 
 // --- Geometry ------------------------------------------------------------------------------------
 
-// The "Create gadget" record on the list that made `gadget`, or null.
-static T_CREATE_UNDO *CreationOf(T_WINEDIT_HANDLER *record, const t_gadget *gadget)
+// The "Create gadget" records on the list, by the gadget each made: one walk of the list, however
+// many gadgets a move takes along.
+typedef std::unordered_map<const t_gadget *, T_CREATE_UNDO *> T_CREATIONS;
+
+static void CollectCreations(T_WINEDIT_HANDLER *record, T_CREATIONS *creations)
 {
-    for (T_UNDO_NODE *node = (T_UNDO_NODE *)record->undo.nodes.first; node->next; node = node->next) {
-        if (node->undo != UndoCreateGadget)
-            continue;
-        T_CREATE_UNDO *data = (T_CREATE_UNDO *)node->data;
-        if (data->gadget == gadget)
-            return data;
-    }
-    return NULL;
+    for (T_UNDO_NODE *node = (T_UNDO_NODE *)record->undo.nodes.first; node->next; node = node->next)
+        if (node->undo == UndoCreateGadget)
+            creations->emplace(((T_CREATE_UNDO *)node->data)->gadget, (T_CREATE_UNDO *)node->data);
 }
 
 void AddGeometryUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget, u32 flag)
@@ -133,6 +133,8 @@ void AddGeometryUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget, u32 flag)
     (void)flag;  // moves and resizes are told apart by the size, not by the caller
     if (!gadget)
         return;
+    T_CREATIONS creations;
+    CollectCreations(record, &creations);
     for (t_gadget *g = (t_gadget *)FindFirstNode((t_Node *)gadget); g->next; g = g->next) {
         if (!(g->live_flags & GADGET_MARK_SELECTED))
             continue;
@@ -152,7 +154,8 @@ void AddGeometryUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget, u32 flag)
         data->before_height = g->prev_height;
         data->window = record->head.window;
         data->gadget = g;
-        data->origin = CreationOf(record, g);
+        T_CREATIONS::const_iterator found = creations.find(g);
+        data->origin = found == creations.end() ? NULL : found->second;
     }
 }
 

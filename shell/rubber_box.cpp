@@ -57,6 +57,7 @@ void MainHandlerPaint(t_Handler *handler)
     ClipInsideWindow(window->user_x, window->user_y, (i16)(window->user_x + window->user_w),
                      (i16)(window->user_y + window->user_h));
     if (record->box_active) {
+        KeepAnimating();  // the box's dots run
         record->box_x2 = (i16)(window->mouse_x - window->user_x);
         record->box_y2 = (i16)(window->mouse_y - window->user_y);
         DrawDottedBox((i16)(window->user_x + record->box_x1), (i16)(window->user_y + record->box_y1),

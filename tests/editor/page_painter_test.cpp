@@ -2,6 +2,11 @@
 // resized by a handle.
 #include "tests/editor/editor_fixture.h"
 
+#include <algorithm>
+#include <vector>
+
+#include "lumora/lumora_internal.h"
+
 static u32 Pixel(i16 x, i16 y)
 {
     i32 width, height, pitch;
@@ -124,4 +129,39 @@ TEST_F(PageTest, SliderResizeSetsItsMarksByOrientation)
         EXPECT_EQ(slider->slider_width, 120);
         EXPECT_EQ(slider->mark_width, c.mark_width);
     }
+}
+
+// A repaint fills each background only where no window above covers it; what shows is the same,
+// pixel for pixel, as filling every background whole, with a screen of pages and dialogs over
+// each other, a page that clips to the main window, a window without a background, and a second
+// page partly off the main window. The screen is wiped first, so a hole left unpainted shows.
+TEST_F(PageTest, RepaintLeavingCoveredBackgroundsShowsTheSame)
+{
+    Make(TOOL_BUTTON, 20, 20, 100, 24);
+    Make(TOOL_CHECK_BOX, 20, 60, 120, 20);
+    t_Window *other = CreatePageWindow(harness.main_window, (char *)"Other", 0x7C, 380, 200, 1100, 600);
+    ASSERT_NE(other, nullptr);
+    t_Window *bare = CreatePageWindow(harness.main_window, (char *)"Bare", 0x7C, 600, 40, 800, 160);
+    bare->flags |= WF_NO_BACK;
+    T_WINDOWOBJINIT init;
+    memset(&init, 0, sizeof(init));
+    init.x = 30, init.y = 30, init.w = 200, init.h = 120;
+    init.flags = WF_CHILD | WF_TITLE | WF_BORDER | WF_CLOSE;
+    init.parent = page;
+    ASSERT_NE(CreateObject(&CURRENT_DISPLAY->window_class->head, "Dialog", &init), nullptr);
+    UserTurns(2);
+    i32 width, height, pitch;
+    u32 *pixels = display->pixels(&width, &height, &pitch);
+    std::vector<u32> screens[2];
+    for (int reference = 0; reference < 2; reference++) {
+        lumora_state.paint_every_background = (u16)reference;
+        std::fill(pixels, pixels + (size_t)height * pitch, 0xFF00FFu);
+        PaintScreen();
+        screens[reference].assign(pixels, pixels + (size_t)height * pitch);
+    }
+    lumora_state.paint_every_background = 0;
+    size_t differ = 0;
+    for (size_t i = 0; i < screens[0].size(); i++)
+        differ += screens[0][i] != screens[1][i];
+    EXPECT_EQ(differ, 0u);
 }

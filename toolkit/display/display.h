@@ -15,6 +15,7 @@ typedef enum {
     INPUT_RESIZE,      // x, y: the new screen size
     INPUT_QUIT,        // the display's own window was closed
     INPUT_FOCUS_LOST,  // the display lost the input focus
+    INPUT_EXPOSED,     // the display's window shows again (uncovered, restored): only a repaint
 } T_INPUT_KIND;
 
 typedef struct T_INPUT_EVENT {
@@ -41,6 +42,8 @@ typedef struct T_DISPLAY_BACKEND {
     void (*set_mouse_rect)(const T_RPOS *rect);  // null: free
     void (*warp_mouse)(i16 x, i16 y);
     u16 (*qualifiers)(void);  // the qualifier keys held now
+    // Sleeps until input is pending or `ms` have passed (sdl); advances virtual time (headless).
+    void (*wait_for_input)(u32 ms);
 } T_DISPLAY_BACKEND;
 
 extern const T_DISPLAY_BACKEND display_sdl;

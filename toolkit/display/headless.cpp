@@ -99,6 +99,7 @@ const T_DISPLAY_BACKEND display_headless = {
     "headless",        HeadlessOpen,      HeadlessClose,        HeadlessPixels,
     HeadlessPoll,      HeadlessPresent,   HeadlessTicks,        HeadlessWait,
     HeadlessSetCursor, HeadlessSetMouseRect, HeadlessWarpMouse, HeadlessQualifiers,
+    HeadlessWait,  // waiting for input is virtual time too
 };
 
 void HeadlessPush(const T_INPUT_EVENT *event) {

@@ -186,6 +186,16 @@ static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event) {
             event->kind = INPUT_FOCUS_LOST;
             return 1;
         }
+        switch (in->window.event) {
+        case SDL_WINDOWEVENT_EXPOSED:  // the toolkit repaints after any input; this is one
+        case SDL_WINDOWEVENT_SHOWN:
+        case SDL_WINDOWEVENT_RESTORED:
+        case SDL_WINDOWEVENT_FOCUS_GAINED:
+            event->kind = INPUT_EXPOSED;
+            return 1;
+        default:
+            break;
+        }
         if (in->window.event != SDL_WINDOWEVENT_SIZE_CHANGED) return 0;
         if (in->window.data1 == sdl.width && in->window.data2 == sdl.height) return 0;
         if (!MakeFramebuffer(in->window.data1, in->window.data2)) {
@@ -229,6 +239,10 @@ static void SdlWait(u32 ms) {
     SDL_Delay(ms);
 }
 
+static void SdlWaitForInput(u32 ms) {
+    SDL_WaitEventTimeout(nullptr, (int)ms);  // the event stays queued for the next poll
+}
+
 static void SdlSetCursor(u16 image) {
     SDL_SystemCursor which = SDL_SYSTEM_CURSOR_ARROW;
     for (const auto &entry : cursor_images)
@@ -257,6 +271,7 @@ static u16 SdlQualifiers(void) {
 const T_DISPLAY_BACKEND display_sdl = {
     "sdl",        SdlOpen,         SdlClose,     SdlPixels, SdlPoll,      SdlPresent,
     SdlTicks,     SdlWait,         SdlSetCursor, SdlSetMouseRect, SdlWarpMouse, SdlQualifiers,
+    SdlWaitForInput,
 };
 
 // A program built on a page titles its window with the page's name and gives it the page's size;

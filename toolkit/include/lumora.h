@@ -430,6 +430,10 @@ void SetActiveToolBarEntry(T_TOOLBAR_HANDLER *toolbar, u16 entry);
 int GetToolBarEntryRect(T_TOOLBAR_HANDLER *toolbar, u16 entry, T_RPOS *rect);
 
 // --- The loop ------------------------------------------------------------------------------------
+// For a paint function that draws something moving by itself (running dots): the next turn
+// repaints even when nothing else happens. A real display stops repainting a while after the last
+// input otherwise, and waits for input.
+void KeepAnimating(void);
 // Starts the toolkit on the chosen display back end; false when the display can't be opened.
 int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_root);
 void CloseToolkit(void);

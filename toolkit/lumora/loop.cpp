@@ -6,7 +6,9 @@
 
 #include "lumora/lumora_internal.h"
 
-#define FRAME_MS 16  // one turn per frame: about 60 a second
+#define FRAME_MS 16     // one turn per frame: about 60 a second
+#define SETTLE_MS 1500  // after input the screen keeps repainting this long (hover texts show)
+#define IDLE_WAIT_MS 500  // then a turn waits for input at most this long
 
 u32 MessageMask(t_Window *window) { return WINDOW_PRIVATE(window)->message_mask; }
 
@@ -41,10 +43,15 @@ void PostWindowMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
     AddTail(&lumora_state.posted, (t_Node *)m);
 }
 
+void KeepAnimating(void) { lumora_state.animating = 1; }
+
+static void NoteActivity(void) { lumora_state.last_activity_ms = _LumoraBase->time_ms; }
+
 // Delivers the messages posted before this point; those posted meanwhile wait for the next turn.
 static void DeliverPosted(void) {
     t_List *posted = &lumora_state.posted;
     if (LIST_EMPTY(posted)) return;
+    NoteActivity();
     T_POSTED_MESSAGE *last = (T_POSTED_MESSAGE *)posted->last;
     for (;;) {
         if (LIST_EMPTY(posted)) return;
@@ -75,6 +82,7 @@ static void DeliverFirstRun(void) {
     for (t_Window *w : AllWindows()) {
         if (!IsWindowLive(w) || (w->state_flags & WSF_FIRSTTIME_DONE)) continue;
         w->state_flags |= WSF_FIRSTTIME_DONE;
+        NoteActivity();
         DeliverMessage(w, 0, ACT_FIRSTTIME_RUN, NULL);
     }
 }
@@ -102,15 +110,25 @@ void RefreshHandlers(t_Handler *handler) {
     T_INPUT_EVENT event;
     while (display->poll(&event)) {
         base->time_ms = display->ticks();
+        NoteActivity();
         RouteInput(&event);
     }
     DeliverPosted();
     DeliverFirstRun();
-    RepaintScreen();
+    // A real display that has had no input for a while and shows nothing moving is left as it
+    // is: no repaint, and the turn waits for input. The headless one repaints every turn, so
+    // that a turn of a test or script always paints.
+    int animating = lumora_state.animating;
+    lumora_state.animating = 0;
+    int quiet = display != &display_headless && !animating &&
+                base->time_ms - lumora_state.last_activity_ms > SETTLE_MS;
+    if (!quiet) RepaintScreen();
     base->turn_depth--;
     if (base->turn_depth == 0) FreeRemovedWindows();
     if (display == &display_headless) {
         display->wait(FRAME_MS);
+    } else if (quiet) {
+        display->wait_for_input(IDLE_WAIT_MS);
     } else {
         u32 spent = display->ticks() - start;
         if (spent < FRAME_MS) display->wait(FRAME_MS - spent);

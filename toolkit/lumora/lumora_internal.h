@@ -71,6 +71,9 @@ typedef struct T_LUMORA_STATE {
     T_TEXTURE_BANK *own_icon_bank;  // made by the toolkit: freed at close
     T_DISPLAY_RECORD record;
     T_SURFACE screen;
+    u16 paint_every_background;  // tests: fill each background whole, as the reference to compare
+    u32 last_activity_ms;  // the last input or message: the screen settles for a while after it
+    u16 animating;         // a paint asked for the next turn's repaint (KeepAnimating)
 } T_LUMORA_STATE;
 
 extern T_LUMORA_STATE lumora_state;

@@ -22,6 +22,58 @@ int RectIntersect(T_RPOS *a, const T_RPOS *b) {
 
 static void Clip(const T_RPOS &r) { ClipInsideWindow(r.x, r.y, r.x + r.w, r.y + r.h); }
 
+// --- Backgrounds under windows ----------------------------------------------------------------
+// A background is filled only where no window painted on top of it will cover it: a window that
+// draws its background paints the whole of its frame, so the frames of the windows above are holes
+// in the fill. That keeps a repaint from filling the screen three times over (the desktop, the
+// main window, a page). `lumora_state.paint_every_background` turns it off, for tests that compare.
+
+#define HOLES_MAX 32
+
+// Whether a window covers all of its frame (as far as its clip lets it show) when it is painted.
+static int CoversItsFrame(t_Window *w) {
+    return IsWindowLive(w) && w->state == WINDOW_STATE_OPEN && !IsPopup(w) && !(w->flags & (WF_NO_BACK | WF_SEETHROUGH));
+}
+
+// Fills `area` but for the holes.
+static void FillAround(T_RPOS area, u32 colour, const T_RPOS *holes, int count) {
+    if (area.w <= 0 || area.h <= 0) return;
+    while (count > 0) {
+        T_RPOS hole = holes[0];
+        if (RectIntersect(&hole, &area)) break;
+        holes++, count--;
+    }
+    if (count == 0) {
+        DrawRectangle(area.x, area.y, area.w, area.h, colour);
+        return;
+    }
+    T_RPOS hole = holes[0];
+    RectIntersect(&hole, &area);
+    i16 area_bottom = (i16)(area.y + area.h), hole_bottom = (i16)(hole.y + hole.h);
+    i16 area_right = (i16)(area.x + area.w), hole_right = (i16)(hole.x + hole.w);
+    T_RPOS pieces[4] = {
+        {area.x, area.y, area.w, (i16)(hole.y - area.y)},              // above
+        {area.x, hole_bottom, area.w, (i16)(area_bottom - hole_bottom)},  // below
+        {area.x, hole.y, (i16)(hole.x - area.x), hole.h},                // left
+        {hole_right, hole.y, (i16)(area_right - hole_right), hole.h},    // right
+    };
+    for (const T_RPOS &piece : pieces) FillAround(piece, colour, holes + 1, count - 1);
+}
+
+// The frames of the windows of `list` that cover them, each cut to where it can show: `user` for
+// the children that clip to their parent, `clip` for the others. Returns how many.
+static int CollectHoles(t_List *list, const T_RPOS &user, const T_RPOS &clip, T_RPOS *holes) {
+    int count = 0;
+    if (lumora_state.paint_every_background) return 0;
+    for (t_Node *n = list->first; n->next && count < HOLES_MAX; n = n->next) {
+        t_Window *c = (t_Window *)n;
+        if (!CoversItsFrame(c)) continue;
+        T_RPOS frame = {c->x, c->y, c->w, c->h};
+        if (RectIntersect(&frame, (c->flags & WF_CLIP_PARENT) ? &user : &clip)) holes[count++] = frame;
+    }
+    return count;
+}
+
 static void PaintWindow(t_Window *w, T_RPOS clip) {
     if (!IsWindowLive(w) || w->state != WINDOW_STATE_OPEN) return;
     T_RPOS frame = {w->x, w->y, w->w, w->h};
@@ -35,8 +87,14 @@ static void PaintWindow(t_Window *w, T_RPOS clip) {
     if (user_visible) {
         Clip(user);
         if (!(w->flags & WF_NO_BACK)) {
-            DrawRectangle(user.x, user.y, user.w, user.h, w->UserAreaColour);
-            if (w->bitmap) PaintWindowBitmap(w);
+            if (w->bitmap) {
+                DrawRectangle(user.x, user.y, user.w, user.h, w->UserAreaColour);
+                PaintWindowBitmap(w);
+            } else {
+                T_RPOS holes[HOLES_MAX];
+                T_RPOS whole_user = {w->user_x, w->user_y, w->user_w, w->user_h};
+                FillAround(user, w->UserAreaColour, holes, CollectHoles(&w->children, whole_user, clip, holes));
+            }
         }
         PaintGadgets(w);
     }
@@ -105,8 +163,9 @@ void PaintScreen(void) {
     T_DISPLAY *d = CURRENT_DISPLAY;
     T_RPOS screen = {0, 0, d->width, d->height};
     ClipAll();
-    DrawRectangle(0, 0, d->width, d->height, d->record->desktop_colour);
     t_List *top = &d->window_class->windows;
+    T_RPOS holes[HOLES_MAX];
+    FillAround(screen, d->record->desktop_colour, holes, CollectHoles(top, screen, screen, holes));
     for (t_Node *n = top->first; n->next; n = n->next)
         if (!IsPopup((t_Window *)n)) PaintWindow((t_Window *)n, screen);
     for (t_Node *n = top->first; n->next; n = n->next) {
