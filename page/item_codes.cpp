@@ -16,6 +16,7 @@ void InitItemCodes(T_ITEM_CODES *codes)
     codes->slots = NULL;
     codes->capacity = 0;
     codes->used = 0;
+    codes->total = 0;
     codes->lowest_free = 1;
 }
 
@@ -49,7 +50,7 @@ static int Grow(T_ITEM_CODES *codes)
     T_CODE_SLOT *slots = (T_CODE_SLOT *)AllocMemC(capacity * (u32)sizeof(T_CODE_SLOT));
     if (!slots)
         return 0;
-    T_ITEM_CODES bigger = {slots, capacity, codes->used, codes->lowest_free};
+    T_ITEM_CODES bigger = {slots, capacity, codes->used, codes->total, codes->lowest_free};
     for (u32 i = 0; i < codes->capacity; i++)
         if (codes->slots[i].count)
             *Find(&bigger, codes->slots[i].code) = codes->slots[i];
@@ -83,6 +84,7 @@ int AddItemCodeOf(T_ITEM_CODES *codes, u32 code, void *holder)
         codes->used++;
     }
     slot->count++;
+    codes->total++;
     return 1;
 }
 
@@ -105,6 +107,7 @@ void RemoveItemCode(T_ITEM_CODES *codes, u32 code)
     T_CODE_SLOT *slot = Find(codes, code);
     if (!slot || !slot->count || slot->code != code)
         return;
+    codes->total--;
     if (--slot->count)
         return;
     DropSlot(codes, slot);

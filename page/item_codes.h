@@ -13,6 +13,7 @@ typedef struct T_ITEM_CODES {
     T_CODE_SLOT *slots;  // open addressing; a power of two long, at most half full
     u32 capacity;
     u32 used;         // slots with a count
+    u32 total;        // the counts added up: how many holders there are
     u32 lowest_free;  // no code below it is free but those freed since (it is pulled down then)
 } T_ITEM_CODES;
 

@@ -93,3 +93,11 @@ u32 NextFreeItemCodeOf(t_Window *window)
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     return handler ? NextFreeItemCode(handler->first_gadget) : 1;
 }
+
+u32 PageGadgetCount(t_Window *window)
+{
+    if (T_ITEM_CODES *codes = PageItemCodes(window))
+        return codes->total;
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    return handler ? CountListEntries(&handler->gadget_list) : 0;
+}

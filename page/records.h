@@ -99,6 +99,8 @@ void ForgetGadgetItemCode(t_Window *window, t_gadget *gadget);
 // The smallest positive item code that no gadget of the window holds: from the set on a page, by a
 // walk elsewhere.
 u32 NextFreeItemCodeOf(t_Window *window);
+// How many gadgets the window has: from the set on a page, by a walk elsewhere.
+u32 PageGadgetCount(t_Window *window);
 // The first gadget with this design item code in the list that the window's gadget handler has
 // in use, or null.
 t_gadget *FindGadgetByCode(t_Window *window, u32 code);

@@ -58,4 +58,3 @@ i16 ToolOfType(u16 type, u32 flags);
 // Opens a page from its file: refuses a file already open, reads it, repairs duplicate item codes
 // and numbers the tab order. Null (after a message box) when nothing was opened.
 t_Window *OpenPageFile(t_Window *main_window, const char *path);
-void ResolveTabOrder(t_Window *window);

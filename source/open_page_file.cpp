@@ -23,10 +23,11 @@ static void ShowPathMessage(t_Window *parent, const char *title, const char *for
     FreeMem(text, size);
 }
 
-// Gives each later gadget that shares an item code with one before it the smallest code that no
-// gadget holds. The codes seen so far are a set, and the page's own set gives the free code, so
-// the repair is one walk.
-static int RepairDuplicateItemCodes(t_Window *page)
+// The repair of duplicate item codes and the numbering of the tab order, in one walk of the page:
+// each later gadget that shares its code with one before it takes the smallest code that no gadget
+// holds (the page's own set of codes gives it); the codes seen so far, each with its first holder,
+// are then the index by which the tab links are followed from the head. True when a code changed.
+static int RepairCodesAndNumberTabs(t_Window *page)
 {
     t_Gaget_Handler *handler = FindGadgetHandler(page);
     if (!handler)
@@ -34,36 +35,19 @@ static int RepairDuplicateItemCodes(t_Window *page)
     T_ITEM_CODES seen;
     InitItemCodes(&seen);
     int changed = 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
+    u32 count = 0;
+    t_gadget *head = NULL;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next, count++) {
         if (g->item_code != 0 && ItemCodeCount(&seen, g->item_code)) {
             SetGadgetItemCode(page, g, NextFreeItemCodeOf(page));
             changed = 1;
         }
-        if (!AddItemCode(&seen, g->item_code)) {
-            myprintf(0, "No memory to repair the item codes of %s\n", page->name);
-            break;
-        }
-    }
-    FreeItemCodes(&seen);
-    return changed;
-}
-
-void ResolveTabOrder(t_Window *window)
-{
-    t_Gaget_Handler *handler = FindGadgetHandler(window);
-    if (!handler)
-        return;
-    // One walk finds the head and each code's first holder: each link is then one look-up.
-    t_gadget *head = NULL;
-    u32 count = 0;
-    T_ITEM_CODES by_code;
-    InitItemCodes(&by_code);
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next, count++) {
         if (!head && (g->tab[0] & SRC_TAB_FIRST))
             head = g;
-        if (!AddItemCodeOf(&by_code, g->item_code, g)) {
-            myprintf(0, "No memory to number the tab order of %s\n", window->name);
-            return;
+        if (!AddItemCodeOf(&seen, g->item_code, g)) {
+            myprintf(0, "No memory to repair the item codes of %s\n", page->name);
+            FreeItemCodes(&seen);
+            return changed;
         }
     }
     if (head) {
@@ -71,7 +55,7 @@ void ResolveTabOrder(t_Window *window)
         u32 code = head->tab[1];
         // A chain longer than the list can only be a loop that misses the head: it stops there.
         for (u32 n = 2; n <= count + 1; n++) {
-            t_gadget *g = (t_gadget *)FirstHolder(&by_code, code);
+            t_gadget *g = (t_gadget *)FirstHolder(&seen, code);
             if (!g || g == head)
                 break;
             g->tab_index = n;
@@ -80,7 +64,8 @@ void ResolveTabOrder(t_Window *window)
             code = g->tab[1];
         }
     }
-    FreeItemCodes(&by_code);
+    FreeItemCodes(&seen);
+    return changed;
 }
 
 t_Window *OpenPageFile(t_Window *main_window, const char *path)
@@ -105,11 +90,9 @@ t_Window *OpenPageFile(t_Window *main_window, const char *path)
     T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
     AllocString(path, &record->file_name);
     SetTitleBarHoverTitle(page, record->file_name.text);
-    t_Gaget_Handler *handler = FindGadgetHandler(page);
-    if (handler && RepairDuplicateItemCodes(page)) {
+    if (RepairCodesAndNumberTabs(page)) {
         NewMsgBox(page, TXT_WARNING_TITLE, TXT_DUPLICATES_REMAPPED, DUPLICATES_STYLE, DUPLICATES_ITEM_CODE);
         page->state_flags |= WSF_MODIFIED;
     }
-    ResolveTabOrder(page);
     return page;
 }

@@ -133,7 +133,7 @@ void SavePage(t_Window *window, const char *path)
     if ((settings & CONFIG_TYPE_ORDER) && gadget_handler)
         OrderGadgetsByType(gadget_handler);
 
-    u32 gadgets = gadget_handler ? CountListEntries(&gadget_handler->gadget_list) : 0;
+    u32 gadgets = PageGadgetCount(window);
     T_PROGRESS_BAR *bar = NewProgressBar(SRC_SAVE_BAR_TITLE, gadgets + 1);
 
     // The window's name without its spaces names the functions; a page name has at most 127

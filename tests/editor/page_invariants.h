@@ -67,6 +67,9 @@ static inline void CheckItemCodes(t_Window *page, T_WINEDIT_HANDLER *record, t_G
     for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
         if (ItemCodeCount(&record->item_codes, g->item_code) != ItemCodeCount(&recount, g->item_code))
             Violation(out, "item code %ld is counted wrongly", (long)g->item_code);
+    if (record->item_codes.total != gadgets)
+        Violation(out, "the set counts %ld holders more than the gadgets",
+                  (long)record->item_codes.total - (long)gadgets);
     if (record->item_codes.used != recount.used)
         Violation(out, "the set holds %ld codes more than the gadgets",
                   (long)record->item_codes.used - (long)recount.used);
