@@ -4,29 +4,38 @@
 #include "source/source_format.h"
 #include "source/source_writer.h"
 
-// The first member in list order with each tab number: an array for the numbers up to the count
-// of gadgets (as a page numbers them), a set for any beyond.
+// What the links need of a gadget, gathered in one walk into a compact array, so that working the
+// links out reads no gadget again.
+typedef struct T_LINK_ENTRY {
+    t_gadget *gadget;
+    u32 item_code;
+    u32 tab_index;
+} T_LINK_ENTRY;
+
+// The first member in list order with each tab number, as a place in the array (+1, 0 for none):
+// an array for the numbers up to the count of gadgets (as a page numbers them), a set beyond.
 typedef struct T_TAB_INDEX {
-    t_gadget **dense;  // [number], for 0 to dense_size - 1
+    u32 *dense;  // [number], for 0 to dense_size - 1
     u32 dense_size;
-    T_ITEM_CODES sparse;
+    T_ITEM_CODES sparse;  // number -> place + 1, in the holder pointer
 } T_TAB_INDEX;
 
-static int AddMember(T_TAB_INDEX *index, u32 number, t_gadget *g)
+static int AddMember(T_TAB_INDEX *index, u32 number, u32 place)
 {
     if (number < index->dense_size) {
         if (!index->dense[number])
-            index->dense[number] = g;
+            index->dense[number] = place + 1;
         return 1;
     }
-    return AddItemCodeOf(&index->sparse, number, g);
+    return AddItemCodeOf(&index->sparse, number, (void *)(uintptr_t)(place + 1));
 }
 
-static t_gadget *Member(const T_TAB_INDEX *index, u32 number)
+// The member's entry, or null.
+static const T_LINK_ENTRY *Member(const T_TAB_INDEX *index, const T_LINK_ENTRY *entries, u32 number)
 {
-    if (number < index->dense_size)
-        return index->dense[number];
-    return (t_gadget *)FirstHolder(&index->sparse, number);
+    u32 place = number < index->dense_size ? index->dense[number]
+                                          : (u32)(uintptr_t)FirstHolder(&index->sparse, number);
+    return place ? &entries[place - 1] : NULL;
 }
 
 // Members are the gadgets with an item code. The first member in list order with an index is the
@@ -38,45 +47,53 @@ void BuildTabLinks(t_Window *window)
     if (!handler)
         return;
 
+    u32 count = PageGadgetCount(window);
     T_TAB_INDEX index;
-    index.dense_size = PageGadgetCount(window) + 2;
-    index.dense = (t_gadget **)AllocMemC(index.dense_size * (u32)sizeof(t_gadget *));
+    index.dense_size = count + 2;
+    index.dense = (u32 *)AllocMemC(index.dense_size * (u32)sizeof(u32));
     InitItemCodes(&index.sparse);
-    u32 highest = 0;
-    t_gadget *first_highest = NULL;
-    int ok = index.dense != NULL;
-    for (t_gadget *g = handler->first_gadget; ok && g->next; g = g->next) {
-        if (g->item_code == 0)
-            continue;
-        ok = AddMember(&index, g->tab_index, g);
-        if (!first_highest || g->tab_index > highest) {
-            highest = g->tab_index;
-            first_highest = g;
+    T_LINK_ENTRY *entries = (T_LINK_ENTRY *)AllocMemC((count + 1) * (u32)sizeof(T_LINK_ENTRY));
+    u32 highest = 0, places = 0;
+    const T_LINK_ENTRY *first_highest = NULL;
+    int ok = index.dense && entries;
+    for (t_gadget *g = handler->first_gadget; ok && g->next && places < count; g = g->next) {
+        T_LINK_ENTRY *entry = &entries[places];
+        *entry = T_LINK_ENTRY{g, g->item_code, g->tab_index};
+        if (g->item_code != 0) {
+            ok = AddMember(&index, g->tab_index, places);
+            if (!first_highest || g->tab_index > highest) {
+                highest = g->tab_index;
+                first_highest = entry;
+            }
         }
+        places++;
     }
     if (!ok) {
         myprintf(0, "No memory for the tab links of %s\n", window->name);
     } else {
-        for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-            if (g->item_code == 0) {
+        for (u32 i = 0; i < places; i++) {
+            const T_LINK_ENTRY *e = &entries[i];
+            t_gadget *g = e->gadget;
+            if (e->item_code == 0) {
                 g->tab[0] = g->tab[1] = 0;
                 continue;
             }
-            u32 number = g->tab_index;
-            t_gadget *before = Member(&index, number == 1 ? highest : number - 1);
-            if (before == g) {  // the only member with an index
+            u32 number = e->tab_index;
+            const T_LINK_ENTRY *before = Member(&index, entries, number == 1 ? highest : number - 1);
+            if (before == e) {  // the only member with an index
                 g->tab[0] = g->tab[1] = 0;
                 continue;
             }
             if (!before)  // a gap in the numbers, or index 0
                 before = first_highest;
             g->tab[0] = before->item_code | (number == 1 ? SRC_TAB_FIRST : 0);
-            t_gadget *after = Member(&index, number + 1);
+            const T_LINK_ENTRY *after = Member(&index, entries, number + 1);
             if (!after)
-                after = Member(&index, 1);
+                after = Member(&index, entries, 1);
             g->tab[1] = after ? after->item_code : 0;
         }
     }
-    FreeMem(index.dense, index.dense_size * (u32)sizeof(t_gadget *));
+    FreeMem(entries, (count + 1) * (u32)sizeof(T_LINK_ENTRY));
+    FreeMem(index.dense, index.dense_size * (u32)sizeof(u32));
     FreeItemCodes(&index.sparse);
 }

@@ -139,16 +139,29 @@ void DrawDottedBox(i16 x, i16 y, i16 w, i16 h, u32 colour, u16 phase) {
     if (width == 0 || height == 0) return;
     colour &= COLOUR_MASK;
     i32 right = left + width - 1, bottom = top + height - 1;
+    if (right < clip.left || left >= clip.right || bottom < clip.top || top >= clip.bottom) return;
     u32 k = DOT_PERIOD - (phase % DOT_PERIOD);  // step 0 has (0 - phase) mod 4
-    auto dot = [&](i32 px, i32 py) {
-        if ((k++ % DOT_PERIOD) < DOT_ON) PlotClipped(&clip, px, py, colour);
+    // A side runs from (x, y) by (dx, dy) for `count` steps; the steps' dots are every DOT_PERIOD.
+    // A side wholly inside the clip is plotted without a test per pixel.
+    auto side = [&](i32 x, i32 y, i32 dx, i32 dy, i32 count) {
+        if (count <= 0) return;
+        i32 x_end = x + dx * (count - 1), y_end = y + dy * (count - 1);
+        int inside = std::min(x, x_end) >= clip.left && std::max(x, x_end) < clip.right &&
+                     std::min(y, y_end) >= clip.top && std::max(y, y_end) < clip.bottom;
+        u32 *pixels = draw_surface->pixels;
+        i32 pitch = draw_surface->pitch;
+        for (i32 i = 0; i < count; i++, x += dx, y += dy)
+            if ((k++ % DOT_PERIOD) < DOT_ON) {
+                if (inside)
+                    pixels[y * pitch + x] = colour;
+                else
+                    PlotClipped(&clip, x, y, colour);
+            }
     };
-    for (i32 px = left; px <= right; px++) dot(px, top);
-    for (i32 py = top + 1; py <= bottom; py++) dot(right, py);
-    if (height > 1)
-        for (i32 px = right - 1; px >= left; px--) dot(px, bottom);
-    if (width > 1)
-        for (i32 py = bottom - 1; py > top; py--) dot(left, py);
+    side(left, top, 1, 0, width);
+    side(right, top + 1, 0, 1, height - 1);
+    if (height > 1) side(right - 1, bottom, -1, 0, width - 1);
+    if (width > 1) side(left, bottom - 1, 0, -1, height - 2);
 }
 
 void DrawBevelBox(i16 x, i16 y, i16 w, i16 h, u32 light, u32 dark) {
