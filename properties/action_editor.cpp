@@ -57,20 +57,11 @@ static void AddActionCombo(t_Window *window, t_Gaget_Handler *handler, int right
 {
     i16 row_h = DialogRowHeight();
     u32 action = (*(T_ACTION_EDITOR *)window->user_data).gadget->action;
-    T_GADGETOBJECTINIT init = {};
-    init.type = GADGET_TYPE_COMBO;
-    init.item_code = right ? ACTION_ITEM_RIGHT_COMBO : ACTION_ITEM_LEFT_COMBO;
-    init.x = right ? 148 : 4;
-    init.y = (i16)(row_h + 12);
-    init.base_width = COMBO_WIDTH;
-    init.base_height = COMBO_HEIGHT;
-    init.flags = COMBO_FLAGS;
-    init.action = ACT_LMOUSE_UP;
-    *list = (t_List *)CreateObject(&handler->head, "Combo", &init);
-    *gadget = FindGadgetByItemCode(window, init.item_code);
-    if (!*list || !*gadget)
+    T_RPOS rect = {(i16)(right ? 148 : 4), (i16)(row_h + 12), COMBO_WIDTH, COMBO_HEIGHT};
+    if (!AddDialogCombo(window, right ? ACTION_ITEM_RIGHT_COMBO : ACTION_ITEM_LEFT_COMBO, rect, COMBO_FLAGS, NULL,
+                        (void **)list, gadget))
         return;
-    SaveSetGadgetList(window, *list);
+    T_GADGETOBJECTINIT init = {};
     i16 y = 4;
     for (const T_ACTION_BOX &box : action_boxes) {
         if (box.right != right)
@@ -87,20 +78,6 @@ static void AddActionCombo(t_Window *window, t_Gaget_Handler *handler, int right
         y = (i16)(y + row_h);
     }
     RestoreGadgetList(window);
-}
-
-static t_gadget *AddLabelOrButton(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x,
-                                  i16 width, u32 flags, u32 action)
-{
-    T_GADGETOBJECTINIT init = {};
-    init.type = type;
-    init.item_code = item_code;
-    init.x = x;
-    init.y = 4;
-    init.base_width = width;
-    init.flags = flags;
-    init.action = action;
-    return (t_gadget *)CreateObject(&handler->head, text, &init);
 }
 
 t_Window *OpenActionEditor(t_Window *page)
@@ -123,13 +100,14 @@ t_Window *OpenActionEditor(t_Window *page)
     gadget->saved_action = gadget->action;
     AddActionCombo(window, handler, 0, &record->left_combo_list, &record->left_combo_gadget);
     AddActionCombo(window, handler, 1, &record->right_combo_list, &record->right_combo_gadget);
-    AddLabelOrButton(handler, TXT_LEFT_BUTTON, GADGET_TYPE_TEXT, 0, 6, 0, TITLE_FLAGS, 0);
-    AddLabelOrButton(handler, TXT_RIGHT_BUTTON, GADGET_TYPE_TEXT, 0, 156, 0, TITLE_FLAGS, 0);
-    AddLabelOrButton(handler, TXT_DEFAULTS, GADGET_TYPE_BUTTON, ACTION_ITEM_DEFAULTS, 4, 8, CORNER_FLAGS, ACT_LMOUSE_UP);
-    t_gadget *ok = AddLabelOrButton(handler, TXT_OK, GADGET_TYPE_BUTTON, ACTION_ITEM_OK, 4, 8, CORNER_RIGHT_FLAGS,
-                                    ACT_LMOUSE_UP);
-    AddLabelOrButton(handler, TXT_CANCEL, GADGET_TYPE_BUTTON, ACTION_ITEM_CANCEL,
-                     (i16)((ok ? ok->base_width : 0) + BUTTON_GAP), 8, CORNER_RIGHT_FLAGS, ACT_LMOUSE_UP);
+    AddDialogGadget(handler, TXT_LEFT_BUTTON, GADGET_TYPE_TEXT, 0, 6, 4, 0, 0, TITLE_FLAGS, 0);
+    AddDialogGadget(handler, TXT_RIGHT_BUTTON, GADGET_TYPE_TEXT, 0, 156, 4, 0, 0, TITLE_FLAGS, 0);
+    AddDialogGadget(handler, TXT_DEFAULTS, GADGET_TYPE_BUTTON, ACTION_ITEM_DEFAULTS, 4, 4, 8, 0, CORNER_FLAGS,
+                    ACT_LMOUSE_UP);
+    t_gadget *ok = AddDialogGadget(handler, TXT_OK, GADGET_TYPE_BUTTON, ACTION_ITEM_OK, 4, 4, 8, 0,
+                                   CORNER_RIGHT_FLAGS, ACT_LMOUSE_UP);
+    AddDialogGadget(handler, TXT_CANCEL, GADGET_TYPE_BUTTON, ACTION_ITEM_CANCEL,
+                    (i16)((ok ? ok->base_width : 0) + BUTTON_GAP), 4, 8, 0, CORNER_RIGHT_FLAGS, ACT_LMOUSE_UP);
     handler->current_gadget = NULL;
     ResizeWindowToContents(window);
     KeepDialogInView(window);

@@ -32,6 +32,42 @@ t_Window *OpenDialogWindow(t_Window *page, const T_DIALOG_FRAME *frame, T_TEXTUR
     return window;
 }
 
+t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
+                          i16 width, i16 height, u32 flags, u32 action)
+{
+    T_GADGETOBJECTINIT init = {};
+    init.type = type;
+    init.item_code = item_code;
+    init.x = x;
+    init.y = y;
+    init.base_width = width;
+    init.base_height = height;
+    init.flags = flags;
+    init.action = action;
+    return (t_gadget *)CreateObject(&handler->head, text, &init);
+}
+
+int AddDialogCombo(t_Window *dialog, u32 item_code, T_RPOS rect, u32 flags, T_TEXTURE_BANK *icon_bank, void **list,
+                   t_gadget **gadget)
+{
+    T_GADGETOBJECTINIT init = {};
+    init.type = GADGET_TYPE_COMBO;
+    init.item_code = item_code;
+    init.x = rect.x;
+    init.y = rect.y;
+    init.base_width = rect.w;
+    init.base_height = rect.h;
+    init.flags = flags;
+    init.action = ACT_LMOUSE_UP;
+    init.icon_bank = icon_bank;
+    *list = CreateObject(&FindGadgetHandler(dialog)->head, "Combo", &init);
+    *gadget = FindGadgetByItemCode(dialog, item_code);
+    if (!*list || !*gadget)
+        return 0;
+    SaveSetGadgetList(dialog, (t_List *)*list);
+    return 1;
+}
+
 i16 DialogRowHeight(void)
 {
     return (i16)(GetFontHeight(DISPLAY_RECORD->system_font) + DIALOG_ROW_EXTRA);

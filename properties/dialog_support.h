@@ -17,6 +17,15 @@ typedef struct T_DIALOG_FRAME {
 // made (nothing is left open then).
 t_Window *OpenDialogWindow(t_Window *page, const T_DIALOG_FRAME *frame, struct T_TEXTURE_BANK *icon_bank);
 
+// A gadget of a dialog from the values that differ between its gadgets; the gadget, or null.
+t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
+                          i16 width, i16 height, u32 flags, u32 action);
+// A combo "Combo" of the dialog at `rect` that reports ACT_LMOUSE_UP, with what CreateObject gave
+// for it and its gadget; when both were made, the gadgets made next go into it (until
+// RestoreGadgetList) and the result is true.
+int AddDialogCombo(t_Window *dialog, u32 item_code, T_RPOS rect, u32 flags, struct T_TEXTURE_BANK *icon_bank,
+                   void **list, t_gadget **gadget);
+
 // The height of one row of controls: the display's system font and 4.
 i16 DialogRowHeight(void);
 

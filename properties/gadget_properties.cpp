@@ -238,20 +238,11 @@ void BuildGadgetProperties(t_Gaget_Handler *handler, T_GADGET_PROPERTIES *record
     t_Window *window = handler->head.window;
     t_gadget *gadget = record->gadget;
     i16 row_h = DialogRowHeight();
-    T_GADGETOBJECTINIT init = {};
-    init.type = GADGET_TYPE_COMBO;
-    init.x = PROP_MARGIN;
-    init.y = PROP_MARGIN;
-    init.base_width = (i16)(user->w - 2 * PROP_MARGIN);
-    init.base_height = (i16)(user->h - 2 * PROP_MARGIN);
-    init.item_code = PROP_ITEM_COMBO;
-    init.flags = PROP_COMBO_FLAGS;
-    init.action = ACT_LMOUSE_UP;
-    record->combo_list = (t_List *)CreateObject(&handler->head, "Combo", &init);
-    record->combo_gadget = FindGadgetByItemCode(window, PROP_ITEM_COMBO);
-    if (!record->combo_list || !record->combo_gadget)
+    T_RPOS rect = {PROP_MARGIN, PROP_MARGIN, (i16)(user->w - 2 * PROP_MARGIN), (i16)(user->h - 2 * PROP_MARGIN)};
+    if (!AddDialogCombo(window, PROP_ITEM_COMBO, rect, PROP_COMBO_FLAGS, NULL, (void **)&record->combo_list,
+                        &record->combo_gadget))
         return;
-    SaveSetGadgetList(window, record->combo_list);
+    T_GADGETOBJECTINIT init = {};
 
     int slider = gadget->type == GADGET_TYPE_SLIDER;
     i16 y = 0;

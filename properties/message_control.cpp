@@ -40,17 +40,10 @@ t_Window *OpenMessageControl(t_Window *page)
     window->title_suffix = page->name;
     t_Gaget_Handler *handler = FindGadgetHandler(window);
 
+    T_RPOS rect = {0, 0, 8, 8};  // the combo takes the window's size at the first ACT_FIRSTTIME_RUN
     T_GADGETOBJECTINIT init = {};
-    init.type = GADGET_TYPE_COMBO;
-    init.item_code = MSG_ITEM_COMBO;
-    init.base_width = 8;  // the combo takes the window's size at the first ACT_FIRSTTIME_RUN
-    init.base_height = 8;
-    init.flags = COMBO_FLAGS;
-    init.action = ACT_LMOUSE_UP;
-    page_record->msg_combo = CreateObject(&handler->head, "Combo", &init);
-    page_record->msg_combo_first = FindGadgetByItemCode(window, MSG_ITEM_COMBO);
-    if (page_record->msg_combo && page_record->msg_combo_first) {
-        SaveSetGadgetList(window, (t_List *)page_record->msg_combo);
+    if (AddDialogCombo(window, MSG_ITEM_COMBO, rect, COMBO_FLAGS, NULL, &page_record->msg_combo,
+                       &page_record->msg_combo_first)) {
         i16 font_h = (i16)GetFontHeight(DISPLAY_RECORD->system_font);
         i16 y = 8;
         for (u32 row = 0; idcmp_names[row].text[0]; row++) {

@@ -94,21 +94,6 @@ void UpdateFrameBoxes(t_Window *dialog)
     GreyFollowers(title, TITLE_BAR_FOLLOWERS, title && !title->class_data);
 }
 
-static t_gadget *AddGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
-                           i16 width, i16 height, u32 flags, u32 action)
-{
-    T_GADGETOBJECTINIT init = {};
-    init.type = type;
-    init.item_code = item_code;
-    init.x = x;
-    init.y = y;
-    init.base_width = width;
-    init.base_height = height;
-    init.flags = flags;
-    init.action = action;
-    return (t_gadget *)CreateObject(&handler->head, text, &init);
-}
-
 t_Window *OpenWindowProperties(t_Window *page)
 {
     T_WINEDIT_HANDLER *page_record = page && IsPageWindow(page) ? (T_WINEDIT_HANDLER *)page->user_data : NULL;
@@ -122,20 +107,10 @@ t_Window *OpenWindowProperties(t_Window *page)
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     i16 row_h = DialogRowHeight();
 
+    T_RPOS rect = {12, (i16)(row_h + 12), COMBO_WIDTH, COMBO_HEIGHT};
     T_GADGETOBJECTINIT init = {};
-    init.type = GADGET_TYPE_COMBO;
-    init.item_code = WINPROP_ITEM_COMBO;
-    init.x = 12;
-    init.y = (i16)(row_h + 12);
-    init.base_width = COMBO_WIDTH;
-    init.base_height = COMBO_HEIGHT;
-    init.flags = COMBO_FLAGS;
-    init.action = ACT_LMOUSE_UP;
-    init.icon_bank = DISPLAY_RECORD->icon_bank;
-    page_record->win_combo = CreateObject(&handler->head, "Combo", &init);
-    page_record->win_combo_first = FindGadgetByItemCode(window, WINPROP_ITEM_COMBO);
-    if (page_record->win_combo && page_record->win_combo_first) {
-        SaveSetGadgetList(window, (t_List *)page_record->win_combo);
+    if (AddDialogCombo(window, WINPROP_ITEM_COMBO, rect, COMBO_FLAGS, DISPLAY_RECORD->icon_bank,
+                       &page_record->win_combo, &page_record->win_combo_first)) {
         i16 y = 4;
         for (const T_WINDOW_BOX &box : window_boxes) {
             init = T_GADGETOBJECTINIT{};
@@ -153,9 +128,10 @@ t_Window *OpenWindowProperties(t_Window *page)
         RestoreGadgetList(window);
     }
 
-    AddGadget(handler, TXT_WINDOW_FLAGS, GADGET_TYPE_TEXT, 0, 8, 8, 0, 0, GADGET_FLAGS_BOLD | GADGET_FLAGS_AUTOSIZE,
-              BOX_ACTION);
-    AddGadget(handler, TXT_WINDOW_NAME, GADGET_TYPE_TEXT, 0, 4, (i16)(row_h + 112), 0, 0, GADGET_FLAGS_BOLD, BOX_ACTION);
+    AddDialogGadget(handler, TXT_WINDOW_FLAGS, GADGET_TYPE_TEXT, 0, 8, 8, 0, 0,
+                    GADGET_FLAGS_BOLD | GADGET_FLAGS_AUTOSIZE, BOX_ACTION);
+    AddDialogGadget(handler, TXT_WINDOW_NAME, GADGET_TYPE_TEXT, 0, 4, (i16)(row_h + 112), 0, 0, GADGET_FLAGS_BOLD,
+                    BOX_ACTION);
     init = T_GADGETOBJECTINIT{};
     init.type = GADGET_TYPE_STRING;
     init.item_code = WINPROP_ITEM_NAME;
@@ -168,10 +144,11 @@ t_Window *OpenWindowProperties(t_Window *page)
     CreateObject(&handler->head, "Window name string", &init);
     // The two buttons are at least 80 wide, and as wide as their text.
     t_gadget *buttons[2] = {
-        AddGadget(handler, TXT_SET_IDCMP, GADGET_TYPE_BUTTON, WINPROP_ITEM_SET_IDCMP, 4, (i16)(3 * row_h + 120), 0,
-                  row_h, GADGET_FLAGS_AUTOSIZE, ACT_LMOUSE_UP),
-        AddGadget(handler, TXT_SOURCE_FILE, GADGET_TYPE_BUTTON, WINPROP_ITEM_SOURCE_FILE, 4, (i16)(4 * row_h + 124), 0,
-                  row_h, GADGET_FLAGS_AUTOSIZE | (page_record->saved ? 0 : GADGET_FLAGS_DISABLED), ACT_LMOUSE_UP)};
+        AddDialogGadget(handler, TXT_SET_IDCMP, GADGET_TYPE_BUTTON, WINPROP_ITEM_SET_IDCMP, 4,
+                        (i16)(3 * row_h + 120), 0, row_h, GADGET_FLAGS_AUTOSIZE, ACT_LMOUSE_UP),
+        AddDialogGadget(handler, TXT_SOURCE_FILE, GADGET_TYPE_BUTTON, WINPROP_ITEM_SOURCE_FILE, 4,
+                        (i16)(4 * row_h + 124), 0, row_h,
+                        GADGET_FLAGS_AUTOSIZE | (page_record->saved ? 0 : GADGET_FLAGS_DISABLED), ACT_LMOUSE_UP)};
     for (t_gadget *button : buttons)
         if (button && button->base_width < BUTTON_WIDTH)
             button->base_width = button->pos_width = BUTTON_WIDTH;
