@@ -34,3 +34,33 @@ TEST_F(GadgetTest, DropBoxOpensPicksAndCloses) {
     EXPECT_EQ(recorded.back().item_code, 4u);
     EXPECT_EQ(recorded.back().data, g);
 }
+
+// The entry shown stands at the field's left, long or short: a long one is cut at the arrow only.
+TEST_F(GadgetTest, DropBoxShowsItsEntryFromTheLeft) {
+    const struct {
+        const char *entry;
+        i16 width;
+    } cases[] = {{"Hi", 200}, {"A very long entry that the box cannot show whole", 120}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.entry);
+        T_GADGETOBJECTINIT init = Init(GADGET_TYPE_DROP_BOX, 10, 10, c.width, 24);
+        void *holder = Create("List", init);
+        init.parent_gadget = holder;
+        Create(c.entry, init);
+        t_gadget *g = GetCurrentGadget(window);
+        Turn();
+        // The first column with the text's ink, counted from the field's inside.
+        T_RPOS field = {(i16)(g->screen_x + 2), (i16)(g->screen_y + 4), (i16)(g->base_width / 2), (i16)(g->base_height - 8)};
+        std::vector<u32> pixels = Pixels(field);
+        i16 first_ink = -1;
+        for (i16 x = 0; x < field.w && first_ink < 0; x++)
+            for (i16 y = 0; y < field.h; y++)
+                if (pixels[y * field.w + x] == (GadgetTextColour(g) & 0xFFFFFF)) {
+                    first_ink = x;
+                    break;
+                }
+        EXPECT_GE(first_ink, 0);
+        EXPECT_LE(first_ink, 6);
+        RemoveObject(&handler->head, g);
+    }
+}

@@ -25,7 +25,8 @@ TEST_F(GadgetTest, SliderTakesClickedValuesInStepsAndRange) {
         {GADGET_FLAGS_HORIZONTAL, 0, 100, 1, 1.0, 100},
         {GADGET_FLAGS_HORIZONTAL, 0, 100, 1, 0.5, 50},
         {GADGET_FLAGS_HORIZONTAL, 0, 100, 25, 0.4, 50},  // 40 rounds to the nearer step
-        {GADGET_FLAGS_HORIZONTAL, 0, 100, 0, 0.3, 30},   // step 0 means 1
+        {GADGET_FLAGS_HORIZONTAL, 0, 100, 0, 0.3, 30},   // step 0 moves as 1
+        {GADGET_FLAGS_HORIZONTAL, 0, 100, -5, 0.7, 70},  // and so does a negative one
         {GADGET_FLAGS_VERTICAL, -50, 50, 10, 0.5, 0},
         {GADGET_FLAGS_VERTICAL, -50, 50, 10, 0.0, -50},  // the minimum at the top
         {GADGET_FLAGS_VERTICAL, 10, 20, 3, 1.0, 19},     // the last step inside the range
@@ -43,6 +44,7 @@ TEST_F(GadgetTest, SliderTakesClickedValuesInStepsAndRange) {
         PointAt(g, row.frac, &x, &y);
         Click(x, y);
         EXPECT_EQ(SliderOf(g)->value, row.value);
+        EXPECT_EQ(SliderOf(g)->step, row.step);  // the record keeps the step as given
         EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 1u);
         RemoveObject(&handler->head, g);
     }

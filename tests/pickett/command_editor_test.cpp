@@ -66,3 +66,21 @@ TEST_F(KeyEditor, AKeyAnotherCommandHasIsRefusedWithAMessage) {
     Key(KEY_CTRL('K'), QUAL_CONTROL);
     EXPECT_EQ(FindAppCommandByCode(app, 259)->key, (u32)KEY_CTRL('K'));
 }
+
+// The list shows whole rows at the window's first size and after a resize: its last row is never
+// cut at its foot.
+TEST_F(KeyEditor, TheListShowsWholeRows) {
+    t_gadget *list = List();
+    ASSERT_NE(list, nullptr);
+    i16 row_h = GadgetFontHeight(list) + 2;
+    for (i16 grow : {0, 7, 13}) {
+        SCOPED_TRACE(grow);
+        if (grow) {
+            T_RPOS frame = {editor->x, editor->y, editor->w, (i16)(editor->h + grow)};
+            ResizeWindow(editor, &frame);
+        }
+        EXPECT_EQ((list->base_height - 4) % row_h, 0);  // inside its two-pixel border
+        EXPECT_LE(list->pos_y + list->base_height, editor->user_h);
+        EXPECT_GT(list->pos_y + list->base_height + row_h, editor->user_h - 8);  // no room for one more
+    }
+}

@@ -62,6 +62,9 @@ extern char PutStringName[STRINGS_MAX_SIZE + 1];
 
 #define BRANCH_OPEN 0x1  // NewBranch: the entry starts open
 
+// The height, at most `height`, at which a list box shows whole rows: no row is cut at its foot.
+i16 ListHeightForWholeRows(t_gadget *list_box, i16 height);
+
 T_LIST_ENTRY *NewBranch(t_List *list, T_LIST_ENTRY *after, const char *text, u32 flags);
 // Frees every entry of the list with its children; the list is left empty.
 void FreeListEntries(t_List *entries);

@@ -277,9 +277,9 @@ void DrawDropBoxGadget(t_gadget *g, int focused) {
             text.x += text.h + 2, text.w -= text.h + 2;
         }
         if (T_LIST_ENTRY *e = SelectedEntry(g)) {
-            i16 tw = (i16)GetStringWidth(e->name), th = (i16)GetActiveFontHeight();
-            i16 x = (flags & GADGET_FLAGS_LEFT_JUSTIFY) ? text.x + 2 : text.x + (text.w - tw) / 2;
-            DrawText(x, r.y + (r.h - th) / 2, e->name, GadgetTextColour(g));
+            // Left-aligned, as a desktop drop box shows it: a long entry is cut at the arrow only.
+            i16 th = (i16)GetActiveFontHeight();
+            DrawText(text.x + 2, r.y + (r.h - th) / 2, e->name, GadgetTextColour(g));
         }
         PopClip(&saved);
     }

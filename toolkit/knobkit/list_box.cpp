@@ -39,6 +39,13 @@ void ListLayout(t_gadget *g, T_LIST_LAYOUT *l) {
     d->resized_flags &= ~(LIST_RESIZED | TREE_RESIZED);
 }
 
+i16 ListHeightForWholeRows(t_gadget *g, i16 height) {
+    i16 frame = 2 * ((g->live_flags & GADGET_FLAGS_NO_BORDER) ? 1 : 2);
+    i16 row_h = GadgetFontHeight(g) + ROW_EXTRA;
+    i16 rows = (height - frame) / row_h;
+    return rows < 1 ? height : (i16)(frame + rows * row_h);
+}
+
 void ScrollRowIntoView(T_LIST_DATA *d, i32 row) {
     if (row < 0) return;
     if (row < d->top) d->top = row;

@@ -1,6 +1,7 @@
 // Sliders: a groove and a mark that moves along it, horizontal or vertical (the minimum at the
-// left or top). class_data is a T_SLIDER_DATA made from the init record: min, max, step, the value
-// (init_val, taken as it is), the mark's size and the slider's and track's size.
+// left or top). class_data is a T_SLIDER_DATA made from the init record: min, max, step (kept as
+// given, also 0 or negative, so that a page saves it back), the value (init_val, taken as it is),
+// the mark's size and the slider's and track's size.
 //
 // Dragging the mark or pressing the track (which brings the mark's middle to the point) sets the
 // value, rounded to the step from min and kept inside min..max. Reports: the press
@@ -63,7 +64,7 @@ int SliderInit(t_gadget *g, const T_GADGETOBJECTINIT *init) {
     if (!d) return 0;
     d->min = init->min;
     d->max = init->max;
-    d->step = init->step > 0 ? init->step : 1;
+    d->step = init->step;  // kept as given: where the mark moves, a step below 1 counts as 1
     d->value = init->init_val;
     d->mark_width = init->mark_width;
     d->mark_height = init->mark_height;

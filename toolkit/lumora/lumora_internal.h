@@ -101,6 +101,13 @@ void FreeWindowNow(t_Window *window);      // handlers, gadgets, children, the b
 void SetWindowFrame(t_Window *window, i16 x, i16 y, i16 w, i16 h);  // children follow a move
 void FreeAllWindows(void);
 int IsPopup(t_Window *window);
+// A dependent window (a message box, a selector, the key editor) but a toolbar: it stands in front
+// of everything its top-level window holds, toolbars too, and only the screen cuts it. Painted and
+// hit after the window tree, back to front in the tree's order.
+int IsFloating(t_Window *window);
+#define FLOATING_MAX 32
+// The live, open floating windows, back to front, into `out`; returns how many.
+u32 CollectFloatingWindows(t_Window **out, u32 max);
 void BreakPress(void);  // event 33 to the window holding the press, and the capture ends
 // Delivers a toolkit message to the message function when the creation mask enables it
 // (ACT_MENU_PICK and mouse bits always pass). Removed windows get nothing. Returns its result.

@@ -117,7 +117,7 @@ static void PaintWindow(t_Window *w, T_RPOS clip) {
     }
     for (t_Node *c = w->children.first; c->next; c = c->next) {
         t_Window *child = (t_Window *)c;
-        if (IsPopup(child)) continue;
+        if (IsPopup(child) || IsFloating(child)) continue;  // painted after the tree
         PaintWindow(child, (child->flags & WF_CLIP_PARENT) ? user : clip);
     }
     if (user_visible)
@@ -168,6 +168,9 @@ void PaintScreen(void) {
     FillAround(screen, d->record->desktop_colour, holes, CollectHoles(top, screen, screen, holes));
     for (t_Node *n = top->first; n->next; n = n->next)
         if (!IsPopup((t_Window *)n)) PaintWindow((t_Window *)n, screen);
+    t_Window *floating[FLOATING_MAX];
+    for (u32 i = 0, count = CollectFloatingWindows(floating, FLOATING_MAX); i < count; i++)
+        PaintWindow(floating[i], screen);
     for (t_Node *n = top->first; n->next; n = n->next) {
         ClipAll();
         PaintMinimisedButton((t_Window *)n);

@@ -1,7 +1,9 @@
 // Input routing: which window, frame part, gadget or handler gets each mouse event and key.
 //
 // Mouse: popups first, then the window under the pointer; in it the frame (title bar, border),
-// the menu bar, a gadget under the point, the other handlers by priority. Whoever takes a press
+// the menu bar, a gadget under the point, the other handlers by priority. A press gives the window
+// the input focus, but for a popup, a toolbar, or the menu bar of the window that has the keys (or
+// of an ancestor of it): a pick there leaves the keys where they were. Whoever takes a press
 // holds the pointer captured: every move and the release go there. A release that nobody captured
 // goes through the same routing in the window that had the press (so a right release on a page's
 // background opens its menu). Context menus of gadgets (menu_owner) open on the right release,
@@ -17,6 +19,7 @@
 #include <string.h>
 
 #include "lumora/lumora_internal.h"
+#include "lumora/menu_internal.h"
 
 #define DOUBLE_CLICK_MS 400
 #define DOUBLE_CLICK_DISTANCE 4
@@ -55,6 +58,7 @@ static t_Window *HitOne(t_Window *w, i16 x, i16 y, T_RPOS clip, t_Window **minim
     if ((*minimised = MinimisedAt(&w->children, x, y, user))) return NULL;
     for (t_Node *c = w->children.last; c->prev; c = c->prev) {
         t_Window *child = (t_Window *)c;
+        if (IsFloating(child)) continue;  // tried before the tree
         t_Window *hit = HitOne(child, x, y, (child->flags & WF_CLIP_PARENT) ? user : clip, minimised);
         if (hit || *minimised) return hit;
     }
@@ -63,8 +67,8 @@ static t_Window *HitOne(t_Window *w, i16 x, i16 y, T_RPOS clip, t_Window **minim
     return NULL;
 }
 
-// Popups first, then the window tree. A hit on a minimised window's button gives null and that
-// window in *minimised.
+// Popups first, then the floating windows, then the window tree. A hit on a minimised window's
+// button gives null and that window in *minimised.
 t_Window *WindowAtPoint(i16 x, i16 y, t_Window **minimised) {
     t_Window *min = NULL;
     if (minimised) *minimised = NULL;
@@ -76,6 +80,15 @@ t_Window *WindowAtPoint(i16 x, i16 y, t_Window **minimised) {
     }
     T_RPOS screen;
     GetPhysicalScreenRes(&screen);
+    t_Window *floating[FLOATING_MAX];
+    for (u32 i = CollectFloatingWindows(floating, FLOATING_MAX); i > 0; i--) {
+        t_Window *hit = HitOne(floating[i - 1], x, y, screen, &min);
+        if (min) {
+            if (minimised) *minimised = min;
+            return NULL;
+        }
+        if (hit) return hit;
+    }
     if ((min = MinimisedAt(TopLevel(), x, y, screen))) {
         if (minimised) *minimised = min;
         return NULL;
@@ -219,6 +232,24 @@ static int OfferOutside(T_MOUSE_MSG *m) {
     return 0;
 }
 
+static int IsWithinWindow(t_Window *w, t_Window *ancestor) {
+    for (; w; w = w->parent)
+        if (w == ancestor) return 1;
+    return 0;
+}
+
+// Whether a press on `w` at x, y moves the input focus there. A popup, a toolbar (a palette) and
+// the menu bar of the window the keys already go to (or of one of its ancestors) don't: after a
+// pick there, the keys go where they went before.
+static int PressTakesFocus(t_Window *w, i16 x, i16 y) {
+    if (IsPopup(w) || FindHandlerOfKind(w, HANDLER_KIND_TOOLBAR)) return 0;
+    T_RPOS bar;
+    t_Window *focus = FocusWindow();
+    if (IsWindowLive(focus) && IsWithinWindow(focus, w) && MenuBarRect(w, &bar) && PointBoxColl(x, y, &bar))
+        return 0;
+    return FocusWindow() != w;
+}
+
 static void RoutePress(u16 button, i16 x, i16 y) {
     SetPointer(x, y);
     u16 bit = button == 1 ? 1 : 2;
@@ -243,7 +274,10 @@ static void RoutePress(u16 button, i16 x, i16 y) {
     }
     st->press_window = w;
     if (!w) return;
-    if (!IsPopup(w) && FocusWindow() != w) ISetActiveWindow(w);
+    if (PressTakesFocus(w, m.x, m.y))
+        ISetActiveWindow(w);
+    else if (!IsPopup(w))
+        for (t_Window *t = w; t; t = t->parent) WindowToFront(t);
     if (!IsWindowLive(w)) return;
     u32 now = _LumoraBase->time_ms;
     int dbl = button == 1 && st->last_press_window == w && now - st->last_press_ms <= DOUBLE_CLICK_MS &&

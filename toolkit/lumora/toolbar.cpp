@@ -124,20 +124,6 @@ static void ToolBarPaint(t_Handler *head)
         PaintHoverText(hovered, mx, my);
 }
 
-// A toolbar is a palette: a click on it leaves the keys with the window the user works in, the
-// frontmost other child of the owner (a page), else the owner.
-static void GiveFocusBack(T_TOOLBAR_HANDLER *toolbar)
-{
-    t_Window *owner = toolbar->owner;
-    if (!IsWindowLive(owner))
-        return;
-    t_Window *back = owner;
-    for (t_Window *child = (t_Window *)owner->children.first; child->next; child = child->next)
-        if (child != toolbar->window && IsWindowLive(child) && child->state == WINDOW_STATE_OPEN)
-            back = child;
-    ISetActiveWindow(back);
-}
-
 static u32 ToolBarInput(t_Handler *head, u32 event, void *data)
 {
     t_Window *window = head->window;
@@ -157,9 +143,8 @@ static u32 ToolBarInput(t_Handler *head, u32 event, void *data)
         i32 index = EntryAt(toolbar, msg->x, msg->y);
         if (index < 0)
             return 0;
-        toolbar->active = (u16)index;
+        toolbar->active = (u16)index;  // the press moved no focus: a toolbar is a palette
         RequestRepaint();
-        GiveFocusBack(toolbar);
         return 1;
     }
     }

@@ -20,6 +20,28 @@ int IsWindowLive(t_Window *window) { return window && !(window->state_flags & WS
 
 int IsPopup(t_Window *window) { return (window->extra_flags & WEX_POPUP) != 0; }
 
+int IsFloating(t_Window *window) {
+    return (window->flags & WF_DEPENDANT) && !(window->flags & WF_CLIP_PARENT) && window->parent &&
+           !IsPopup(window) && !FindHandlerOfKind(window, HANDLER_KIND_TOOLBAR);
+}
+
+// Depth first, so that a floating window's own floating children come after it; the children of a
+// window that isn't shown are passed over with it.
+static void CollectFloating(t_List *list, t_Window **out, u32 max, u32 *count) {
+    for (t_Node *n = list->first; n->next; n = n->next) {
+        t_Window *w = (t_Window *)n;
+        if (!IsWindowLive(w) || w->state != WINDOW_STATE_OPEN || IsPopup(w)) continue;
+        if (IsFloating(w) && *count < max) out[(*count)++] = w;
+        CollectFloating(&w->children, out, max, count);
+    }
+}
+
+u32 CollectFloatingWindows(t_Window **out, u32 max) {
+    u32 count = 0;
+    if (CURRENT_DISPLAY->window_class) CollectFloating(&CURRENT_DISPLAY->window_class->windows, out, max, &count);
+    return count;
+}
+
 // Stacking layers among siblings: backdrop windows behind, WF_IN_FRONT above, popups on top.
 static int Layer(t_Window *w) {
     if (IsPopup(w)) return 3;
@@ -123,6 +145,15 @@ static void TakeCascadePlace(t_Window *parent, i16 x, i16 y) {
     if (parent->cascade_index >= parent->cascade_start + CASCADE_STEPS) parent->cascade_index = parent->cascade_start;
 }
 
+// A dependent window opens wholly inside the screen (its top left corner, when it is the larger).
+static void KeepOnScreen(t_Window *w) {
+    i16 sw = CURRENT_DISPLAY->width, sh = CURRENT_DISPLAY->height;
+    if (w->x + w->w > sw) w->x = sw - w->w;
+    if (w->y + w->h > sh) w->y = sh - w->h;
+    if (w->x < 0) w->x = 0;
+    if (w->y < 0) w->y = 0;
+}
+
 // Returns null (logged) for a removed parent or when memory runs out.
 t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init) {
     t_Window *parent = init->parent;
@@ -140,6 +171,7 @@ t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init) {
     w->y = init->y + (parent ? parent->user_y : 0);
     w->w = init->w;
     w->h = init->h;
+    if (init->flags & WF_DEPENDANT) KeepOnScreen(w);
     w->flags = init->flags;
     w->idcmp = init->idcmp;
     WINDOW_PRIVATE(w)->message_mask = init->idcmp;

@@ -82,7 +82,7 @@ static void Layout(t_Window *window) {
     T_KEY_EDITOR *e = EditorOf(window);
     i16 rh = (i16)GetFontHeight(DISPLAY_RECORD->system_font) + 8;
     i16 w = window->user_w, h = window->user_h;
-    i16 list_h = h - 3 * KEYED_PAD - rh;
+    i16 list_h = ListHeightForWholeRows(e->list_gadget, (i16)(h - 3 * KEYED_PAD - rh));
     if (list_h < rh) list_h = rh;
     t_gadget *rows[2] = {e->hint, e->list_gadget};
     T_RPOS places[2] = {{KEYED_PAD, KEYED_PAD, (i16)(w - 2 * KEYED_PAD), rh},

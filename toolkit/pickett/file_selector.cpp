@@ -248,7 +248,18 @@ t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init) {
         return NULL;
     }
     Layout(window);
-    GoToFolder(s, init->path ? init->path : "");
+    // A name that holds a folder opens in that folder with its bare name; the name is selected, so
+    // that typing replaces it.
+    const char *folder = init->path ? init->path : "";
+    T_FILE_REQUESTER_ANSWER given = {};
+    if (strchr(s->name_text, '/') && SplitTypedName(&given, folder, s->name_text)) {
+        folder = given.directory;
+        SetSelectorField(s->name_field, s->name_text, given.name);
+    } else {
+        SetSelectorField(s->name_field, s->name_text, s->name_text);
+    }
+    s->name_field->select_from = 0;
+    GoToFolder(s, folder);
     gh->current_gadget = s->name_field;
     return window;
 }
