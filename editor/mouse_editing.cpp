@@ -1,12 +1,13 @@
 // The mouse and keys on a page: the background (PageInput: handle resizes, the rubber band, new
-// gadgets, the context menu, the page's keys), a gadget (GadgetEditAction: selection, the start
-// and end of a drag, tab-order clicks) and the drag itself (GadgetDragMove). The painter does the
-// other half of the band and of a handle resize at each repaint.
+// gadgets, the context menu, the page's keys, the arrows that nudge), a gadget (GadgetEditAction:
+// selection, the start and end of a drag, tab-order clicks) and the drag itself (GadgetDragMove).
+// The painter does the other half of the band and of a handle resize at each repaint.
 #include "editor/mouse_editing.h"
 #include "properties/gadget_properties.h"
 
 #include <string.h>
 
+#include "editor/clipboard.h"
 #include "editor/page_commands.h"
 #include "editor/page_painter.h"
 #include "editor/page_window.h"
@@ -15,6 +16,8 @@
 
 #define KEY_SWAP_TOOLS 'z'
 #define KEY_SPACE ' '
+#define NUDGE_STEP 1        // pixels an arrow key moves the marked gadgets
+#define NUDGE_SHIFT_STEP 8  // with Shift
 #define QUAL_MARK_KEEP (QUAL_SHIFT | QUAL_CONTROL)  // qualifiers that keep the marks
 
 // --- Helpers -------------------------------------------------------------------------------------
@@ -219,6 +222,20 @@ static u32 BackgroundMouse(T_WINEDIT_HANDLER *record, t_Window *window, const T_
     return 0;
 }
 
+// An arrow key, alone or with Shift, moves the marked gadgets; true when it did.
+static u32 NudgeByKey(t_Window *window, const T_KEY_MSG *key)
+{
+    if (key->qualifiers & ~QUAL_SHIFT)
+        return 0;
+    i16 step = (key->qualifiers & QUAL_SHIFT) ? NUDGE_SHIFT_STEP : NUDGE_STEP;
+    i16 dx = key->key_code == KEY_LEFT ? -step : key->key_code == KEY_RIGHT ? step : 0;
+    i16 dy = key->key_code == KEY_UP ? -step : key->key_code == KEY_DOWN ? step : 0;
+    if (!NudgeMarkedGadgets(window, dx, dy))
+        return 0;
+    TellMainWindow(window, 0);
+    return 1;
+}
+
 static u32 PageKey(T_WINEDIT_HANDLER *record, t_Window *window, const T_KEY_MSG *key)
 {
     switch (key->key_code) {
@@ -247,6 +264,11 @@ static u32 PageKey(T_WINEDIT_HANDLER *record, t_Window *window, const T_KEY_MSG 
     case KEY_CTRL('I'):
         ToggleStyleFlag(window, GADGET_FLAGS_ITALICS);
         return 1;
+    case KEY_LEFT:  // the arrows nudge the marked gadgets; with nothing marked they walk the
+    case KEY_RIGHT: // gadgets as ever
+    case KEY_UP:
+    case KEY_DOWN:
+        return NudgeByKey(window, key);
     default:
         return 0;
     }
@@ -290,6 +312,7 @@ static void ReleasePageRecord(T_WINEDIT_HANDLER *record)
     FreeString(&record->head_line);
     FreeString(&record->file_name);
     EmptyUndoList(&record->undo);
+    ForgetClipboardPage(record->head.window);
     FreeItemCodes(&record->item_codes);
     record->item_codes_valid = 0;
 }

@@ -1,12 +1,16 @@
 // The page commands that act on the marked gadgets as a group: delete, centre, size to contents,
 // align, same size and font, and the gadget context menu's form of the size and alignment items,
-// which also puts geometry records on the undo list. Each ends with no gadget marked.
+// which also puts geometry records on the undo list; each of these ends with no gadget marked.
+// Flipping and nudging put geometry records too and keep the marks; renumbering item codes.
 #include "editor/page_commands.h"
 
 #include <stdio.h>
 
+#include <unordered_map>
+
 #include "editor/mouse_editing.h"
 #include "editor/undo_records.h"
+#include "properties/gadget_properties.h"
 #include "shell/menus.h"
 
 #define TEXT_WIDTH_EXTRA 3   // room beside a gadget's text
@@ -270,4 +274,101 @@ void ApplyGadgetMenuCommand(t_Window *window, u32 item_code)
     }
     FinishMarkedOperation(window, changed);
     TellMainWindow(window, 0);
+}
+
+// --- Flip and nudge ------------------------------------------------------------------------------
+
+// A gadget's left edge in the user area, wherever it is placed from.
+static i16 LeftInUserArea(t_Window *window, const t_gadget *g)
+{
+    return (i16)(g->screen_x - window->user_x);
+}
+
+// The records of a change of the marked gadgets' places, made after it: the geometry was noted
+// before it (SnapshotGeometry).
+static void NoteMoves(t_Window *window, t_gadget *first)
+{
+    RecalcUserSize(window);
+    if (T_WINEDIT_HANDLER *record = PageRecord(window))
+        AddGeometryUndo(record, first, GEOMETRY_FLAG_SIZE);
+    window->state_flags |= WSF_MODIFIED;
+}
+
+void FlipMarkedGadgets(t_Window *window)
+{
+    t_gadget *first = FirstPageGadget(window);
+    if (!first || !first->next || !CountMarkedGadgets(first))
+        return;
+    i32 left = 0x7FFF, right = -0x8000;
+    for (t_gadget *g = first; g->next; g = g->next) {
+        if (!IsMarked(g))
+            continue;
+        i32 x = LeftInUserArea(window, g);
+        if (x < left)
+            left = x;
+        if (x + g->base_width > right)
+            right = x + g->base_width;
+    }
+    ApplyFuncToList((t_Node *)first, SnapshotGeometry);
+    for (t_gadget *g = first; g->next; g = g->next) {
+        if (!IsMarked(g))
+            continue;
+        i32 mirrored = left + right - (LeftInUserArea(window, g) + g->base_width);
+        g->pos_x = (i16)((g->live_flags & GADGET_FLAGS_FROM_RIGHT) ? window->user_w - mirrored - g->base_width
+                                                                   : mirrored);
+    }
+    NoteMoves(window, first);
+}
+
+int NudgeMarkedGadgets(t_Window *window, i16 dx, i16 dy)
+{
+    t_gadget *first = FirstPageGadget(window);
+    if (!first || !first->next || !CountMarkedGadgets(first))
+        return 0;
+    ApplyFuncToList((t_Node *)first, SnapshotGeometry);
+    for (t_gadget *g = first; g->next; g = g->next) {
+        if (!IsMarked(g))
+            continue;
+        g->pos_x = (i16)(g->live_flags & GADGET_FLAGS_FROM_RIGHT ? g->pos_x - dx : g->pos_x + dx);
+        g->pos_y = (i16)(g->live_flags & GADGET_FLAGS_FROM_BOTTOM ? g->pos_y - dy : g->pos_y + dy);
+    }
+    NoteMoves(window, first);
+    return 1;
+}
+
+// --- Item codes ----------------------------------------------------------------------------------
+
+#define TAB_FIRST_MARK 0x80000000u  // on tab[0] of the first gadget of the tab order
+
+// A tab link to the gadget that held `code` now holds the gadget's new code; a link that named no
+// gadget stays as it was.
+static u32 RelinkedTab(const std::unordered_map<u32, u32> &renumbered, u32 link)
+{
+    std::unordered_map<u32, u32>::const_iterator found = renumbered.find(link & ~TAB_FIRST_MARK);
+    return found == renumbered.end() ? link : found->second | (link & TAB_FIRST_MARK);
+}
+
+void ReorderItemCodes(t_Window *window)
+{
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    if (!handler)
+        return;
+    // Old code to new, as the links find a code: the first gadget in list order that holds it.
+    std::unordered_map<u32, u32> renumbered;
+    u32 counter = 1;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
+        if (g->item_code == 0) {
+            g->live_item_code = 0;
+            continue;
+        }
+        renumbered.emplace(g->item_code, counter);
+        SetGadgetItemCode(window, g, counter);
+        g->live_item_code = counter++;
+    }
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
+        g->tab[0] = RelinkedTab(renumbered, g->tab[0]);
+        g->tab[1] = RelinkedTab(renumbered, g->tab[1]);
+    }
+    ShowNewItemCodes(window);
+    window->state_flags |= WSF_MODIFIED;
 }

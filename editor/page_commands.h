@@ -1,5 +1,6 @@
 // The operations on a page's gadgets as a group: delete, centre, size to contents, align, same
-// size, font, and the context menu's form of the size and alignment items.
+// size, font, the context menu's form of the size and alignment items, flip, nudge and the
+// renumbering of item codes.
 #pragma once
 #include "page/records.h"
 
@@ -31,3 +32,12 @@ void CloseGadgetDialogs(t_Window *window, t_gadget *gadget);
 // The gadget context menu's items 0xE004 to 0xE007: the operation with a geometry record for each
 // gadget it changed, the marks cleared, and the main window's menus refreshed.
 void ApplyGadgetMenuCommand(t_Window *window, u32 item_code);
+// Mirrors the marked gadgets inside the box that holds them all, left edge to right edge, with a
+// geometry record for each ("Move gadget"); the marks stay. Nothing marked: nothing changes.
+void FlipMarkedGadgets(t_Window *window);
+// Moves the marked gadgets by dx, dy (against the mouse for those placed from the right or the
+// bottom, as a drag moves them), with a geometry record for each. False when nothing is marked.
+int NudgeMarkedGadgets(t_Window *window, i16 dx, i16 dy);
+// Numbers item_code and live_item_code from 1 in list order; gadgets with code 0 (groups) keep
+// it. The tab links follow the gadgets they named, and the page is marked as modified.
+void ReorderItemCodes(t_Window *window);

@@ -5,6 +5,7 @@
 #include <stdio.h>
 #include <string.h>
 
+#include "editor/clipboard.h"
 #include "editor/page_commands.h"
 #include "editor/page_painter.h"
 #include "properties/action_editor.h"
@@ -145,11 +146,11 @@ static void FinishSaveAs(t_Window *window, T_WINEDIT_HANDLER *record, const T_FI
         RemovePage(window, 0);
 }
 
-// Greys the alignment entries of the gadget context menu when nothing is marked; Cut always.
+// Greys the alignment entries of the gadget context menu when nothing is marked, and Cut, Copy
+// and Paste as in the Edit menu.
 static void GreyGadgetMenu(t_Window *window)
 {
-    if (t_Menu *cut = FindMenuByItemCode(&gadget_context_menu, GADGET_MENU_CUT))
-        cut->menu_flags |= MENU_FLAG_GREY;
+    GreyClipboardEntries(&gadget_context_menu, GADGET_MENU_CUT, window);
     t_Menu *align_left = FindMenuByItemCode(&gadget_context_menu, GADGET_MENU_ALIGN_LEFT);
     if (!align_left)
         return;
@@ -269,6 +270,18 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
         DeleteMarkedGadgets(window);
         TellMainWindow(window, 0);
         break;
+    case GADGET_MENU_CUT:  // the clipboard, as the Edit menu's entries
+        CutGadgets(window);
+        TellMainWindow(window, 0);
+        break;
+    case GADGET_MENU_COPY:
+        CopyGadgets(window);
+        TellMainWindow(window, 0);
+        break;
+    case GADGET_MENU_PASTE:
+        PasteGadgets(window);
+        TellMainWindow(window, 0);
+        break;
     case PAGE_MENU_RESIZE_TO_CONTENTS:  // from a small window, grown around the gadgets
         window->w = 64;
         window->h = 32;
@@ -276,7 +289,7 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
         ResizeWindowToContents(window);
         window->state_flags |= WSF_MODIFIED;
         break;
-    default:  // "Cut", "Copy", "Paste" and unknown codes change nothing
+    default:  // unknown codes change nothing
         break;
     }
 }

@@ -1,5 +1,6 @@
-// The page's undo records: "Create gadget", and a gadget's geometry ("Move gadget" when the size
-// stayed, "Resize gadget" when it changed, whatever the caller's flag).
+// The page's undo records: "Create gadget" (of a tool, or of Paste, which keeps the pasted block),
+// and a gadget's geometry ("Move gadget" when the size stayed, "Resize gadget" when it changed,
+// whatever the caller's flag).
 //
 // A record never owns its gadget and never touches one that has left the page:
 // - before use, the gadget pointer is compared with the pointers of the page's gadget list, and a
@@ -19,6 +20,8 @@
 #include <string.h>
 
 #include "page/catalogue.h"
+#include "source/gadget_blocks.h"
+#include "source/open_page.h"
 
 #define NEW_GADGET_MAX 100  // the value range of a gadget made with a tool
 #define NEW_GADGET_STEP 1
@@ -113,6 +116,57 @@ void RedoCreateGadget(void *block)
     T_GADGETOBJECTINIT init;
     FillNewGadgetInit(&init, data->x, data->y, data->base_width, data->base_height);
     data->gadget = CreateGadgetByTool(data->window, (i16)data->tool, &init);
+}
+
+// --- Create gadget, by Paste --------------------------------------------------------------------
+
+void GiveFreeItemCodeIfTaken(t_Window *window, t_gadget *gadget)
+{
+    if (gadget->item_code != 0 && GadgetsWithItemCode(window, gadget->item_code) > 1)
+        SetGadgetItemCode(window, gadget, NextFreeItemCodeOf(window));
+}
+
+// The GADGET block stands behind the creation record, with its NUL.
+static const char *PastedBlock(T_CREATE_UNDO *data)
+{
+    return (const char *)(data + 1);
+}
+
+void AddPasteGadgetUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget)
+{
+    std::string block;
+    WriteGadgetBlocks(&gadget, 1, &block);
+    T_UNDO_NODE *node = AddUndoNode(&record->undo, RedoPasteGadget, UndoCreateGadget, NULL,
+                                    (u32)(sizeof(T_CREATE_UNDO) + block.size() + 1), UNDO_LABEL_CREATE);
+    if (!node)
+        return;
+    T_CREATE_UNDO *data = (T_CREATE_UNDO *)node->data;
+    data->gadget = gadget;
+    data->window = record->head.window;
+    data->tool = (u16)ToolOfType(gadget->type, gadget->flags);
+    data->x = gadget->x;
+    data->y = gadget->y;
+    data->base_width = gadget->base_width;
+    data->base_height = gadget->base_height;
+    memcpy((char *)(data + 1), block.c_str(), block.size() + 1);
+}
+
+static void KeepMadeGadget(t_gadget *gadget, void *data)
+{
+    *(t_gadget **)data = gadget;
+}
+
+void RedoPasteGadget(void *block)
+{
+    T_CREATE_UNDO *data = (T_CREATE_UNDO *)block;
+    if (data->gadget || data->gone)
+        return;
+    const char *text = PastedBlock(data);
+    t_gadget *gadget = NULL;
+    ReadGadgetBlocks(data->window, text, (u32)strlen(text), KeepMadeGadget, &gadget);
+    if (gadget)
+        GiveFreeItemCodeIfTaken(data->window, gadget);
+    data->gadget = gadget;
 }
 
 // --- Geometry ------------------------------------------------------------------------------------

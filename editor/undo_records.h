@@ -36,8 +36,15 @@ void AddCreateGadgetUndo(T_WINEDIT_HANDLER *record, T_GADGETOBJECTINIT *init, u1
 // SnapshotGeometry before the change and RecalcUserSize after it. `flag` is 1 from the alignment
 // commands and 0 otherwise; the label doesn't depend on it.
 void AddGeometryUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget, u32 flag);
+// Puts a "Create gadget" record for a gadget that Paste made: behind its creation record it keeps
+// the gadget's GADGET block, from which Redo makes the gadget again as it was pasted (its own
+// item code, or a free one when that has been taken since). Undo is UndoCreateGadget.
+void AddPasteGadgetUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget);
 void UndoCreateGadget(void *data);
 void RedoCreateGadget(void *data);
+void RedoPasteGadget(void *data);
+// A gadget new on the page whose item code another gadget holds gets the smallest free one.
+void GiveFreeItemCodeIfTaken(t_Window *window, t_gadget *gadget);
 void UndoGeometry(void *data);
 void RedoGeometry(void *data);
 // The gadget leaves the page outside the history (deleted): records that name it stop acting on

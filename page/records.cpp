@@ -101,3 +101,14 @@ u32 PageGadgetCount(t_Window *window)
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     return handler ? CountListEntries(&handler->gadget_list) : 0;
 }
+
+u32 GadgetsWithItemCode(t_Window *window, u32 code)
+{
+    if (T_ITEM_CODES *codes = PageItemCodes(window))
+        return ItemCodeCount(codes, code);
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
+    u32 count = 0;
+    for (t_gadget *g = handler ? handler->first_gadget : NULL; g && g->next; g = g->next)
+        count += g->item_code == code;
+    return count;
+}

@@ -101,6 +101,8 @@ void ForgetGadgetItemCode(t_Window *window, t_gadget *gadget);
 u32 NextFreeItemCodeOf(t_Window *window);
 // How many gadgets the window has: from the set on a page, by a walk elsewhere.
 u32 PageGadgetCount(t_Window *window);
+// How many gadgets of the window hold the item code: from the set on a page, by a walk elsewhere.
+u32 GadgetsWithItemCode(t_Window *window, u32 code);
 // The first gadget with this design item code in the list that the window's gadget handler has
 // in use, or null.
 t_gadget *FindGadgetByCode(t_Window *window, u32 code);

@@ -476,6 +476,16 @@ static void CloseGadgetProperties(t_Window *window, T_GADGET_PROPERTIES *record)
     RemoveWindow(window);
 }
 
+void ShowNewItemCodes(t_Window *page)
+{
+    for (t_Window *child = page->first_child; child->next; child = child->next) {
+        T_GADGET_PROPERTIES *record = (T_GADGET_PROPERTIES *)child->user_data;
+        if (child->message != GadgetPropertiesMsg || !record || !IsWindowLive(child))
+            continue;
+        snprintf(record->item_code_text, sizeof(record->item_code_text), "%d", (int)record->gadget->item_code);
+    }
+}
+
 u32 GadgetPropertiesMsg(t_Window *window, u32 item_code, u32 msg, void *data)
 {
     T_GADGET_PROPERTIES *record = (T_GADGET_PROPERTIES *)window->user_data;

@@ -39,6 +39,9 @@ typedef struct T_GADGET_PROPERTIES {
 // Opens the dialog on the gadget, or brings its open dialog to the front.
 void OpenGadgetProperties(t_Window *page, t_gadget *gadget);
 u32 GadgetPropertiesMsg(t_Window *window, u32 item_code, u32 msg, void *data);
+// The page's item codes were renumbered: each open dialog shows its gadget's code again, so that
+// closing it keeps the new code.
+void ShowNewItemCodes(t_Window *page);
 void BuildGadgetProperties(t_Gaget_Handler *handler, T_GADGET_PROPERTIES *record, T_RPOS *user);
 // One flag row's check box, or null when no row of gadget_flag_labels has the bit.
 t_gadget *AddFlagRow(t_Gaget_Handler *handler, T_GADGETOBJECTINIT *init, u32 bit, u32 flags);

@@ -28,6 +28,7 @@ const T_COMMAND_ROW command_table[] = {
     {"Layout", "Flip Horizontal", "Flip selected objects horizontally", CMD_FLIP_HORIZONTAL, 0},
     {"Layout", "Tab order", "Define the tab order of the active document", CMD_TAB_ORDER, 0},
     {"Layout", "Keyboard", "Customise keyboard", CMD_KEYBOARD, 0},
+    {"Tools", "Preview", "Try the active document as the finished program", CMD_PREVIEW, KEY_CTRL('R')},
 };
 
 const u32 command_count = sizeof(command_table) / sizeof(command_table[0]);

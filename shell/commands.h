@@ -27,6 +27,7 @@ enum {
     CMD_FLIP_HORIZONTAL,
     CMD_TAB_ORDER,
     CMD_KEYBOARD,
+    CMD_PREVIEW,  // after the commands of the first version, which keep their codes
 };
 
 // Item codes that are no commands.

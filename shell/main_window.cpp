@@ -5,7 +5,10 @@
 #include <stdio.h>
 #include <string.h>
 
+#include "editor/clipboard.h"
+#include "editor/mouse_editing.h"
 #include "editor/page_commands.h"
+#include "editor/preview.h"
 #include "shell/commands.h"
 #include "shell/menus.h"
 #include "shell/settings_dialog.h"
@@ -73,17 +76,24 @@ static void MarkAllGadgets(t_Window *page, u32 command)
     }
 }
 
-// Numbers the gadgets' toolkit item codes in list order, removing holes; the saved item codes
-// stay as they are.
-static void ReorderItemCodes(t_Window *page)
+// The commands of the clipboard and Flip Horizontal on the active page; the menus follow.
+static void PageCommand(t_Window *page, u32 command)
 {
-    t_Gaget_Handler *handler = FindGadgetHandler(page);
-    if (!handler)
-        return;
-    u32 counter = 1;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
-        if (g->live_item_code != 0)
-            g->live_item_code = counter++;
+    switch (command) {
+    case CMD_CUT:
+        CutGadgets(page);
+        break;
+    case CMD_COPY:
+        CopyGadgets(page);
+        break;
+    case CMD_PASTE:
+        PasteGadgets(page);
+        break;
+    case CMD_FLIP_HORIZONTAL:
+        FlipMarkedGadgets(page);
+        break;
+    }
+    TellMainWindow(page, 0);
 }
 
 // Enters tab-order mode: the gadgets without a number take the one after the gadget before them.
@@ -194,10 +204,12 @@ static void DispatchItem(t_Window *window, T_WINEDIT_MAIN *record, u32 item_code
         if (page)
             StepHistory(window, page, page_record, 1);
         break;
-    case CMD_CUT:  // no clipboard stands behind these
+    case CMD_CUT:  // the active page's gadgets through the clipboard
     case CMD_COPY:
     case CMD_PASTE:
     case CMD_FLIP_HORIZONTAL:
+        if (page)
+            PageCommand(page, item_code);
         break;
     case CMD_SELECT_ALL:
     case CMD_SELECT_NONE:
@@ -205,7 +217,7 @@ static void DispatchItem(t_Window *window, T_WINEDIT_MAIN *record, u32 item_code
         if (page)
             MarkAllGadgets(page, item_code);
         break;
-    case CMD_REORDER_ITEM_CODES:
+    case CMD_REORDER_ITEM_CODES:  // the saved codes and the toolkit's, from 1 in list order
         if (page)
             ReorderItemCodes(page);
         break;
@@ -227,6 +239,10 @@ static void DispatchItem(t_Window *window, T_WINEDIT_MAIN *record, u32 item_code
         break;
     case CMD_KEYBOARD:
         OpenApplicationCmdEditWindow(window, record->application);
+        break;
+    case CMD_PREVIEW:  // the active page as the finished program
+        if (page)
+            OpenPreview(page);
         break;
     case CMD_SETTINGS:  // needs no page
         SetSettingsBoxes(OpenSettingsDialog(window));

@@ -5,6 +5,7 @@
 #include <stdio.h>
 #include <string.h>
 
+#include "editor/clipboard.h"
 #include "shell/commands.h"
 #include "shell/main_window.h"
 
@@ -66,6 +67,7 @@ static const T_MENU_ROW main_menu_table[] = {
     {ROW_COMMAND, NULL, CMD_TAB_ORDER, 0},
     {ROW_TITLE, "Tools", MENU_TOOLS, 'T'},
     {ROW_COMMAND, NULL, CMD_KEYBOARD, 0},
+    {ROW_COMMAND, NULL, CMD_PREVIEW, 0},
     {ROW_TITLE, "Help", MENU_HELP, 'H'},
     {ROW_ENTRY, "About", ITEM_ABOUT, 'A'},
 };
@@ -209,6 +211,27 @@ static void SetHistoryLabel(t_Window *main_window, t_Menu *edit_menu, u32 item_c
     SetDetachedMenuWidth(main_window, edit_menu);
 }
 
+// Greys the entry of that code in the menu, or makes it active; no such entry, nothing.
+static void SetEntryGrey(t_Menu *menu, u32 item_code, int grey)
+{
+    t_Menu *entry = menu ? FindMenuByItemCode(menu, item_code) : NULL;
+    if (!entry)
+        return;
+    if (grey)
+        entry->menu_flags |= MENU_FLAG_GREY;
+    else
+        entry->menu_flags &= ~MENU_FLAG_GREY;
+}
+
+void GreyClipboardEntries(t_Menu *menu, u32 cut_code, t_Window *page)
+{
+    // Cut, Copy and Paste have consecutive codes in both menus.
+    int can_copy = CanCopyGadgets(page);
+    SetEntryGrey(menu, cut_code, !can_copy);
+    SetEntryGrey(menu, cut_code + 1, !can_copy);
+    SetEntryGrey(menu, cut_code + 2, !ClipboardHoldsGadgets());
+}
+
 void RefreshMainMenus(t_Window *main_window, T_WINEDIT_HANDLER *record)
 {
     u32 pages = 0;
@@ -235,8 +258,10 @@ void RefreshMainMenus(t_Window *main_window, T_WINEDIT_HANDLER *record)
     SetAllMenuItemFlags(edit_menu, MENU_FLAG_GREY, record == NULL);
     if (t_Menu *settings = FindMenuByItemCode(edit_menu, CMD_SETTINGS))
         settings->menu_flags &= ~MENU_FLAG_GREY;
+    SetEntryGrey(FindMenuInHandler(handler, MENU_TOOLS), CMD_PREVIEW, record == NULL);
     if (!record)
         return;
+    GreyClipboardEntries(edit_menu, CMD_CUT, record->head.window);
     SetHistoryLabel(main_window, edit_menu, CMD_UNDO, CanUndo(&record->undo), GetCurrentUndoNode(&record->undo),
                     "Undo");
     SetHistoryLabel(main_window, edit_menu, CMD_REDO, CanRedo(&record->undo), GetCurrentRedoNode(&record->undo),

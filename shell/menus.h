@@ -32,6 +32,9 @@
 void BuildMainMenus(t_Window *main_window, T_APPLICATION *application);
 void BuildGadgetContextMenu(T_MENU_HANDLER *handler);
 void RefreshMainMenus(t_Window *main_window, T_WINEDIT_HANDLER *record);
+// Greys Cut and Copy (cut_code, cut_code + 1) when the page has nothing they would act on, and
+// Paste (cut_code + 2) when the clipboard holds no GADGET block; else they are active.
+void GreyClipboardEntries(t_Menu *menu, u32 cut_code, t_Window *page);
 t_Window *CreateGadgetToolBar(t_Window *main_window);
 
 // The toolbar's table: label, icon of the application's bank, item code; a row's place is its

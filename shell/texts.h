@@ -21,3 +21,4 @@
 #define TXT_DUPLICATES_REMAPPED \
     "Duplicate item codes were found in this page, duplicate item codes have been remapped."
 #define TXT_FONT_TITLE "Choose font"
+#define TXT_PREVIEW_TITLE "%s (preview)"  // the page's name

@@ -44,6 +44,9 @@ int MatchClearLine(T_DECLARATIONS *declarations, const char *line);
 
 const char *ReadWindowBlock(t_Window *parent, const char *position, const char *end, T_READING *reading);
 const char *ReadGadgetsFromFile(t_Window *window, const char *position, const char *end, T_READING *reading);
+// Clears the gadget record for GADGET blocks read outside a page file, as ReadWindowBlock does for
+// those of a file.
+void BeginGadgetBlocks(void);
 
 // The scanners, which see nothing but one line.
 int LineHasWord(const char *line, const char *word);

@@ -408,6 +408,11 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
     return position;
 }
 
+void BeginGadgetBlocks(void)
+{
+    memset(&gadget_init, 0, sizeof(gadget_init));
+}
+
 const char *ReadWindowBlock(t_Window *parent, const char *position, const char *end, T_READING *reading)
 {
     T_WINDOW_READ window;

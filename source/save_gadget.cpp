@@ -16,7 +16,7 @@ static void SaveOptionalText(const char *before, const char *null_statement, con
         if (full || !*previous || strcmp(text, *previous) != 0)
             SaveText(before, text);
     } else if (full || *previous) {
-        SavePrint(null_statement);
+        SourcePrint(null_statement);
     }
     *previous = text;
 }
@@ -74,25 +74,25 @@ static void SaveTypeStatements(t_gadget *gadget, T_GADGETOBJECTINIT *previous, i
         SaveScrollBarValues(gadget, previous, full);
         break;
     case GADGET_TYPE_STRING:  // the program's text buffer and its size
-        SavePrint(SRC_GAD_STRING_DATA);
+        SourcePrint(SRC_GAD_STRING_DATA);
         break;
     case GADGET_TYPE_COLOUR_FLAT:  // the program's colour record
     case GADGET_TYPE_COLOUR_BAR:
     case GADGET_TYPE_COLOUR_BOX:
-        SavePrint(SRC_GAD_COLOUR_DATA);
+        SourcePrint(SRC_GAD_COLOUR_DATA);
         break;
     case GADGET_TYPE_TEXTURE:  // the program's texture record
-        SavePrint(SRC_GAD_TEXTURE_DATA);
+        SourcePrint(SRC_GAD_TEXTURE_DATA);
         break;
     case GADGET_TYPE_SCENE:  // the program's scene record
-        SavePrint(SRC_GAD_SCENE_DATA);
+        SourcePrint(SRC_GAD_SCENE_DATA);
         break;
     }
 }
 
 void SaveGadget(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
 {
-    SavePrint(SRC_GADGET_START);
+    SourcePrint(SRC_GADGET_START);
 
     if (full || gadget->x != previous->x)
         SaveDecimal(SRC_GAD_X, gadget->x);
@@ -129,9 +129,9 @@ void SaveGadget(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
     if (full || gadget->type != previous->type) {
         const char *type_name = FindV2SByCode(gadget_type_names, gadget->type);
         if (type_name) {
-            SavePrint(SRC_GAD_TYPE);
-            SavePrint(type_name);
-            SavePrint(SRC_END_STATEMENT);
+            SourcePrint(SRC_GAD_TYPE);
+            SourcePrint(type_name);
+            SourcePrint(SRC_END_STATEMENT);
         } else {
             myprintf(0, "Gadget \"%s\" has type %u, which has no name; written as a number",
                      gadget->name ? gadget->name : "", (unsigned)gadget->type);
@@ -160,17 +160,17 @@ void SaveGadget(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
 
     SaveTypeStatements(gadget, previous, full);
 
-    SavePrint(SRC_GAD_CREATE);
-    SavePrint(gadget->name ? gadget->name : "");
-    SavePrint(SRC_GAD_CREATE_AFTER);
+    SourcePrint(SRC_GAD_CREATE);
+    SourcePrint(gadget->name ? gadget->name : "");
+    SourcePrint(SRC_GAD_CREATE_AFTER);
 
     char colour[16];
-    SavePrint(SRC_GAD_COLOURS);
+    SourcePrint(SRC_GAD_COLOURS);
     snprintf(colour, sizeof(colour), SRC_HEX, (unsigned)gadget->back_colour);
-    SavePrint(colour);
-    SavePrint(SRC_GAD_COLOURS_JOIN);
+    SourcePrint(colour);
+    SourcePrint(SRC_GAD_COLOURS_JOIN);
     snprintf(colour, sizeof(colour), SRC_HEX, (unsigned)gadget->text_colour);
-    SavePrint(colour);
-    SavePrint(SRC_GAD_COLOURS_AFTER);
-    SavePrint(SRC_GADGET_END);
+    SourcePrint(colour);
+    SourcePrint(SRC_GAD_COLOURS_AFTER);
+    SourcePrint(SRC_GADGET_END);
 }

@@ -1,25 +1,46 @@
-// The writer's value forms: decimal, hexadecimal, name list and text statements.
+// The writer's value forms: decimal, hexadecimal, name list and text statements, and where the
+// writer's text goes: the file being saved, or a text being gathered (the clipboard's blocks).
 #include <stdio.h>
 
 #include "source/source_format.h"
 #include "source/source_writer.h"
 
+static std::string *gathered;  // the text being gathered, or null: the file
+
+void BeginSourceText(std::string *text)
+{
+    gathered = text;
+}
+
+void EndSourceText(void)
+{
+    gathered = NULL;
+}
+
+void SourcePrint(const char *text)
+{
+    if (gathered)
+        gathered->append(text ? text : "");
+    else
+        SavePrint(text);
+}
+
 void SaveDecimal(const char *before, i32 value)
 {
     char number[16];
     snprintf(number, sizeof(number), SRC_DECIMAL, (int)value);
-    SavePrint(before);
-    SavePrint(number);
-    SavePrint(SRC_END_STATEMENT);
+    SourcePrint(before);
+    SourcePrint(number);
+    SourcePrint(SRC_END_STATEMENT);
 }
 
 void SaveHex(const char *before, u32 value)
 {
     char number[16];
     snprintf(number, sizeof(number), SRC_HEX, (unsigned)value);
-    SavePrint(before);
-    SavePrint(number);
-    SavePrint(SRC_END_STATEMENT);
+    SourcePrint(before);
+    SourcePrint(number);
+    SourcePrint(SRC_END_STATEMENT);
 }
 
 // Each set bit is looked up alone, from bit 0 up; a bit without a row leaves no trace, so a row
@@ -35,24 +56,24 @@ void SaveNameList(const T_VAL2STRING *table, u32 value)
         if (!name)
             continue;
         if (written)
-            SavePrint(SRC_NAME_JOIN);
-        SavePrint(name);
+            SourcePrint(SRC_NAME_JOIN);
+        SourcePrint(name);
         written = 1;
     }
     if (!written)
-        SavePrint(SRC_NAME_NONE);
-    SavePrint(SRC_END_STATEMENT);
+        SourcePrint(SRC_NAME_NONE);
+    SourcePrint(SRC_END_STATEMENT);
 }
 
 void SaveNames(const char *before, const T_VAL2STRING *table, u32 value)
 {
-    SavePrint(before);
+    SourcePrint(before);
     SaveNameList(table, value);
 }
 
 void SaveText(const char *before, const char *text)
 {
-    SavePrint(before);
-    SavePrint(text ? text : "");
-    SavePrint(SRC_END_TEXT_STATEMENT);
+    SourcePrint(before);
+    SourcePrint(text ? text : "");
+    SourcePrint(SRC_END_TEXT_STATEMENT);
 }

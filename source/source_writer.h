@@ -1,5 +1,7 @@
 // The source writer: a page window, its gadgets and the settings become the text of a page file.
 #pragma once
+#include <string>
+
 #include "page/records.h"
 
 // Writes the page `window` to the file `path` in the form the settings choose (optimised or
@@ -23,6 +25,12 @@ void SaveGadget(t_gadget *gadget, T_GADGETOBJECTINIT *previous_values, int full)
 // Writes the names of the bits of `value` found alone in `table`, joined by '|' ("0" when none),
 // then ";\n".
 void SaveNameList(const T_VAL2STRING *table, u32 value);
+
+// Where the writer's values and GADGET blocks go: the file begun by InitSaveFile, or, between
+// BeginSourceText and EndSourceText, the end of `text`.
+void SourcePrint(const char *text);
+void BeginSourceText(std::string *text);
+void EndSourceText(void);
 
 // The statements of one value: the text before it, the value, ";\n".
 void SaveDecimal(const char *before, i32 value);

@@ -88,6 +88,7 @@ TEST_F(ShellTest, MenuBarHoldsTheTreeInOrder)
         {MENU_LAYOUT, E, "Tab order", 277, 0},
         {0, T, "Tools", MENU_TOOLS, 'T'},
         {MENU_TOOLS, E, "Keyboard", 278, 0},
+        {MENU_TOOLS, E, "Preview", 279, 0, KEY_CTRL('R')},
         {0, T, "Help", MENU_HELP, 'H'},
         {MENU_HELP, E, "About", 0x501, 'A'},
     };
@@ -175,24 +176,27 @@ static void AllEntries(t_Menu *menu, std::vector<t_Menu *> *entries)
 }
 
 // Greying as a person sees it: each title is opened by a click, and every entry of its menu is
-// grey or not as the state of the pages asks. Recent files are never grey, nor is Settings.
+// grey or not as the state of the pages asks. Recent files are never grey, nor is Settings. On an
+// empty page with nothing on the clipboard, Cut, Copy and Paste have nothing to act on.
 TEST_F(ShellTest, EntriesAreGreyedByThePagesAndTheActivePage)
 {
     const std::vector<u32> edit_but_settings = {263, 264, 265, 266, 267, 268, 269, 270, 271};
     const std::vector<u32> layout_all = {MENU_CENTRE, 273, 274, 275, 276, 277};
-    const std::vector<u32> no_history = {263, 264};
+    const std::vector<u32> empty_page = {263, 264, 265, 266, 267};
+    const std::vector<u32> preview = {279};
     const std::vector<u32> none;
-    //  state                    pages  none active  grey in File               in Edit            in Layout
+    //  state                    pages  none active  grey in File               in Edit      in Layout   in Tools
     struct State {
         const char *name;
         int pages;
         int none_active;  // SetActivePage(page, NULL) after the pages are drawn
-        std::vector<u32> file, edit, layout;
+        std::vector<u32> file, edit, layout, tools;
     } const states[] = {
-        {"no page", 0, 0, {257, 258, 259, 260, 261}, edit_but_settings, layout_all},
-        {"two pages, none active", 2, 1, {257, 259, 260}, edit_but_settings, layout_all},
-        {"an active page", 2, 0, {}, no_history, {}},
+        {"no page", 0, 0, {257, 258, 259, 260, 261}, edit_but_settings, layout_all, preview},
+        {"two pages, none active", 2, 1, {257, 259, 260}, edit_but_settings, layout_all, preview},
+        {"an active page", 2, 0, {}, empty_page, {}, {}},
     };
+    SetClipboardText("");
     RefreshRecentFiles(h.main_window, "/nowhere/one.cpp");
     RefreshRecentFiles(h.main_window, "/nowhere/two.cpp");
     int drawn = 0;
@@ -210,7 +214,7 @@ TEST_F(ShellTest, EntriesAreGreyedByThePagesAndTheActivePage)
             u32 title;
             const std::vector<u32> *grey;
         } menus[] = {{MENU_FILE, &s.file}, {MENU_EDIT, &s.edit}, {MENU_LAYOUT, &s.layout},
-                     {MENU_TOOLS, &none}, {MENU_HELP, &none}};
+                     {MENU_TOOLS, &s.tools}, {MENU_HELP, &none}};
         u32 recent_entries = 0;
         for (const auto &m : menus) {
             ClickTitle(m.title);

@@ -30,7 +30,7 @@ static int CountLines(const char *text, const char *needle)
     return n;
 }
 
-// A first start in an empty data root makes the default block, the 23 commands and the main
+// A first start in an empty data root makes the default block, the 24 commands and the main
 // window; a second start in the same process activates the first main window and changes nothing.
 TEST(Start, FirstStartMakesTheDefaultsAndASecondChangesNothing)
 {
@@ -46,7 +46,7 @@ TEST(Start, FirstStartMakesTheDefaultsAndASecondChangesNothing)
         {"Select All", 268, 281},  {"Select None", 269, 0},    {"Inverse Selection", 270, 0},
         {"Re-order Item codes", 271, 0}, {"Settings", 272, 275}, {"Horizontal", 273, 0},
         {"Vertical", 274, 0},      {"Size to content", 275, 0}, {"Flip Horizontal", 276, 0},
-        {"Tab order", 277, 0},     {"Keyboard", 278, 0},
+        {"Tab order", 277, 0},     {"Keyboard", 278, 0},      {"Preview", 279, 298},
     };
     T_HARNESS h;
     ASSERT_TRUE(HarnessStart(&h, NULL, SCREEN_W, SCREEN_H));
@@ -59,7 +59,7 @@ TEST(Start, FirstStartMakesTheDefaultsAndASecondChangesNothing)
     EXPECT_EQ(config_resource->data, editor_config);
     EXPECT_EQ(config_resource->data_size, 548u);
 
-    ASSERT_EQ(CountListEntries(&h.application->commands), 23u);
+    ASSERT_EQ(CountListEntries(&h.application->commands), 24u);
     const auto *row = expected;
     for (T_APP_COMMAND *c = (T_APP_COMMAND *)h.application->commands.first; c->next; c = c->next, row++) {
         SCOPED_TRACE(row->name);
@@ -84,7 +84,7 @@ TEST(Start, FirstStartMakesTheDefaultsAndASecondChangesNothing)
     create.h = 300;
     EXPECT_EQ(Dll_OpenQuillformWindow(&create), nullptr);
     EXPECT_EQ(CountListEntries(&create.application->commands), 0u);
-    EXPECT_EQ(CountListEntries(&h.application->commands), 23u);
+    EXPECT_EQ(CountListEntries(&h.application->commands), 24u);
     EXPECT_EQ((const u8 *)editor_config, block);
     EXPECT_EQ(CURRENT_DISPLAY->window_class->current_window, h.main_window);
     HarnessStop(&h, 0);

@@ -44,6 +44,10 @@ typedef struct T_DISPLAY_BACKEND {
     u16 (*qualifiers)(void);  // the qualifier keys held now
     // Sleeps until input is pending or `ms` have passed (sdl); advances virtual time (headless).
     void (*wait_for_input)(u32 ms);
+    // The desktop clipboard (sdl), or one in memory (headless): its text is set, false when it
+    // can't be; read, "" when it holds none, valid until the next call of either.
+    int (*set_clipboard)(const char *text);
+    const char *(*get_clipboard)(void);
 } T_DISPLAY_BACKEND;
 
 extern const T_DISPLAY_BACKEND display_sdl;

@@ -1,6 +1,7 @@
 // The headless display: a framebuffer in memory, a queue of synthetic input and a virtual clock.
 // Nothing here depends on the machine or the time of day, so a test's run is the same every time.
 #include <deque>
+#include <string>
 
 #include "display.h"
 #include "ostrand.h"
@@ -15,6 +16,7 @@ static struct {
     int mouse_limited;
     T_RPOS mouse_rect;
     i16 warp_x, warp_y;
+    std::string clipboard;  // kept over a close and open, as a desktop's clipboard outlives a program
 } headless;
 
 // A framebuffer of width by height, cleared; false (and no framebuffer) when there is no memory.
@@ -95,11 +97,21 @@ static u16 HeadlessQualifiers(void) {
     return headless.qualifiers;
 }
 
+static int HeadlessSetClipboard(const char *text) {
+    headless.clipboard = text ? text : "";
+    return 1;
+}
+
+static const char *HeadlessGetClipboard(void) {
+    return headless.clipboard.c_str();
+}
+
 const T_DISPLAY_BACKEND display_headless = {
     "headless",        HeadlessOpen,      HeadlessClose,        HeadlessPixels,
     HeadlessPoll,      HeadlessPresent,   HeadlessTicks,        HeadlessWait,
     HeadlessSetCursor, HeadlessSetMouseRect, HeadlessWarpMouse, HeadlessQualifiers,
     HeadlessWait,  // waiting for input is virtual time too
+    HeadlessSetClipboard, HeadlessGetClipboard,
 };
 
 void HeadlessPush(const T_INPUT_EVENT *event) {

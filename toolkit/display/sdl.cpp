@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string>
 
 #include "../include/constants.h"
 #include "display.h"
@@ -268,10 +269,23 @@ static u16 SdlQualifiers(void) {
     return Qualifiers(sdl.mod);
 }
 
+// SDL gives the clipboard's text in a block of its own: a copy is kept and the block goes back.
+static int SdlSetClipboard(const char *text) {
+    return SDL_SetClipboardText(text ? text : "") == 0;
+}
+
+static const char *SdlGetClipboard(void) {
+    static std::string kept;
+    char *text = SDL_HasClipboardText() ? SDL_GetClipboardText() : nullptr;
+    kept = text ? text : "";
+    SDL_free(text);
+    return kept.c_str();
+}
+
 const T_DISPLAY_BACKEND display_sdl = {
     "sdl",        SdlOpen,         SdlClose,     SdlPixels, SdlPoll,      SdlPresent,
     SdlTicks,     SdlWait,         SdlSetCursor, SdlSetMouseRect, SdlWarpMouse, SdlQualifiers,
-    SdlWaitForInput,
+    SdlWaitForInput, SdlSetClipboard, SdlGetClipboard,
 };
 
 // A program built on a page titles its window with the page's name and gives it the page's size;

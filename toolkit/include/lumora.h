@@ -429,6 +429,12 @@ void SetActiveToolBarEntry(T_TOOLBAR_HANDLER *toolbar, u16 entry);
 // The absolute rectangle of an entry's button; false when there is no such entry.
 int GetToolBarEntryRect(T_TOOLBAR_HANDLER *toolbar, u16 entry, T_RPOS *rect);
 
+// --- The clipboard -------------------------------------------------------------------------------
+// Puts text on the desktop clipboard (headless: one in memory); false, logged, when it can't.
+int SetClipboardText(const char *text);
+// The clipboard's text, "" when it holds none; valid until the next clipboard call.
+const char *GetClipboardText(void);
+
 // --- The loop ------------------------------------------------------------------------------------
 // For a paint function that draws something moving by itself (running dots): the next turn
 // repaints even when nothing else happens. A real display stops repainting a while after the last
