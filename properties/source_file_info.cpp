@@ -99,9 +99,9 @@ t_Window *OpenSourceFileInfo(t_Window *page)
         return NULL;
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
-    char file_name[256];
+    char file_name[FILE_PATH_SIZE];
     StripPath(file_name, record->file_name.text ? record->file_name.text : "");
-    char label[300];
+    char label[FILE_PATH_SIZE + 32];
     snprintf(label, sizeof(label), "%s %s", TXT_FILENAME, file_name);
     for (const T_INFO_GADGET &row : info_gadgets) {
         T_GADGETOBJECTINIT init = {};

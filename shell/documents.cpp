@@ -52,7 +52,7 @@ int SaveDocument(t_Window *window, T_WINEDIT_HANDLER *record, int ask)
         SetActivePage(window, window);
         return 1;
     }
-    char path[256];
+    char path[FILE_PATH_SIZE];
     snprintf(path, sizeof(path), "%s", editor_config->last_path);
     if (record->file_name.text)
         XGetPath(path, record->file_name.text);

@@ -1,6 +1,10 @@
-// Resources: counted uses, the persistent store's round trip, and broken stores left untouched.
+// Resources: counted uses, the persistent store's round trip, broken stores left untouched when
+// read and healed when stored.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 
+#include <functional>
 #include <string>
 
 #include "ostrand/test_support.h"
@@ -80,5 +84,89 @@ TEST_F(Resources, BrokenStoresGiveNullOneLogLineAndStayAsTheyAre) {
         EXPECT_EQ(CountLines(log), 1) << c.what << ": " << log;
         EXPECT_NE(log.find("AppQuillform.res"), std::string::npos) << c.what;
         EXPECT_EQ(ReadWhole(StoreFile("AppQuillform")), c.bytes) << c.what;
+    }
+}
+
+// Runs `steps` as a user whom file permissions hold: this process when it is no root; else a child
+// that gives root up (root reads a file of mode 0 all the same). False when the steps failed.
+static bool AsUnprivileged(const std::string &root, const std::function<void()> &steps) {
+    if (geteuid() != 0) {
+        steps();
+        return !::testing::Test::HasFailure();
+    }
+    std::string store = root + "/store";
+    if (chmod(root.c_str(), 0777) != 0 || chmod(store.c_str(), 0777) != 0)
+        return false;
+    pid_t child = fork();
+    if (child == 0) {
+        if (setgid(65534) != 0 || setuid(65534) != 0)
+            _exit(2);
+        steps();
+        _exit(::testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+// A store that can't be read (garbage, a folder in its place, no permission) is logged once and
+// ignored when read; the next store writes a good file in its place, with the ordinary mode.
+TEST_F(Resources, ABrokenStoreIsReplacedByAGoodOneAtTheNextStore) {
+    struct Case {
+        const char *what;
+        std::function<void(const std::string &)> spoil;
+        const char *logged;  // the reason the log gives
+    } cases[] = {
+        {"garbage", [](const std::string &file) { WriteWhole(file, "not a store"); }, "no store head"},
+        {"a folder",  // with something in it, which is kept aside
+         [](const std::string &file) {
+             mkdir(file.c_str(), 0755);
+             WriteWhole(file + "/kept", "kept");
+         },
+         "a folder stands there"},
+        {"no permission",
+         [](const std::string &file) {
+             WriteWhole(file, "unreadable");
+             chmod(file.c_str(), 0);
+         },
+         "Permission denied"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.what);
+        std::string file = StoreFile("AppQuillform");
+        std::remove(file.c_str());
+        rmdir(file.c_str());
+        MakeEntireDirectory(Path("store").c_str());
+        c.spoil(file);
+        EXPECT_TRUE(AsUnprivileged(root, [&] {
+            mode_t mask = umask(022);
+            int level = _OstrandBase->log_level;
+            _OstrandBase->log_level = 1;  // the host's default: errors and warnings
+            std::string log = CaptureLog([&] {
+                EXPECT_EQ(OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0), nullptr);
+            });
+            EXPECT_EQ(CountLines(log), 1) << log;
+            EXPECT_NE(log.find("AppQuillform.res"), std::string::npos) << log;
+            EXPECT_NE(log.find(c.logged), std::string::npos) << log;
+            T_RESOURCE *fresh = CreateResource(&list, "AppQuillform", 548, RESOURCE_TYPE_SETTINGS);
+            memset(fresh->data, 7, 548);
+            log = CaptureLog([&] { EXPECT_EQ(StoreResources(&list), 0u); });
+            RemoveResource(fresh);
+            struct stat st;
+            ASSERT_EQ(stat(file.c_str(), &st), 0);
+            EXPECT_TRUE(S_ISREG(st.st_mode));
+            EXPECT_EQ(st.st_mode & 07777, 0644u);
+            T_RESOURCE *again = OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0);
+            ASSERT_NE(again, nullptr);
+            EXPECT_EQ(((u8 *)again->data)[547], 7);
+            RemoveResource(again);
+            umask(mask);
+            _OstrandBase->log_level = level;
+        }));
+        if (c.logged == std::string("a folder stands there")) {
+            EXPECT_EQ(ReadWhole(file + ".folder/kept"), "kept");
+        }
+        std::remove((file + ".folder/kept").c_str());
+        rmdir((file + ".folder").c_str());
     }
 }

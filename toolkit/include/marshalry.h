@@ -30,7 +30,11 @@ typedef struct T_APPLICATION {
     const char *group;  // the group of commands registered next
     t_List recent_types;
     t_Window *window;   // the window that commands reach; set by the tool set-up
+    u16 broken_stores;  // STORE_ bits: stores that couldn't be read, written whole at the end
 } T_APPLICATION;
+
+#define STORE_KEYS 1    // the key store
+#define STORE_RECENT 2  // the recent files
 
 typedef struct T_CREATE_APPLICATION {
     struct T_TEXTURE_BANK *icon_bank;

@@ -7,6 +7,7 @@
 
 // --- Base record ---------------------------------------------------------------------------------
 #define OSTRAND_TEXT_BUFFER_SIZE 4096
+#define FILE_PATH_SIZE 1024  // a path buffer of the file and path operations: 1023 characters
 
 typedef struct T_OSTRAND_BASE {
     u32 default_memory_type;                    // the type that AllocMemType gives by default
@@ -114,6 +115,7 @@ void RemoveResource(T_RESOURCE *resource);  // takes one use; frees at the last
 u32 StoreResources(t_List *list);
 
 // --- Files ---------------------------------------------------------------------------------------
+// A path longer than FILE_PATH_SIZE - 1 characters is refused by every operation, with a log line.
 // The whole file in one block of GetLoadFileSize() bytes (plus one NUL byte not counted), freed
 // with FreeMem(data, GetLoadFileSize()). Null on failure.
 void *LoadFile(const char *path);
@@ -121,15 +123,19 @@ u32 GetLoadFileSize(void);
 // Copies one line without its line end ("\n" or "\r\n") into `line` and closes it with a NUL.
 // Returns the bytes consumed, line end included; 0 only at the end of the data.
 u32 ReadLine(char *line, const char *position, const char *end);
-// Starts a file: the text goes to a temporary file beside `path` and is moved into place when the
-// next InitSaveFile comes, or FinishSaveFile is called. Returns false when it can't be started.
+// Starts a file: the text goes to the temporary file ".<name>.tmp" beside `path` and is moved into
+// place when the next InitSaveFile comes, or FinishSaveFile is called; the new file keeps the old
+// one's mode. Returns false when it can't be started: the path is too long, the directory isn't
+// there or can't be written, or the file is write-protected (no write permission for anyone).
 int InitSaveFile(const char *path);
 void SavePrint(const char *text);
 // Moves the file started by InitSaveFile into place. Returns false, and leaves the old file whole,
 // when anything failed; SaveFileError() then tells why.
 int FinishSaveFile(void);
 const char *SaveFileError(void);
-int SaveFile(const char *path, const void *data, u32 size);  // atomic; false on failure
+// Atomic, through the same temporary file; the new file gets the ordinary mode whatever the old
+// one had. False on failure, with a log line.
+int SaveFile(const char *path, const void *data, u32 size);
 
 int FileExists(const char *path);
 int DirectoryExists(const char *path);
@@ -137,7 +143,8 @@ int MakeEntireDirectory(const char *path);  // all levels; true when it exists a
 
 // --- Paths ---------------------------------------------------------------------------------------
 // A '\\' in a name given by the program is taken as a separator. Results are written into the
-// caller's buffer, which holds at least 256 bytes, and returned.
+// caller's buffer, which holds at least FILE_PATH_SIZE bytes, and returned. A result that would
+// not fit is refused, not cut: the buffer is left empty, null is returned and a line is logged.
 char *XGetPath(char *dest, const char *path);           // the directory of `path`, no separator
 char *StripPath(char *dest, const char *path);          // the file name with its extension
 char *StripPathAndExt(char *dest, const char *path);    // the file name without its extension
@@ -153,3 +160,8 @@ void myprintf(int level, const char *format, ...) __attribute__((format(printf, 
 
 // Sets the data root, creating it if needed; false when it can't be made or written.
 int SetDataRoot(const char *path);
+// Takes the data root for this process, by a lock on the file "lock" in it that the system
+// releases when the process ends, however it ends. 1: taken (or already held). 0: another process
+// holds it; *holder is its process id, 0 when it can't be told. -1: the lock can't be had at all
+// (the file can't be made, or the system keeps no locks there), which the caller may pass over.
+int LockDataRoot(u32 *holder);

@@ -23,7 +23,7 @@ void ReleaseBitmap(T_RESOURCE *bitmap) {
 
 // The bitmap named `file` (a file name), loaded once and shared; null (logged) when absent.
 static T_RESOURCE *OpenBitmap(const char *name) {
-    char file[256];
+    char file[FILE_PATH_SIZE];
     StripPath(file, name);
     for (t_Node *n = lumora_state.bitmaps.first; n->next; n = n->next)
         if (strcmp(n->name, file) == 0) {

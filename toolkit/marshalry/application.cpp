@@ -80,14 +80,28 @@ const char *MarshalryStorePath(const char *folder, const char *name, const char 
     return MakePathFromSystem(relative);
 }
 
-char *LoadStoreText(const char *path, u32 *size) {
-    if (!path || !FileExists(path))
+char *LoadStoreText(const char *path, u32 *size, u16 *broken, u16 store) {
+    *size = 0;
+    if (!path || !PathExists(path))
         return NULL;
     char *text = (char *)LoadFile(path);
-    if (!text)
-        myprintf(0, "The store %s can't be read; it is ignored", path);
-    *size = text ? GetLoadFileSize() : 0;
+    if (!text) {
+        myprintf(0, "The store %s can't be read (%s); it is ignored", path, LoadFileError());
+        *broken |= store;
+        return NULL;
+    }
+    *size = GetLoadFileSize();
     return text;
+}
+
+void StoreBrokenStores(void) {
+    for (T_APPLICATION *app = (T_APPLICATION *)_MarshalryBase->applications.first; app->next;
+         app = app->next) {
+        if (app->broken_stores & STORE_KEYS)
+            StoreKeys(app);
+        if (app->broken_stores & STORE_RECENT)
+            StoreRecentFiles(app);
+    }
 }
 
 void ForgetToolSetupWindow(t_Window *window) {

@@ -59,7 +59,7 @@ static void LoadKeyStore(T_APPLICATION *app) {
     key_store.app = app;
     const char *path = MarshalryStorePath(KEY_STORE_FOLDER, app->name, KEY_STORE_EXTENSION, 0);
     u32 size;
-    char *text = LoadStoreText(path, &size);
+    char *text = LoadStoreText(path, &size, &app->broken_stores, STORE_KEYS);
     if (!text)
         return;
     char line[1024];
@@ -72,6 +72,7 @@ static void LoadKeyStore(T_APPLICATION *app) {
             continue;
         if (!parsed || key > 0xffff) {
             myprintf(0, "%s:%u: not a key binding; the default keys are used", path, line_number);
+            app->broken_stores |= STORE_KEYS;
             ForgetKeyStore(app);
             key_store.app = app;
             break;
@@ -155,7 +156,7 @@ T_APP_COMMAND *FindAppCommandByCode(T_APPLICATION *app, u32 item_code) {
 
 // Writes the keys that differ from their defaults. A store that can't be written is logged and
 // the change holds for this run.
-static void StoreKeys(T_APPLICATION *app) {
+void StoreKeys(T_APPLICATION *app) {
     u32 count = CountListEntries(&app->commands);
     u32 capacity = count * 24 + 1;
     char *text = (char *)AllocMemC(capacity);
@@ -167,8 +168,10 @@ static void StoreKeys(T_APPLICATION *app) {
             length += (u32)snprintf(text + length, capacity - length, "%u %u\n", c->item_code,
                                     c->key);
     const char *path = MarshalryStorePath(KEY_STORE_FOLDER, app->name, KEY_STORE_EXTENSION, 1);
-    if (!path || !SaveFile(path, text, length))
+    if (!path || !SaveStoreFile(path, text, length))
         myprintf(0, "The keys of %s could not be stored", app->name);
+    else
+        app->broken_stores &= ~STORE_KEYS;
     FreeMem(text, capacity);
     if (key_store.app == app)
         ForgetKeyStore(app);

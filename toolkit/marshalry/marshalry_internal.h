@@ -11,12 +11,18 @@ int WindowStands(t_Window *window);
 const char *MarshalryStorePath(const char *folder, const char *name, const char *extension,
                                int make_folder);
 
-// Reads a store file of text lines. Null when it is missing (quietly) or unreadable (logged);
-// the block is freed with FreeMem(text, *size).
-char *LoadStoreText(const char *path, u32 *size);
+// Reads a store file of text lines. Null when it is missing (quietly) or unreadable (logged, and
+// `store` set in *broken); the block is freed with FreeMem(text, *size).
+char *LoadStoreText(const char *path, u32 *size, u16 *broken, u16 store);
+// Writes again, whole, each application's stores that couldn't be read at the start, so that an
+// orderly end heals them.
+void StoreBrokenStores(void);
 
-// Commands (commands.cpp): forgets the application's cached key store.
+// Commands (commands.cpp): forgets the application's cached key store; writes its keys.
 void ForgetKeyStore(T_APPLICATION *app);
+void StoreKeys(T_APPLICATION *app);
 
-// Recent files (recent.cpp): forgets the entries made in menus, which went with the toolkit.
+// Recent files (recent.cpp): forgets the entries made in menus, which went with the toolkit;
+// writes an application's lists.
 void ForgetRecentEntries(void);
+void StoreRecentFiles(T_APPLICATION *app);

@@ -53,7 +53,7 @@ static T_RECENT_FILE *NewRecentFile(u32 type, const char *path) {
 static void LoadRecentFiles(T_APPLICATION *app, T_RECENT_TYPE *type) {
     const char *path = MarshalryStorePath(RECENT_FOLDER, app->name, RECENT_EXTENSION, 0);
     u32 size;
-    char *text = LoadStoreText(path, &size);
+    char *text = LoadStoreText(path, &size, &app->broken_stores, STORE_RECENT);
     if (!text)
         return;
     char line[1024];
@@ -67,6 +67,7 @@ static void LoadRecentFiles(T_APPLICATION *app, T_RECENT_TYPE *type) {
         if (end == line || *end != ' ' || !end[1]) {
             myprintf(0, "%s:%u: not a recent file; the recent files are dropped", path,
                      line_number);
+            app->broken_stores |= STORE_RECENT;
             EmptyList(&type->files, sizeof(T_RECENT_FILE));
             break;
         }
@@ -78,7 +79,7 @@ static void LoadRecentFiles(T_APPLICATION *app, T_RECENT_TYPE *type) {
     TrimRecentFiles(type);
 }
 
-static void StoreRecentFiles(T_APPLICATION *app) {
+void StoreRecentFiles(T_APPLICATION *app) {
     u32 capacity = 1;
     for (T_RECENT_TYPE *t = (T_RECENT_TYPE *)app->recent_types.first; t->next; t = t->next)
         for (T_RECENT_FILE *f = (T_RECENT_FILE *)t->files.first; f->next; f = f->next)
@@ -91,8 +92,10 @@ static void StoreRecentFiles(T_APPLICATION *app) {
         for (T_RECENT_FILE *f = (T_RECENT_FILE *)t->files.first; f->next; f = f->next)
             length += (u32)snprintf(text + length, capacity - length, "%u %s\n", t->type, f->name);
     const char *path = MarshalryStorePath(RECENT_FOLDER, app->name, RECENT_EXTENSION, 1);
-    if (!path || !SaveFile(path, text, length))
+    if (!path || !SaveStoreFile(path, text, length))
         myprintf(0, "The recent files of %s could not be stored", app->name);
+    else
+        app->broken_stores &= ~STORE_RECENT;
     FreeMem(text, capacity);
 }
 

@@ -55,7 +55,8 @@ void ReadToolConfig(T_TOOL_SETUP *setup, void *config) {
         return;
     const char *path = MarshalryStorePath(PLACES_FOLDER, setup->name, PLACES_EXTENSION, 0);
     u32 size;
-    char *text = LoadStoreText(path, &size);
+    u16 broken = 0;  // the places are written whole at every orderly end anyway
+    char *text = LoadStoreText(path, &size, &broken, 0);
     if (!text)
         return;
     enum { MAX_PLACES = 64 };
@@ -153,6 +154,6 @@ void StoreToolSetup(T_TOOL_SETUP *setup) {
         index++;
     }
     const char *path = MarshalryStorePath(PLACES_FOLDER, setup->name, PLACES_EXTENSION, 1);
-    if (!path || !SaveFile(path, text, length))
+    if (!path || !SaveStoreFile(path, text, length))
         myprintf(0, "The window places of %s could not be stored", setup->name);
 }

@@ -64,16 +64,18 @@ static T_RESOURCE *NewResource(t_List *list, const char *name, u32 type) {
 }
 
 // Reads a stored resource into a new record on the list. A missing file gives null quietly; a
-// broken one gives null and one log line, and stays as it is.
+// broken one (garbage, a folder in its place, no permission) gives null and one log line, and
+// stays as it is until the next store writes a good file in its place.
 static T_RESOURCE *LoadStoredResource(t_List *list, const char *name, u32 type) {
     const char *path = StorePath(name);
-    if (!FileExists(path))
+    if (!PathExists(path))
         return NULL;
-    char path_copy[1024];
+    char path_copy[FILE_PATH_SIZE];
     snprintf(path_copy, sizeof(path_copy), "%s", path);
     const u8 *file = (const u8 *)LoadFile(path_copy);
     if (!file) {
-        myprintf(0, "Stored resource %s can't be read; it is ignored", path_copy);
+        myprintf(0, "Stored resource %s can't be read (%s); it is ignored", path_copy,
+                 LoadFileError());
         return NULL;
     }
     u32 file_size = GetLoadFileSize();
@@ -166,7 +168,7 @@ static int StoreResource(T_RESOURCE *resource) {
         memcpy(file + STORE_HEAD_SIZE, resource->data, resource->data_size);
     PutU32(file + 16, Crc32(file + STORE_HEAD_SIZE, resource->data_size));
     int ok = MakeEntireDirectory(MakePathFromSystem(STORE_FOLDER)) &&
-             SaveFile(StorePath(resource->name), file, size);
+             SaveStoreFile(StorePath(resource->name), file, size);
     FreeMem(file, size);
     return ok;
 }

@@ -1,7 +1,9 @@
 // The session: the wait for an application's windows to go, and its orderly end.
-// The end stores the settings, the window places and any pending file.
+// The end stores the settings, the window places, the stores that couldn't be read at the start
+// and any pending file, once: an end asked for again (from a wait still on the stack) does nothing.
 #include <stdlib.h>
 
+#include "marshalry/marshalry_internal.h"
 #include "toolkit.h"
 
 static T_TENURE_BASE tenure_base = {SESSION_RUNNING};
@@ -29,7 +31,7 @@ static int Asked(t_Window **asked, u32 count, t_Window *child) {
 // children; so the walk starts again from the first child after each message and remembers by
 // address whom it has asked, never keeping a pointer into the list across a call.
 int WaitForNDependantWindowLeft(t_Window *window, u32 n) {
-    if (!window)
+    if (!window || _TenureBase->session_state == SESSION_ENDED)
         return 0;
     _TenureBase->session_state = SESSION_ENDING;
     t_Window **asked = NULL;
@@ -50,6 +52,10 @@ int WaitForNDependantWindowLeft(t_Window *window, u32 n) {
         }
         asked[asked_count++] = child;
         SendWindowMessage(child, 0, ACT_TERMINATE, NULL);
+        if (_TenureBase->session_state == SESSION_ENDED) {  // ended meanwhile, by a nested end
+            free(asked);
+            return 0;
+        }
         if (_TenureBase->session_state == SESSION_CANCELLED) {
             free(asked);
             _TenureBase->session_state = SESSION_RUNNING;
@@ -69,7 +75,12 @@ int WaitForNDependantWindowLeft(t_Window *window, u32 n) {
 }
 
 void SaveAndCloseSessionApplication(t_Window *window, T_TOOL_SETUP *setup) {
+    if (_TenureBase->session_state == SESSION_ENDED) {
+        myprintf(3, "The session has ended already; nothing is stored again");
+        return;
+    }
     StoreToolSetup(setup);
+    StoreBrokenStores();
     u32 failed = StoreResources(&_MarshalryBase->resources);
     if (failed)
         myprintf(0, "%u stored settings could not be written at the end of the session", failed);
