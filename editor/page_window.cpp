@@ -1,5 +1,6 @@
 // The page window: how it comes into being from a box, and how it answers the toolkit's messages,
-// the close query and the items of its context menus.
+// the close query (and the exit's), the saves that end in it, the question before a save over
+// hand-written lines, and the items of its context menus.
 #include "editor/page_window.h"
 
 #include <stdio.h>
@@ -14,7 +15,10 @@
 #include "shell/main_window.h"
 #include "shell/menus.h"
 #include "shell/texts.h"
+#include "source/hand_written.h"
 #include "source/source_writer.h"
+
+#define LINES_SHOWN 5  // line numbers that the question before a save over hand-written lines names
 
 // The mask of Quillform's own page window: exactly the messages that PageMessage answers.
 static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE |
@@ -107,43 +111,161 @@ void RemovePage(t_Window *window, int second_refresh)
         RefreshMainMenus(parent, NULL);
 }
 
-// The close query: asks to save a modified page, and turns the event loop until the page has
-// gone or stopped standing as a window. A clean page goes at once.
-static void ClosePage(t_Window *window)
+// Puts up the query on a modified page, unless one stands already: it answers for every close.
+static void OpenQuery(t_Window *window, T_WINEDIT_HANDLER *record)
 {
-    if (!(window->state_flags & WSF_MODIFIED)) {
-        RemovePage(window, 1);
+    if (record->query_state == PAGE_QUERY_OPEN)
         return;
-    }
     char *text = _OstrandBase->text_buffer;
     snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_QUERY_UNSAVED, window->name);
     t_Window *box = NewMsgBox(window, TXT_QUERY_TITLE, text, 35, PAGE_ITEM_QUERY);
     if (box)
         box->icon_bank = NULL;
-    if (window->state != WINDOW_STATE_OPEN)
-        return;
-    do {
-        RefreshHandlers(&CURRENT_DISPLAY->window_class->head);
-        if (window->state_flags & WSF_REMOVED)
-            break;
-    } while (window->state == WINDOW_STATE_OPEN);
+    record->query_state = PAGE_QUERY_OPEN;
 }
 
-// The "Save Source as" selector answered: the page gets its file name and is written.
+// Turns the event loop until the query is settled: the page went, it stopped standing as a
+// window (unless the exit asks), the answer and the save it started came to an end, or the session
+// ended. Gives what the query came to.
+static u16 WaitForQuery(t_Window *window, T_WINEDIT_HANDLER *record)
+{
+    while (!(window->state_flags & WSF_REMOVED) && !SessionEnded() &&
+           record->query_state == PAGE_QUERY_OPEN &&
+           (record->query_for_exit || window->state == WINDOW_STATE_OPEN))
+        RefreshHandlers(&CURRENT_DISPLAY->window_class->head);
+    u16 result = (window->state_flags & WSF_REMOVED) ? PAGE_QUERY_DROPPED : record->query_state;
+    record->query_state = PAGE_QUERY_NONE;
+    record->query_for_exit = 0;
+    return result;
+}
+
+// The close query: asks to save a modified page, and turns the event loop until the page has
+// gone, stopped standing as a window, or stays after its answer (Cancel, a save that failed or
+// was given up). A clean page goes at once.
+static void ClosePage(t_Window *window)
+{
+    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    if (!(window->state_flags & WSF_MODIFIED)) {
+        RemovePage(window, 1);
+        return;
+    }
+    if (record->query_state == PAGE_QUERY_OPEN)
+        return;  // the query that stands answers this close too
+    OpenQuery(window, record);
+    if (window->state != WINDOW_STATE_OPEN)
+        return;
+    WaitForQuery(window, record);
+}
+
+int AskToSavePage(t_Window *window)
+{
+    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    OpenQuery(window, record);  // or takes over the close query that stands
+    record->query_for_exit = 1;
+    return WaitForQuery(window, record);
+}
+
+void PageSaveEnded(t_Window *window, T_WINEDIT_HANDLER *record, int outcome, int by_save_as)
+{
+    int query = record->query_state == PAGE_QUERY_OPEN;
+    if (outcome == SAVE_DOCUMENT_WRITTEN) {
+        if (query)
+            record->query_state = PAGE_QUERY_SAVED;
+        if ((by_save_as && record->close_after_save) || (query && !record->query_for_exit))
+            RemovePage(window, 0);
+        return;
+    }
+    if (query) {
+        record->query_state = PAGE_QUERY_KEPT;
+        if (_TenureBase->session_state == SESSION_ENDING)
+            _TenureBase->session_state = SESSION_CANCELLED;
+    }
+}
+
+int WriteDocument(t_Window *window, T_WINEDIT_HANDLER *record, const char *path, int by_save_as)
+{
+    if (!SavePage(window, path)) {
+        PageSaveEnded(window, record, SAVE_DOCUMENT_FAILED, by_save_as);
+        return SAVE_DOCUMENT_FAILED;
+    }
+    if (path != record->file_name.text) {
+        AllocString(path, &record->file_name);
+        SetTitleBarHoverTitle(window, record->file_name.text);
+    }
+    window->state_flags &= ~WSF_MODIFIED;
+    if (!record->saved)
+        record->saved = 1;
+    record->lines_checked = 1;  // the file holds what the writer wrote, nothing else
+    SetActivePage(window, window);
+    PageSaveEnded(window, record, SAVE_DOCUMENT_WRITTEN, by_save_as);
+    return SAVE_DOCUMENT_WRITTEN;
+}
+
+int AskBeforeDroppingLines(t_Window *window, T_WINEDIT_HANDLER *record, const char *path)
+{
+    if (record->lines_checked || !record->line_map || !record->file_name.text ||
+        strcmp(path, record->file_name.text) != 0)
+        return 0;
+    u32 numbers[LINES_SHOWN];
+    u32 count = CountHandWrittenLines(record, path, numbers, LINES_SHOWN);
+    if (!count) {
+        record->lines_checked = 1;
+        return 0;
+    }
+    char list[LINES_SHOWN * 12 + 8] = "";
+    for (u32 i = 0; i < count && i < LINES_SHOWN; i++)
+        snprintf(list + strlen(list), sizeof(list) - strlen(list), "%s%u", i ? ", " : "", numbers[i]);
+    if (count > LINES_SHOWN)
+        snprintf(list + strlen(list), sizeof(list) - strlen(list), ", ...");
+    char name[FILE_PATH_SIZE];
+    StripPath(name, path);
+    char *text = _OstrandBase->text_buffer;
+    snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_LINES_QUESTION, name, count, count == 1 ? "" : "s",
+             count == 1 ? "" : "s", list);
+    static const char *const labels[] = {TXT_LINES_SAVE, TXT_LINES_SAVE_AS, TXT_CANCEL_BUTTON};
+    t_Window *box = NewMsgBoxLabels(window, TXT_LINES_TITLE, text, 35, PAGE_ITEM_LINES, labels);
+    if (box)
+        box->icon_bank = NULL;
+    return 1;
+}
+
+// The close query answered Yes: the page is saved, and goes when that is done (unless the exit
+// asked, which closes every page itself). A save that waits on a selector or a question goes on
+// there; one that failed keeps the page.
+static void AnswerYes(t_Window *window, T_WINEDIT_HANDLER *record)
+{
+    if (SaveDocument(window, record, 0) == SAVE_DOCUMENT_PENDING && !record->query_for_exit)
+        record->close_after_save = 1;
+}
+
+// The close query answered No: the page goes with its changes, or, asked by the exit, waits to go
+// with the others.
+static void AnswerNo(t_Window *window, T_WINEDIT_HANDLER *record)
+{
+    record->query_state = PAGE_QUERY_DROPPED;
+    if (!record->query_for_exit)
+        RemovePage(window, 0);
+}
+
+// The "Save Source as" selector answered: the page is written under the chosen name, which it
+// takes only when that worked; a file it was read from and holds hand-written lines asks first.
 static void FinishSaveAs(t_Window *window, T_WINEDIT_HANDLER *record, const T_FILE_REQUESTER_ANSWER *answer)
 {
-    char path[1024];
-    MakeFilename(path, answer->directory, answer->name);
+    char path[FILE_PATH_SIZE];
+    if (!MakeFilename(path, answer->directory, answer->name) ||
+        (!ExtensionExists(path) && strlen(path) + 4 >= sizeof(path))) {
+        char *text = _OstrandBase->text_buffer;
+        snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_PATH_TOO_LONG, answer->name);
+        NewMsgBox(window, TXT_ERROR_TITLE, text, 16, PAGE_ITEM_MESSAGE);
+        PageSaveEnded(window, record, SAVE_DOCUMENT_FAILED, 1);
+        return;
+    }
     if (!ExtensionExists(path))
-        snprintf(path + strlen(path), sizeof(path) - strlen(path), "%s", ".cpp");
-    AllocString(path, &record->file_name);
-    SetTitleBarHoverTitle(window, record->file_name.text);
-    SavePage(window, record->file_name.text);
-    window->state_flags &= ~WSF_MODIFIED;
-    record->saved = 1;
-    SetLastPath(answer->directory);
-    if (record->close_after_save)
-        RemovePage(window, 0);
+        strcat(path, ".cpp");
+    if (AskBeforeDroppingLines(window, record, path))
+        return;
+    if (WriteDocument(window, record, path, 1) == SAVE_DOCUMENT_WRITTEN)
+        SetLastPath(answer->directory);
 }
 
 // Greys the alignment entries of the gadget context menu when nothing is marked, and Cut, Copy
@@ -334,24 +456,26 @@ u32 PageMessage(t_Window *window, u32 item_code, u32 msg, void *data)
         if (item_code == PAGE_ITEM_SAVE_AS && data) {
             FinishSaveAs(window, record, (const T_FILE_REQUESTER_ANSWER *)data);
         } else if (item_code == PAGE_ITEM_QUERY) {  // yes: save, then close
-            if (SaveDocument(window, record, 0))
-                RemovePage(window, 0);
-            else
-                record->close_after_save = 1;
+            AnswerYes(window, record);
         } else if (item_code == PAGE_ITEM_FONT) {  // a font chosen for the marked gadgets
             ApplyFontToMarked(window, (t_Window *)data);
             window->state_flags |= WSF_MODIFIED;
+        } else if (item_code == PAGE_ITEM_LINES && record->file_name.text) {  // "Save" over them
+            record->lines_checked = 1;
+            WriteDocument(window, record, record->file_name.text, 0);
         }
         return 0;
     case ACT_REQUESTER_CANCEL:
-        if (item_code == PAGE_ITEM_QUERY && _TenureBase->session_state == SESSION_ENDING)
-            _TenureBase->session_state = SESSION_CANCELLED;
+        if (item_code == PAGE_ITEM_QUERY || item_code == PAGE_ITEM_SAVE_AS || item_code == PAGE_ITEM_LINES)
+            PageSaveEnded(window, record, SAVE_DOCUMENT_CANCELLED, 0);  // a query waiting on it stays
         else if (item_code == PAGE_ITEM_FONT)
             CancelFont(window, (t_Window *)data);
         return 0;
-    case ACT_REQUESTER_ABORT:  // no: the changes are dropped
-        if (item_code == PAGE_ITEM_QUERY)
-            RemovePage(window, 0);
+    case ACT_REQUESTER_ABORT:
+        if (item_code == PAGE_ITEM_QUERY)  // no: the changes are dropped
+            AnswerNo(window, record);
+        else if (item_code == PAGE_ITEM_LINES)  // "Save as...": the old file keeps its lines
+            SaveDocument(window, record, 1);
         return 0;
     case ACT_REQUESTER_PREVIEW:
         if (item_code == PAGE_ITEM_FONT)

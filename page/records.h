@@ -40,6 +40,10 @@ typedef struct T_WINEDIT_HANDLER {
     i16 drag_last_x, drag_last_y;
     u16 last_tool;
     u16 close_after_save;
+    u16 query_state;     // PAGE_QUERY_: the query on closing (or on the exit) and what it came to
+    u16 query_for_exit;  // the standing query asks for the exit: its answers don't close the page
+    u16 drop_at_exit;    // answered No in the exit's query: the page goes without its changes
+    u16 lines_checked;   // a save over the page's file can't drop hand-written lines any more
     u16 tab_next;
     u16 dash_phase;  // 0 to 31
     t_gadget *msg_combo_first;
@@ -49,6 +53,13 @@ typedef struct T_WINEDIT_HANDLER {
     T_ITEM_CODES item_codes;  // the codes of the page's gadgets; see SetGadgetItemCode
     u16 item_codes_valid;     // 0: built again from the gadgets at the next use
 } T_WINEDIT_HANDLER;
+
+// What the query on a modified page came to (query_state).
+#define PAGE_QUERY_NONE 0     // no query stands
+#define PAGE_QUERY_OPEN 1     // the query, or the save that its Yes started, is under way
+#define PAGE_QUERY_SAVED 2    // Yes, and the page was written
+#define PAGE_QUERY_DROPPED 3  // No: the changes go with the page
+#define PAGE_QUERY_KEPT 4     // Cancel, a save that failed, or a Save as that was given up
 
 #define EDIT_TAB_ORDER 2
 #define EDIT_RUBBER_PAINTED 4

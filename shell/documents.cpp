@@ -3,12 +3,12 @@
 #include <stdio.h>
 #include <string.h>
 
+#include "editor/page_window.h"
 #include "shell/commands.h"
 #include "shell/main_window.h"
 #include "shell/menus.h"
 #include "shell/texts.h"
 #include "source/open_page.h"
-#include "source/source_writer.h"
 #include "source/source_writer.h"
 
 // Opens a file selector for *.cpp with the given parent, item code, title, button, path and name.
@@ -46,18 +46,17 @@ void OpenDocumentSelector(t_Window *main_window)
 
 int SaveDocument(t_Window *window, T_WINEDIT_HANDLER *record, int ask)
 {
-    if (record->saved != 0 && !ask) {
-        SavePage(window, record->file_name.text);
-        window->state_flags &= ~WSF_MODIFIED;
-        SetActivePage(window, window);
-        return 1;
+    if (record->saved != 0 && !ask && record->file_name.text) {
+        if (AskBeforeDroppingLines(window, record, record->file_name.text))
+            return SAVE_DOCUMENT_PENDING;
+        return WriteDocument(window, record, record->file_name.text, 0);
     }
     char path[FILE_PATH_SIZE];
     snprintf(path, sizeof(path), "%s", editor_config->last_path);
     if (record->file_name.text)
         XGetPath(path, record->file_name.text);
     OpenSourceSelector(window, 0, TXT_SAVE_AS_TITLE, TXT_SAVE_BUTTON, path, record->file_name.text);
-    return 0;
+    return SAVE_DOCUMENT_PENDING;
 }
 
 void RefreshRecentFiles(t_Window *main_window, const char *path)

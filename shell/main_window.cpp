@@ -8,6 +8,7 @@
 #include "editor/clipboard.h"
 #include "editor/mouse_editing.h"
 #include "editor/page_commands.h"
+#include "editor/page_window.h"
 #include "editor/preview.h"
 #include "shell/commands.h"
 #include "shell/menus.h"
@@ -139,15 +140,62 @@ static void ShowAbout(t_Window *main_window)
     }
 }
 
-// The end of the module: remember the open documents, let the pages go (each modified one asks),
-// and store the settings.
+// The first page that is modified and hasn't answered the exit's query with No, or null.
+static t_Window *NextPageToAsk(t_Window *main_window)
+{
+    for (t_Window *child = main_window->first_child; child->next; child = child->next)
+        if (IsPageWindow(child) && IsWindowLive(child) && (child->state_flags & WSF_MODIFIED) &&
+            !((T_WINEDIT_HANDLER *)child->user_data)->drop_at_exit)
+            return child;
+    return NULL;
+}
+
+// Asks every modified page before any page closes, so that a Cancel, or a save that fails or is
+// given up, leaves every page as it was. A page answered No is marked to go without its changes;
+// one saved and changed again while a later query stood is asked again. True when every page
+// answered; the pages marked No are then clean, to go without asking.
+static int AskModifiedPages(t_Window *main_window)
+{
+    int answered = 1;
+    while (t_Window *page = NextPageToAsk(main_window)) {
+        int answer = AskToSavePage(page);
+        if (answer == PAGE_QUERY_DROPPED && IsWindowLive(page))
+            ((T_WINEDIT_HANDLER *)page->user_data)->drop_at_exit = 1;
+        else if (answer != PAGE_QUERY_SAVED && answer != PAGE_QUERY_DROPPED) {
+            answered = 0;
+            break;
+        }
+    }
+    for (t_Window *child = main_window->first_child; child->next; child = child->next) {
+        if (!IsPageWindow(child) || !IsWindowLive(child))
+            continue;
+        T_WINEDIT_HANDLER *page_record = (T_WINEDIT_HANDLER *)child->user_data;
+        if (answered && page_record->drop_at_exit)
+            child->state_flags &= ~WSF_MODIFIED;
+        page_record->drop_at_exit = 0;
+    }
+    return answered;
+}
+
+// The end of the module: every modified page asks first, and nothing closes before all have
+// answered. Then the open documents are remembered (a page saved under a new name in its query
+// among them), the pages go, and the settings are stored. It runs once: an exit asked for while
+// one is under way (from inside a query's wait) or after the end does nothing.
 static void EndModule(t_Window *main_window, T_WINEDIT_MAIN *record)
 {
+    if (_TenureBase->session_state != SESSION_RUNNING)
+        return;
+    _TenureBase->session_state = SESSION_ENDING;
+    if (!AskModifiedPages(main_window)) {
+        if (_TenureBase->session_state != SESSION_ENDED)
+            _TenureBase->session_state = SESSION_RUNNING;
+        return;  // a query was cancelled: the module goes on, with every page
+    }
     const char *old_backup_path = editor_config->backup_path;
     StoreOpenDocuments(main_window, editor_config, record->toolbar);
     RepointSettingsDialogs(main_window, old_backup_path);
     if (!WaitForNDependantWindowLeft(main_window, 1))
-        return;  // a query was cancelled: the module goes on
+        return;  // a page changed meanwhile and its query was cancelled: the module goes on
     record->toolbar->extra_flags |= TOOLBAR_EXTRA_ENDING;
     EmptyList(&gadget_context_menu.items, sizeof(t_Menu));
     SaveAndCloseSessionApplication(main_window, record->tool_setup);

@@ -17,8 +17,10 @@ T_WINEDIT_MAIN *FindMainRecord(t_Window *main_window);
 // Makes `page` (a page window, or null) the active page of the main window that `window` is a
 // child of.
 void SetActivePage(t_Window *window, t_Window *page);
-// Writes the page at once and returns true when it has a file and `ask` is false; otherwise opens
-// the "Save Source as" selector and returns false.
+// Writes the page at once when it has a file and `ask` is false, giving SAVE_DOCUMENT_WRITTEN or,
+// when the file couldn't be written (the writer told the person), SAVE_DOCUMENT_FAILED with the page
+// still modified; otherwise opens the "Save Source as" selector, or first the question before a
+// save over hand-written lines, and gives SAVE_DOCUMENT_PENDING (editor/page_window.h).
 int SaveDocument(t_Window *window, T_WINEDIT_HANDLER *record, int ask);
 // Refreshes the recent files in the "File" menu, first adding `path` when it isn't null.
 void RefreshRecentFiles(t_Window *main_window, const char *path);

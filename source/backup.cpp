@@ -1,4 +1,5 @@
 // BackupDocument: where the copy of a page file goes, by the settings' backup path, and the copy.
+#include <stdio.h>
 #include <string.h>
 
 #include "page/records.h"
@@ -7,6 +8,13 @@
 
 // What the backup path is when the module has no settings block: the default of a new one.
 static const char default_backup_path[] = "Backup";
+
+static char backup_failure[SRC_PATH_SIZE + 128];
+
+const char *BackupFailure(void)
+{
+    return backup_failure;
+}
 
 // Appends `text` to the path in `dest` (a buffer of SRC_PATH_SIZE bytes). False, with `dest`
 // unchanged, when the result would not fit.
@@ -31,6 +39,7 @@ static int AddSeparator(char *path)
 int BackupDocument(const char *path)
 {
     const char *backup_path = editor_config ? editor_config->backup_path : default_backup_path;
+    backup_failure[0] = 0;
     if (strlen(path) >= SRC_PATH_SIZE || strlen(backup_path) >= SRC_PATH_SIZE) {
         myprintf(0, "No backup of %s: the path is longer than %d characters\n", path,
                  SRC_PATH_SIZE - 1);
@@ -61,19 +70,23 @@ int BackupDocument(const char *path)
     if (!fits) {
         myprintf(0, "No backup of %s: the backup's path would be longer than %d characters\n",
                  path, SRC_PATH_SIZE - 1);
-        return 0;
+        return BACKUP_NO_DOCUMENT;
     }
 
     void *data = LoadFile(path);
     if (!data) {
         myprintf(0, "No backup of %s: the document can't be read\n", path);
-        return 0;
+        return BACKUP_NO_DOCUMENT;
     }
     u32 size = GetLoadFileSize();
-    if (!SaveFile(target, data, size))
+    int result = BACKUP_WRITTEN;
+    if (!SaveFile(target, data, size)) {
+        snprintf(backup_failure, sizeof(backup_failure), "%s: %s", target, SaveFileError());
         myprintf(0, "The backup %s could not be written; the save goes on\n", target);
-    else
+        result = BACKUP_NOT_WRITTEN;
+    } else {
         myprintf(3, "Backup of %s written to %s\n", path, target);
+    }
     FreeMem(data, size);
-    return 1;
+    return result;
 }

@@ -432,7 +432,14 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
             MarkForeign(reading, reading->lines_read - 1);
     }
 
-    // Only the size comes from the file; the place comes from the parent's cascade.
+    // Only the size comes from the file; the place comes from the parent's cascade. A size that
+    // is no page's (zero, negative, below the smallest page) makes no window, which the opening
+    // tells, rather than a page that nobody could see.
+    if (window.init.w < PAGE_MIN_WIDTH || window.init.h < PAGE_MIN_HEIGHT) {
+        myprintf(0, "\nOpenPage error, the window's size %dx%d is below the smallest page, %dx%d",
+                 window.init.w, window.init.h, PAGE_MIN_WIDTH, PAGE_MIN_HEIGHT);
+        return position;
+    }
     i16 k = (i16)(parent->cascade_index * 16);
     t_Window *page = CreatePageWindow(parent, name, window.init.flags, k, k, (i16)(k + window.init.w),
                                       (i16)(k + window.init.h));

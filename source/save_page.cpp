@@ -122,7 +122,15 @@ static void OrderGadgetsByType(t_Gaget_Handler *gadget_handler)
         AddTail(&gadget_handler->gadget_list, (t_Node *)g);
 }
 
-void SavePage(t_Window *window, const char *path)
+// A message box on the page about a save, with a text made of `format` and `detail`.
+static void TellSaveError(t_Window *window, const char *format, const char *detail)
+{
+    char message[1024];
+    snprintf(message, sizeof(message), format, detail);
+    NewMsgBox(window, SRC_SAVE_ERROR_TITLE, message, SRC_SAVE_ERROR_STYLE, SRC_SAVE_ERROR_ITEM_CODE);
+}
+
+int SavePage(t_Window *window, const char *path)
 {
     u32 settings = editor_config ? editor_config->flags : default_save_settings;
     if (!editor_config)
@@ -142,13 +150,22 @@ void SavePage(t_Window *window, const char *path)
     snprintf(plain_name, sizeof(plain_name), "%s", window->name ? window->name : "");
     RemoveSpacesFromString(plain_name);
 
-    if (settings & CONFIG_BACKUPS) {
+    if (settings & CONFIG_BACKUPS)
         UpdateProgressBar(bar, 0, SRC_SAVE_BAR_BACKUP);
-        if (FileExists(path) && !BackupDocument(path)) {
+    if ((settings & CONFIG_BACKUPS) && FileExists(path)) {
+        switch (BackupDocument(path)) {
+        case BACKUP_NO_DOCUMENT:  // the old text can't be read: nothing is written
             NewMsgBox(window, SRC_SAVE_ERROR_TITLE, SRC_SAVE_ERROR_BACKUP, SRC_SAVE_ERROR_STYLE,
                       SRC_SAVE_ERROR_ITEM_CODE);
             KillProgressBar(bar);
-            return;
+            return 0;
+        case BACKUP_NOT_WRITTEN:  // the document is written all the same; the message stays
+            // when the page closes after the save (the close query's Yes)
+            TellSaveError(window->parent ? window->parent : window, SRC_SAVE_ERROR_BACKUP_COPY,
+                          BackupFailure());
+            break;
+        default:
+            break;
         }
     }
 
@@ -176,11 +193,11 @@ void SavePage(t_Window *window, const char *path)
 
     // The text goes to a temporary file beside the target; tell the user when it couldn't be
     // moved into place.
-    if (!FinishSaveFile()) {
-        char message[1024];
-        snprintf(message, sizeof(message), SRC_SAVE_ERROR_WRITE, path, SaveFileError());
-        myprintf(0, "%s", message);
-        NewMsgBox(window, SRC_SAVE_ERROR_TITLE, message, SRC_SAVE_ERROR_STYLE,
-                  SRC_SAVE_ERROR_ITEM_CODE);
-    }
+    if (FinishSaveFile())
+        return 1;
+    char message[1024];
+    snprintf(message, sizeof(message), SRC_SAVE_ERROR_WRITE, path, SaveFileError());
+    myprintf(0, "%s", message);
+    NewMsgBox(window, SRC_SAVE_ERROR_TITLE, message, SRC_SAVE_ERROR_STYLE, SRC_SAVE_ERROR_ITEM_CODE);
+    return 0;
 }

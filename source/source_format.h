@@ -126,6 +126,10 @@
 #define SRC_SAVE_ERROR_WRITE                                                                       \
     "The document could not be written to %s: %s. The file that stood there, if any, is "        \
     "unchanged."
+// printf form: the backup's path and the reason, as "PATH: REASON".
+#define SRC_SAVE_ERROR_BACKUP_COPY                                                                 \
+    "A backup copy of the document could not be written to %s. The document is saved without "    \
+    "it; check the backup path in the settings."
 #define SRC_SAVE_ERROR_STYLE 16
 #define SRC_SAVE_ERROR_ITEM_CODE 208
 

@@ -6,10 +6,12 @@
 
 // Writes the page `window` to the file `path` in the form the settings choose (optimised or
 // full, type order, backup first). Changes only the tab links, and with the type order the order
-// and priorities of the gadget list. A backup that can't be made aborts the save with a message
-// box and leaves the old file untouched; a file that can't be written leaves the old one whole
-// and a message box naming the file and the reason.
-void SavePage(t_Window *window, const char *path);
+// and priorities of the gadget list. True when the file was written. A document that can't be
+// read for its backup aborts the save with a message box and leaves the old file untouched; a
+// backup copy that can't be written gets a message box naming it and the reason, and the save
+// goes on; a file that can't be written leaves the old one whole and a message box naming the
+// file and the reason. False in the first and the last case.
+int SavePage(t_Window *window, const char *path);
 
 // Works out tab[0] and tab[1] of every gadget of the page from their tab_index.
 void BuildTabLinks(t_Window *window);

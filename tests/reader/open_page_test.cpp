@@ -116,7 +116,7 @@ TEST_F(Reader, FileStructures)
              return out;
          }(),
          1, nullptr},
-        {"binary", std::string("/*Quillform: START_OBJECT: PAGE */\n\x01\x02", 39), 0, nullptr},
+        {"binary", std::string("/*Quillform: START_OBJECT: PAGE */\n\x01\x02"), 0, nullptr},
     };
     int n = 0;
     for (const auto &c : cases) {
@@ -199,13 +199,24 @@ TEST_F(Reader, NamesAndTexts)
     EXPECT_EQ(Gadget(page, 3)->item_code, 4u);
 }
 
-TEST_F(Reader, AWindowTooSmallOpensNothing)
+// A size that no page can have (too small, zero, negative) opens nothing, with the reader's
+// message and a log line that gives the size: never a page that can't be seen.
+TEST_F(Reader, AWindowWithoutAPageSizeOpensNothing)
 {
-    std::string window = standard_window;
-    window.replace(window.find("win_init.w=320"), 14, "win_init.w=20");
-    std::string path = Write("d.cpp", PageFile(window, ""));
-    EXPECT_EQ(Open(path), nullptr);
-    EXPECT_NE(FindLiveWindow("Quillform error"), nullptr);
+    const char *const sizes[] = {"w=20", "w=0", "w=-200", "h=-5", "h=0", "w=-32768"};
+    for (const char *size : sizes) {
+        SCOPED_TRACE(size);
+        std::string window = standard_window;
+        const char *field = size[0] == 'w' ? "win_init.w=320" : "win_init.h=200";
+        window.replace(window.find(field), 14, std::string("win_init.") + size);
+        std::string path = Write("d.cpp", PageFile(window, ""));
+        HarnessClearLog();
+        EXPECT_EQ(Open(path), nullptr);
+        t_Window *box = FindLiveWindow("Quillform error");
+        ASSERT_NE(box, nullptr);
+        RemoveWindow(box);
+        EXPECT_NE(std::string(HarnessLog()).find("is below the smallest page"), std::string::npos) << HarnessLog();
+    }
 }
 
 TEST_F(Reader, TheSamePathTwiceGivesOnePage)

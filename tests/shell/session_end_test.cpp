@@ -1,8 +1,14 @@
 // The end of the module and the next start: the settings stored by each way of ending, the open
-// documents kept in the settings' tail and reopened in order, and an exit stopped by a query.
+// documents kept in the settings' tail and reopened in order, and the exit's queries as a table.
 #include <signal.h>
 #include <stdio.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
 
 #include "tests/shell/shell_fixture.h"
 
@@ -18,6 +24,17 @@ static void WatchdogFired(int)
 }
 
 class SessionEndTest : public ShellTest {
+public:
+    t_Window *Window() { return h.main_window; }
+    std::string Folder() { return std::string(h.root) + "/Projects/QfFiles"; }
+    static std::string ReadWholeText(const std::string &path)
+    {
+        std::ifstream in(path, std::ios::binary);
+        std::ostringstream text;
+        text << in.rdbuf();
+        return text.str();
+    }
+
 protected:
     // Four pages side by side; all but the second are saved as a.cpp, c.cpp and d.cpp in the
     // projects folder, and the second has never had a file.
@@ -129,79 +146,117 @@ TEST_F(SessionEndTest, ReopeningNothingLeavesNoProgressBar)
     EXPECT_EQ(_OstrandBase->blocks_allocated, blocks);
 }
 
-// A person watching the screen while a wait turns the loop: at each repaint, once the query box
-// is up (or gone) as the next reaction asks, that reaction's input is queued.
-typedef struct T_REACTION {
-    bool query_up;
-    std::vector<T_INPUT_EVENT> input;
-} T_REACTION;
+// Exits as a table: the pages a person has open (c a clean page with a file, m one with a file
+// and changes, w the same with its file write-protected, n a new page with changes), the answers
+// they give to what comes up, and how many times they pick Exit. Nothing closes before every
+// modified page has answered; a cancelled exit (or one whose save failed) keeps every page as it
+// was and stores nothing; an exit that ends, ends once, storing every file once and whole.
+struct EXIT_ROW {
+    const char *what;
+    const char *pages;
+    std::vector<T_ANSWER> (*answers)(SessionEndTest *);
+    int exits;                  // picked from outside any wait
+    bool ended;
+    const char *still_modified;  // running on: for each page, 1 when it is still modified
+    std::vector<const char *> reopened;  // ended: the documents of the next start, by file name
+};
 
-static std::vector<T_REACTION> reactions;
-
-static void ReactToTheScreen(t_Handler *)
+static T_ANSWER ExitAgain(t_Window *main_window)
 {
-    if (reactions.empty() || HeadlessPending())
-        return;
-    if ((FindLiveWindow(QUERY_TITLE) != NULL) != reactions.front().query_up)
-        return;
-    for (const T_INPUT_EVENT &event : reactions.front().input)
-        HeadlessPush(&event);
-    reactions.erase(reactions.begin());
+    return {QUERY_TITLE, {}, [main_window] { SendWindowMessage(main_window, CMD_EXIT, ACT_MENU_PICK, NULL); }};
 }
 
-static u32 TakeNothing(t_Handler *, u32, void *)
+static const EXIT_ROW exit_rows[] = {
+    {"Cancel keeps every page, the clean ones too", "cmc",
+     [](SessionEndTest *) { return std::vector<T_ANSWER>{AnswerCancel()}; }, 1, false, "010", {}},
+    {"Exit, Cancel, Exit, No ends once", "cm",
+     [](SessionEndTest *) { return std::vector<T_ANSWER>{AnswerCancel(), AnswerNo()}; }, 2, true, "", {"p0.cpp", "p1.cpp"}},
+    {"Exit again while the query stands, then No", "cm",
+     [](SessionEndTest *t) { return std::vector<T_ANSWER>{ExitAgain(t->Window()), AnswerNo()}; }, 1, true, "",
+     {"p0.cpp", "p1.cpp"}},
+    {"Yes, then Save as, inside the exit", "cn",
+     [](SessionEndTest *t) { return std::vector<T_ANSWER>{AnswerYes(), AnswerSaveAs(t->Folder() + "/named.cpp")}; }, 1,
+     true, "", {"p0.cpp", "named.cpp"}},
+    {"No on one page and Cancel on the next keeps both changed", "mm",
+     [](SessionEndTest *) { return std::vector<T_ANSWER>{AnswerNo(), AnswerCancel()}; }, 1, false, "11", {}},
+    {"Yes on a page whose save fails stops the exit", "cw",
+     [](SessionEndTest *) { return std::vector<T_ANSWER>{AnswerYes()}; }, 1, false, "01", {}},
+    {"Cancel in the Save as of a Yes stops the exit", "nc",
+     [](SessionEndTest *) {
+         return std::vector<T_ANSWER>{AnswerYes(), AnswerKeys(SAVE_AS_TITLE, {KEY_ESCAPE})};
+     },
+     1, false, "10", {}},
+    {"clean pages go without a word", "cc", [](SessionEndTest *) { return std::vector<T_ANSWER>{}; }, 1, true, "",
+     {"p0.cpp", "p1.cpp"}},
+};
+
+TEST_F(SessionEndTest, ExitSequences)
 {
-    return 0;
+    signal(SIGALRM, WatchdogFired);
+    for (const EXIT_ROW &row : exit_rows) {
+        SCOPED_TRACE(row.what);
+        HarnessStop(&h, 0);
+        ASSERT_TRUE(HarnessStart(&h, NULL, SCREEN_W, SCREEN_H));
+        std::filesystem::create_directories(Folder());
+        pages.clear();
+        for (size_t i = 0; row.pages[i]; i++) {
+            const char kind = row.pages[i];
+            t_Window *page = DrawPage((i16)(20 + 250 * i), 100, (i16)(220 + 250 * i), 300);
+            ASSERT_NE(page, nullptr);
+            pages.push_back(page);
+            DrawGadget(page, TOOL_BUTTON, 20, 20, 100, 50);
+            if (kind != 'n')
+                SaveActivePageAs(Folder() + "/p" + std::to_string(i) + ".cpp");
+            if (kind == 'm' || kind == 'w')
+                DrawGadget(page, TOOL_BUTTON, 20, 60, 100, 90);
+            if (kind == 'w')
+                chmod((Folder() + "/p" + std::to_string(i) + ".cpp").c_str(), 0444);
+        }
+        const std::string settings = std::string(h.root) + "/store/AppQuillform.res";
+        const std::string places = std::string(h.root) + "/places/AppQuillform.txt";
+        const std::string stored_before = ReadWholeText(settings);
+
+        ExpectAnswers(h.main_window, row.answers(this));
+        alarm(20);
+        for (int i = 0; i < row.exits && !SessionEnded(); i++)
+            SendWindowMessage(h.main_window, CMD_EXIT, ACT_MENU_PICK, NULL);
+        alarm(0);
+        UserTurns(1);
+        EXPECT_EQ(AnswersLeft(), 0u);
+        ASSERT_EQ(SessionEnded(), row.ended);
+        if (!row.ended) {
+            EXPECT_EQ(_TenureBase->session_state, (u32)SESSION_RUNNING);
+            EXPECT_EQ(FindLiveWindow(QUERY_TITLE), nullptr);
+            ASSERT_EQ(Pages().size(), pages.size()) << "a page closed in a cancelled exit";
+            for (size_t i = 0; i < pages.size(); i++)
+                EXPECT_EQ((pages[i]->state_flags & WSF_MODIFIED) != 0, row.still_modified[i] == '1') << i;
+            EXPECT_EQ(ReadWholeText(settings), stored_before) << "a cancelled exit stored the settings";
+            continue;
+        }
+        // The places hold both windows: stored once, by the one end.
+        std::string stored_places = ReadWholeText(places);
+        EXPECT_EQ(std::count(stored_places.begin(), stored_places.end(), '\n'), 2) << stored_places;
+        Restart();
+        std::vector<t_Window *> reopened = Pages();
+        ASSERT_EQ(reopened.size(), row.reopened.size());
+        for (size_t i = 0; i < reopened.size(); i++)
+            EXPECT_EQ(std::string(((T_WINEDIT_HANDLER *)reopened[i]->user_data)->file_name.text),
+                      Folder() + "/" + row.reopened[i]);
+    }
 }
 
-static T_INPUT_EVENT Event(u16 kind, u16 key, i16 x = 0, i16 y = 0)
-{
-    T_INPUT_EVENT event;
-    memset(&event, 0, sizeof(event));
-    event.kind = kind;
-    event.key = key;
-    event.x = x;
-    event.y = y;
-    event.button = kind == INPUT_KEY_DOWN ? 0 : 1;
-    return event;
-}
-
-// Exit with a modified page, and Cancel in its query: the exit stops and the application runs on.
-// The query's wait turns the loop inside the Exit until the page goes; meanwhile the person
-// answers Cancel, clicks the page's close gadget, and answers No (Tab, Return) to the second
-// query, which ends the wait. The settings dialog, open all the while, goes on writing into the
-// settings block in force, which the exit replaced.
-TEST_F(SessionEndTest, ExitWithAModifiedPageAndCancelKeepsRunning)
+// A settings dialog open through a cancelled exit goes on writing into the settings in force, which
+// the next exit stores.
+TEST_F(SessionEndTest, TheSettingsDialogOutlivesACancelledExit)
 {
     t_Window *page = DrawPage(20, 100, 420, 400);
     ASSERT_NE(page, nullptr);
     DrawGadget(page, TOOL_BUTTON, 20, 20, 120, 50);
-    ASSERT_NE(page->state_flags & WSF_MODIFIED, 0u);
     UserKey(KEY_F1 + 9, 0);
     ASSERT_NE(FindLiveWindow(SETTINGS_TITLE), nullptr);
-    T_EDITOR_CONFIG *block_before = editor_config;
-
-    NewHandler(&h.main_window->handlers, TakeNothing, ReactToTheScreen, "person", -20, sizeof(t_Handler),
-               h.main_window);
-    const i16 x = (i16)(page->x + page->w - page->border_size - page->title_height / 2 - 1),
-              y = (i16)(page->y + page->border_size + page->title_height / 2);  // its close gadget
-    reactions = {
-        {true, {Event(INPUT_KEY_DOWN, KEY_ESCAPE)}},
-        {false, {Event(INPUT_MOUSE_MOVE, 0, x, y), Event(INPUT_MOUSE_DOWN, 0, x, y), Event(INPUT_MOUSE_UP, 0, x, y)}},
-        {true, {Event(INPUT_KEY_DOWN, KEY_TAB), Event(INPUT_KEY_DOWN, KEY_RETURN)}},
-    };
-    signal(SIGALRM, WatchdogFired);
-    alarm(20);
+    ExpectAnswers(h.main_window, {AnswerCancel()});
     SendWindowMessage(h.main_window, CMD_EXIT, ACT_MENU_PICK, NULL);
-    alarm(0);
-    UserTurns(1);
-    EXPECT_TRUE(reactions.empty());
-    EXPECT_FALSE(SessionEnded());
-    EXPECT_EQ(_TenureBase->session_state, (u32)SESSION_RUNNING);
-    EXPECT_TRUE(IsWindowLive(h.main_window));
-    EXPECT_EQ(FindLiveWindow(QUERY_TITLE), nullptr);
-    EXPECT_TRUE(Pages().empty()) << "the second query was answered No";
-    EXPECT_NE(editor_config, block_before);
+    ASSERT_FALSE(SessionEnded());
 
     i16 fx, fy;
     ASSERT_TRUE(FindGadgetCentre(SETTINGS_TITLE, 50, &fx, &fy));
@@ -209,7 +264,7 @@ TEST_F(SessionEndTest, ExitWithAModifiedPageAndCancelKeepsRunning)
     UserKey(KEY_END, 0);
     UserType("/kept");
     EXPECT_STREQ(editor_config->backup_path, "Backup/kept");
-
+    ExpectAnswers(h.main_window, {AnswerNo()});
     PickFromMenu(MENU_FILE, CMD_EXIT);
     EXPECT_TRUE(SessionEnded());
     Restart();

@@ -117,3 +117,69 @@ bool WriteTextFile(const std::string &path, const std::string &text)
     bool written = fwrite(text.data(), 1, text.size(), f) == text.size();
     return fclose(f) == 0 && written;
 }
+
+static std::vector<T_ANSWER> answers;
+
+static T_INPUT_EVENT KeyEvent(u16 key, u16 qualifiers)
+{
+    T_INPUT_EVENT event;
+    memset(&event, 0, sizeof(event));
+    event.kind = INPUT_KEY_DOWN;
+    event.key = key;
+    event.qualifiers = qualifiers;
+    return event;
+}
+
+T_ANSWER AnswerKeys(const char *window, std::vector<u16> keys)
+{
+    T_ANSWER answer = {window, {}, nullptr};
+    for (u16 key : keys)
+        answer.input.push_back(KeyEvent(key, 0));
+    return answer;
+}
+
+T_ANSWER AnswerYes() { return AnswerKeys(QUERY_TITLE, {KEY_RETURN}); }
+T_ANSWER AnswerNo() { return AnswerKeys(QUERY_TITLE, {KEY_TAB, KEY_RETURN}); }
+T_ANSWER AnswerCancel() { return AnswerKeys(QUERY_TITLE, {KEY_ESCAPE}); }
+
+T_ANSWER AnswerSaveAs(const std::string &path)
+{
+    T_ANSWER answer = {SAVE_AS_TITLE, {KeyEvent(KEY_CTRL('A'), QUAL_CONTROL)}, nullptr};
+    T_INPUT_EVENT text;
+    memset(&text, 0, sizeof(text));
+    text.kind = INPUT_TEXT;
+    snprintf(text.text, sizeof(text.text), "%s", path.c_str());
+    answer.input.push_back(text);
+    answer.input.push_back(KeyEvent(KEY_RETURN, 0));
+    return answer;
+}
+
+// At each repaint of the main window: the next answer, once its window stands and nothing waits.
+static void Answer(t_Handler *)
+{
+    if (answers.empty() || HeadlessPending() || !FindLiveWindow(answers.front().window))
+        return;
+    T_ANSWER answer = answers.front();
+    answers.erase(answers.begin());
+    for (const T_INPUT_EVENT &event : answer.input)
+        HeadlessPush(&event);
+    if (answer.action)
+        answer.action();
+}
+
+static u32 TakesNothing(t_Handler *, u32, void *)
+{
+    return 0;
+}
+
+void ExpectAnswers(t_Window *main_window, std::vector<T_ANSWER> given)
+{
+    answers = std::move(given);
+    if (!FindNode(main_window->handlers.first, "person"))
+        NewHandler(&main_window->handlers, TakesNothing, Answer, "person", -20, sizeof(t_Handler), main_window);
+}
+
+size_t AnswersLeft()
+{
+    return answers.size();
+}

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <string.h>
 
+#include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -78,6 +80,12 @@ protected:
     // A gadget made as a person makes one: its tool on the toolbar, then a drag on the page.
     void DrawGadget(t_Window *page, u16 tool, i16 x1, i16 y1, i16 x2, i16 y2);
     std::vector<t_Window *> Pages();
+    // Whether the page stands; one that went may have been freed, so it is only compared.
+    bool Stands(t_Window *page)
+    {
+        std::vector<t_Window *> pages = Pages();
+        return std::find(pages.begin(), pages.end(), page) != pages.end();
+    }
     // Every live window, top-level and child, but open menus.
     static u32 LiveWindows();
     // The name a string gadget shows.
@@ -98,6 +106,25 @@ protected:
         UserKey(KEY_RETURN, 0);
     }
 };
+
+// A person at the screen while a command waits inside a turn (a query's wait): each answer is given
+// when the window of its title stands and the input given before has been taken. Answers are
+// keys, a text typed into a selector, or something done (a command picked).
+typedef struct T_ANSWER {
+    const char *window;                  // the title it waits for
+    std::vector<T_INPUT_EVENT> input;    // queued then
+    std::function<void()> action;        // or done then
+} T_ANSWER;
+
+T_ANSWER AnswerKeys(const char *window, std::vector<u16> keys);  // keys without qualifiers
+T_ANSWER AnswerYes();     // the close query: Return on "Yes"
+T_ANSWER AnswerNo();      // Tab, Return
+T_ANSWER AnswerCancel();  // Escape
+T_ANSWER AnswerSaveAs(const std::string &path);  // the "Save Source as" selector: the path, Return
+// Installs the person on the main window with these answers, in order; AnswersLeft() tells how
+// many were never given.
+void ExpectAnswers(t_Window *main_window, std::vector<T_ANSWER> answers);
+size_t AnswersLeft();
 
 // The text of a live message box of that title, or "" when there is none.
 std::string MessageBoxTextOf(const char *title);

@@ -297,6 +297,10 @@ void FreeGadget(t_gadget *gadget);
 // with `item_code`. Styles: 16 error, 64 information ("OK"); 35 question: "Yes" (OK), "No"
 // (ABORT), "Cancel" (CANCEL). Enter is the first button, Escape Cancel (or OK).
 t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 style, u32 item_code);
+// The same with the buttons' labels given, in the style's order; a null `labels`, or a null
+// label, keeps the style's own.
+t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style,
+                          u32 item_code, const char *const *labels);
 void SetMessageBoxIcon(t_Window *box, struct T_TEXTURE_BANK *bank, u16 icon);
 
 typedef struct T_PROGRESS_BAR T_PROGRESS_BAR;

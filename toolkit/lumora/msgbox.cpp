@@ -33,7 +33,7 @@ typedef struct T_MSGBOX {
     t_Handler head;
     t_Window *parent;
     u32 item_code;
-    const T_MSGBOX_BUTTON *buttons;
+    T_MSGBOX_BUTTON buttons[3];
     u32 button_count;
     u16 glyph;
     T_TEXTURE_BANK *icon_bank;  // SetMessageBoxIcon's icon, shown instead of the glyph
@@ -181,11 +181,20 @@ static void MsgBoxPaint(t_Handler *handler) {
 
 t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 style,
                     u32 item_code) {
+    return NewMsgBoxLabels(parent, title, text, style, item_code, NULL);
+}
+
+t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style,
+                          u32 item_code, const char *const *labels) {
     if (parent && !IsWindowLive(parent)) parent = NULL;
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     int question = (style & 0x0F) == 3;
-    const T_MSGBOX_BUTTON *buttons = question ? question_buttons : ok_buttons;
     u32 count = question ? 3 : 1;
+    T_MSGBOX_BUTTON buttons[3];
+    for (u32 i = 0; i < count; i++) {
+        buttons[i] = question ? question_buttons[i] : ok_buttons[i];
+        if (labels && labels[i]) buttons[i].label = labels[i];
+    }
     u16 glyph = (style & 16) ? GLYPH_ERROR : (style & 64) ? GLYPH_INFO : (style & 32) ? GLYPH_QUESTION
                                                                                     : GLYPH_NONE;
     // Measure: the text's lines, the buttons' row, the glyph.
@@ -241,7 +250,8 @@ t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 s
     *box = measure;
     box->head = head;
     box->parent = parent, box->item_code = item_code;
-    box->buttons = buttons, box->button_count = count, box->glyph = glyph;
+    memcpy(box->buttons, buttons, sizeof(buttons));
+    box->button_count = count, box->glyph = glyph;
     window->user_data = box;
 
     t_Gaget_Handler *gh = NewGadgetHandler(window);
