@@ -42,10 +42,12 @@ typedef t_Window *(*T_OPEN_FN)(T_CREATE_APPLICATION *);
 #endif
 
 #define HOST_MAX_FILES 64  // page files named on one command line
+#define SCRIPT_TIMEOUT_S 30  // the longest a script's step may take, by default
 
 typedef struct T_HOST_OPTIONS {
     int headless;
     const char *script;
+    u32 script_timeout;  // seconds; 0: no limit
     const char *home;
     i16 width, height;
     int log_level;
@@ -59,6 +61,7 @@ static const char *const usage_text =
     "Opens each FILE (a page source file) as a page, as if it were dropped on the main window.\n"
     "  --headless     run without a window (the framebuffer alone); only with --script\n"
     "  --script FILE  play the actions in FILE headless, then exit (see the README for the format)\n"
+    "  --script-timeout S  fail the script when one step takes longer than S seconds (default 30, 0 none)\n"
     "  --home DIR     the data root (default: $XDG_DATA_HOME/quillform or ~/.local/share/quillform)\n"
     "  --size WxH     the size of the screen (default 1280x800)\n"
     "  --log N        print log lines up to level N (0 errors ... 3 information; default 1)\n"
@@ -66,7 +69,7 @@ static const char *const usage_text =
     "  --version      print the version and exit\n"
     "  --             what follows are files, even when their names begin with a dash\n"
     "Exit status: 0 after an ordinary end, 1 when a script step fails or the editor can't start,\n"
-    "2 for a bad command line, an unreadable script or no display.\n";
+    "2 for a bad command line, an unreadable script, no display or a data root in use.\n";
 
 static int AddFile(T_HOST_OPTIONS *options, const char *file)
 {
@@ -84,6 +87,7 @@ static int ReadOptions(int argc, char **argv, T_HOST_OPTIONS *options)
     options->width = 1280;
     options->height = 800;
     options->log_level = 1;
+    options->script_timeout = SCRIPT_TIMEOUT_S;
     for (int i = 1; i < argc; i++) {
         const char *arg = argv[i];
         const char *value = i + 1 < argc ? argv[i + 1] : NULL;
@@ -98,6 +102,15 @@ static int ReadOptions(int argc, char **argv, T_HOST_OPTIONS *options)
         } else if (strcmp(arg, "--script") == 0 && value) {
             options->script = value;
             options->headless = 1;
+            i++;
+        } else if (strcmp(arg, "--script-timeout") == 0 && value) {
+            char *end;
+            unsigned long seconds = strtoul(value, &end, 10);
+            if (end == value || *end || seconds > 86400) {
+                fprintf(stderr, "quillform: --script-timeout wants seconds from 0 to 86400, not \"%s\"\n", value);
+                return 2;
+            }
+            options->script_timeout = (u32)seconds;
             i++;
         } else if (strcmp(arg, "--home") == 0 && value) {
             options->home = value;
@@ -218,26 +231,28 @@ static int HasDisplay(void)
     return (x11 && *x11) || (wayland && *wayland);
 }
 
-int main(int argc, char **argv)
+// Everything after the command line: the display, the data root's lock, the module, the files,
+// then the script or the event loop until the session ends. Gives the exit status.
+static int Run(const T_HOST_OPTIONS *options, T_SCRIPT *script)
 {
-    T_HOST_OPTIONS options;
-    memset(&options, 0, sizeof(options));
-    int code = ReadOptions(argc, argv, &options);
-    if (code)
-        return code < 0 ? 0 : code;
-
-    _OstrandBase->log_level = options.log_level;
-    T_SCRIPT script;
-    memset(&script, 0, sizeof(script));
-    if (options.script && !LoadScript(&script, options.script)) {
-        fprintf(stderr, "quillform: %s\n", script.error);
-        return 2;
-    }
-    if (!options.headless && !HasDisplay()) {
+    if (!options->headless && !HasDisplay()) {
         TellNoDisplay("no display found");
         return 2;
     }
-    if (!OpenToolkit(options.headless ? "headless" : "sdl", options.width, options.height, options.home)) {
+    // One editor for each data root: a second would overwrite the first's stores at its end.
+    if (options->home && !SetDataRoot(options->home)) {
+        fprintf(stderr, "quillform: the data root %s can't be made or written\n", options->home);
+        return 2;
+    }
+    u32 holder = 0;
+    if (LockDataRoot(&holder) == 0) {
+        if (holder)
+            fprintf(stderr, "quillform: the data root %s is in use by process %u\n", MakePathFromSystem(NULL), holder);
+        else
+            fprintf(stderr, "quillform: the data root %s is in use by another process\n", MakePathFromSystem(NULL));
+        return 2;
+    }
+    if (!OpenToolkit(options->headless ? "headless" : "sdl", options->width, options->height, options->home)) {
         TellNoDisplay("the display could not be opened");
         return 2;
     }
@@ -257,29 +272,50 @@ int main(int argc, char **argv)
     // The main window stands a little inside the screen, so that it can be moved and sized.
     create.x = MAIN_WINDOW_MARGIN;
     create.y = MAIN_WINDOW_MARGIN;
-    create.w = (i16)(options.width - 2 * MAIN_WINDOW_MARGIN);
-    create.h = (i16)(options.height - 2 * MAIN_WINDOW_MARGIN);
+    create.w = (i16)(options->width - 2 * MAIN_WINDOW_MARGIN);
+    create.h = (i16)(options->height - 2 * MAIN_WINDOW_MARGIN);
     t_Window *main_window = open(&create);
     if (!main_window) {
         fprintf(stderr, "quillform: the editor did not start\n");
         CloseToolkit();
+        FreeTextureBank(create.icon_bank);
         return 1;
     }
     // The first turn reopens the documents of the last run; the files named come after them.
     RefreshHandlers(NULL);
-    OpenFiles(main_window, &options);
+    OpenFiles(main_window, options);
 
     int result = 0;
-    if (options.script) {
-        if (!PlayScript(&script, options.script)) {
-            fprintf(stderr, "quillform: %s\n", script.error);
+    if (options->script) {
+        if (!PlayScript(script, options->script, options->script_timeout)) {
+            fprintf(stderr, "quillform: %s\n", script->error);
             result = 1;
         }
-        FreeScript(&script);
     } else {
         while (!SessionEnded())
             RefreshHandlers(NULL);
     }
     CloseToolkit();
+    FreeTextureBank(create.icon_bank);
+    return result;
+}
+
+int main(int argc, char **argv)
+{
+    T_HOST_OPTIONS options;
+    memset(&options, 0, sizeof(options));
+    int code = ReadOptions(argc, argv, &options);
+    if (code)
+        return code < 0 ? 0 : code;
+
+    _OstrandBase->log_level = options.log_level;
+    T_SCRIPT script;
+    memset(&script, 0, sizeof(script));
+    if (options.script && !LoadScript(&script, options.script)) {
+        fprintf(stderr, "quillform: %s\n", script.error);
+        return 2;
+    }
+    int result = Run(&options, &script);
+    FreeScript(&script);
     return result;
 }

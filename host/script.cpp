@@ -1,9 +1,12 @@
-// Reads scripts of a person's actions and plays them through the user actions.
+// Reads scripts of a person's actions and plays them, as input fed to the loop turn by turn, in
+// the shapes of the user actions.
 #include "host/script.h"
 
+#include <signal.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <unistd.h>
 
 #include "host/user_actions.h"
 
@@ -197,64 +200,11 @@ int LoadScript(T_SCRIPT *script, const char *path)
     return ok;
 }
 
-// Plays one step; false with the reason in `error`.
-static int PlayStep(const T_SCRIPT_STEP *step, char *error, size_t size)
+// The steps that check what stands: true when it holds, else false with the reason in `error`.
+static int CheckStep(const T_SCRIPT_STEP *step, char *error, size_t size)
 {
     const i32 *n = step->numbers;
     switch (step->verb) {
-    case SCRIPT_MOVE:
-        UserMove((i16)n[0], (i16)n[1]);
-        return 1;
-    case SCRIPT_PRESS:
-        UserPress((i16)n[0], (i16)n[1], 1);
-        return 1;
-    case SCRIPT_RELEASE:
-        UserRelease((i16)n[0], (i16)n[1], 1);
-        return 1;
-    case SCRIPT_CLICK:
-        UserClick((i16)n[0], (i16)n[1], 1);
-        return 1;
-    case SCRIPT_DCLICK:
-        UserDoubleClick((i16)n[0], (i16)n[1]);
-        return 1;
-    case SCRIPT_RCLICK:
-        UserClick((i16)n[0], (i16)n[1], 3);
-        return 1;
-    case SCRIPT_DRAG:
-        UserDrag((i16)n[0], (i16)n[1], (i16)n[2], (i16)n[3]);
-        return 1;
-    case SCRIPT_KEY:
-        UserKey(step->key, step->qualifiers);
-        return 1;
-    case SCRIPT_TYPE:
-        UserType(step->text);
-        return 1;
-    case SCRIPT_TURNS:
-        UserTurns((u32)(n[0] > 0 ? n[0] : 0));
-        return 1;
-    case SCRIPT_SCREENSHOT:
-        if (UserScreenshot(step->text))
-            return 1;
-        snprintf(error, size, "cannot write the screenshot %.300s", step->text);
-        return 0;
-    case SCRIPT_CLICK_GADGET: {
-        i16 x, y;
-        if (!FindGadgetCentre(step->text, (u32)n[0], &x, &y)) {
-            snprintf(error, size, "no gadget %d in a window \"%.300s\"", n[0], step->text);
-            return 0;
-        }
-        UserClick(x, y, 1);
-        return 1;
-    }
-    case SCRIPT_CLICK_TOOL: {
-        i16 x, y;
-        if (!FindToolCentre(TOOLBAR_WINDOW_NAME, (u16)n[0], &x, &y)) {
-            snprintf(error, size, "no tool %d on the toolbar", n[0]);
-            return 0;
-        }
-        UserClick(x, y, 1);
-        return 1;
-    }
     case SCRIPT_EXPECT_WINDOW:
         if (FindLiveWindow(step->text))
             return 1;
@@ -288,25 +238,250 @@ static int PlayStep(const T_SCRIPT_STEP *step, char *error, size_t size)
             snprintf(error, size, "the file %.200s can't be read", step->text);
         return 0;
     }
+    default:
+        snprintf(error, size, "an unknown step");
+        return 0;
     }
-    return 0;
 }
 
-int PlayScript(T_SCRIPT *script, const char *name)
+// --- Playing ---------------------------------------------------------------------------------------
+// The player feeds the steps to the loop as input: the loop calls it at the start of each turn
+// (SetInputSource), and it queues the next batch of input once the last one has been taken and
+// painted. So a step that makes a message function turn the loop inside itself (the close query's
+// wait) doesn't stop the script: its next steps answer the query from inside that wait. The same
+// batches make the user actions, so a step does what the matching call does.
+enum { PLAYER_PLAYING, PLAYER_DONE, PLAYER_FAILED };
+
+typedef struct T_PLAYER {
+    T_SCRIPT *script;
+    const char *name;
+    u32 next;                   // the step to start next
+    const T_SCRIPT_STEP *step;  // the step under way; null between steps
+    T_USER_BATCHES batches;     // its input
+    u32 batch;                  // the next batch to queue
+    u32 settle;                 // turns to let pass after a batch has been taken
+    u32 advance_ms;             // time to let pass then
+    u32 turns;                  // turns still to go of a `turns` step
+    int find_gadget;            // click-gadget: the combo has scrolled; the click comes now
+    int state;
+    int feeding;
+    u32 timeout_s;              // a step that takes longer fails the script; 0: no limit
+} T_PLAYER;
+
+static T_PLAYER player;
+static char timeout_text[700];  // written by the alarm, so made ready at each step's start
+
+static void TimedOut(int)
 {
-    for (u32 i = 0; i < script->count; i++) {
+    ssize_t written = write(2, timeout_text, strlen(timeout_text));
+    (void)written;
+    _exit(1);
+}
+
+// Fails the script at its current step with `reason`.
+static void Fail(T_PLAYER *p, const char *reason)
+{
+    u32 line = p->step ? p->step->line : p->next ? p->script->steps[p->next - 1].line : 0;
+    snprintf(p->script->error, sizeof(p->script->error), "%.200s:%u: %.380s", p->name, line, reason);
+    p->state = PLAYER_FAILED;
+}
+
+// Sets up the click of a step on a point.
+static void ClickAt(T_PLAYER *p, i16 x, i16 y)
+{
+    T_USER_ACTION click = UserAction(USER_CLICK, x, y);
+    UserActionBatches(&click, &p->batches);
+}
+
+// The centre of the step's gadget, scrolled into view first when it sits in a combo (then the
+// click waits a turn, as a person waits for the combo to move).
+static void FindGadget(T_PLAYER *p)
+{
+    const T_SCRIPT_STEP *step = p->step;
+    t_Window *window = FindLiveWindow(step->text);
+    t_gadget *gadget = window ? FindGadgetByItemCode(window, (u32)step->numbers[0]) : NULL;
+    if (!gadget) {
         char reason[400];
-        if (SessionEnded()) {
-            snprintf(script->error, sizeof(script->error), "%.200s:%u: the session has ended", name,
-                     script->steps[i].line);
-            return 0;
-        }
-        if (!PlayStep(&script->steps[i], reason, sizeof(reason))) {
-            snprintf(script->error, sizeof(script->error), "%.200s:%u: %.380s", name, script->steps[i].line, reason);
-            return 0;
-        }
+        snprintf(reason, sizeof(reason), "no gadget %d in a window \"%.300s\"", step->numbers[0], step->text);
+        Fail(p, reason);
+        return;
     }
+    if (gadget->parent_combo && !p->find_gadget) {
+        ScrollComboToGadget(gadget);
+        p->find_gadget = 1;
+        p->turns = 1;
+        return;
+    }
+    p->find_gadget = 0;
+    ClickAt(p, (i16)(gadget->screen_x + gadget->base_width / 2),
+            (i16)(gadget->screen_y + gadget->base_height / 2));
+}
+
+// Starts the next step: one that acts queues its batches; one that checks or writes a file is done
+// at once. False when the script has ended or failed.
+static int StartStep(T_PLAYER *p)
+{
+    if (p->next >= p->script->count) {
+        p->state = PLAYER_DONE;
+        return 0;
+    }
+    const T_SCRIPT_STEP *step = p->step = &p->script->steps[p->next++];
+    if (SessionEnded()) {
+        Fail(p, "the session has ended");
+        return 0;
+    }
+    if (p->timeout_s) {
+        snprintf(timeout_text, sizeof(timeout_text),
+                 "quillform: %.200s:%u: the step took longer than %u s (--script-timeout)\n", p->name,
+                 step->line, p->timeout_s);
+        alarm(p->timeout_s);
+    }
+    p->batches.count = 0;
+    p->batch = 0;
+    const i32 *n = step->numbers;
+    const i16 x = (i16)n[0], y = (i16)n[1];
+    T_USER_ACTION action = UserAction(USER_MOVE, x, y);
+    char reason[400];
+    switch (step->verb) {
+    case SCRIPT_MOVE:
+        break;
+    case SCRIPT_PRESS:
+        action.kind = USER_PRESS;
+        break;
+    case SCRIPT_RELEASE:
+        action.kind = USER_RELEASE;
+        break;
+    case SCRIPT_CLICK:
+        action.kind = USER_CLICK;
+        break;
+    case SCRIPT_DCLICK:
+        action.kind = USER_DOUBLE_CLICK;
+        break;
+    case SCRIPT_RCLICK:
+        action.kind = USER_CLICK;
+        action.button = 3;
+        break;
+    case SCRIPT_DRAG:
+        action.kind = USER_DRAG;
+        action.x2 = (i16)n[2];
+        action.y2 = (i16)n[3];
+        break;
+    case SCRIPT_KEY:
+        action.kind = USER_KEY;
+        action.key = step->key;
+        action.qualifiers = step->qualifiers;
+        break;
+    case SCRIPT_TYPE:
+        action.kind = USER_TYPE;
+        action.text = step->text;
+        break;
+    case SCRIPT_TURNS:
+        p->turns = (u32)(n[0] > 0 ? n[0] : 0);
+        return 1;
+    case SCRIPT_SCREENSHOT:
+        if (!UserScreenshot(step->text)) {
+            snprintf(reason, sizeof(reason), "cannot write the screenshot %.300s", step->text);
+            Fail(p, reason);
+        }
+        return p->state == PLAYER_PLAYING;
+    case SCRIPT_CLICK_GADGET:
+        FindGadget(p);
+        return p->state == PLAYER_PLAYING;
+    case SCRIPT_CLICK_TOOL: {
+        i16 x, y;
+        if (!FindToolCentre(TOOLBAR_WINDOW_NAME, (u16)n[0], &x, &y)) {
+            snprintf(reason, sizeof(reason), "no tool %d on the toolbar", n[0]);
+            Fail(p, reason);
+            return 0;
+        }
+        ClickAt(p, x, y);
+        return 1;
+    }
+    default:
+        if (!CheckStep(step, reason, sizeof(reason)))
+            Fail(p, reason);
+        return p->state == PLAYER_PLAYING;
+    }
+    UserActionBatches(&action, &p->batches);
     return 1;
+}
+
+// What stands in front when the script stops inside a wait: the window with the focus.
+static const char *WindowInFront(void)
+{
+    t_Window *front = CURRENT_DISPLAY->window_class->current_window;
+    return front && IsWindowLive(front) && front->name ? front->name : "a window";
+}
+
+// The loop's input source: queues the next batch of input when the last has been taken and
+// painted, and starts the steps one after another.
+static void FeedScript(void)
+{
+    T_PLAYER *p = &player;
+    if (p->feeding)
+        return;
+    p->feeding = 1;
+    while (p->state == PLAYER_PLAYING && !HeadlessPending()) {
+        if (p->settle) {  // the turn after the input was taken paints what it did
+            p->settle--;
+            break;
+        }
+        if (p->advance_ms) {
+            HeadlessAdvance(p->advance_ms);
+            p->advance_ms = 0;
+        }
+        if (p->turns) {  // this turn is one of them
+            p->turns--;
+            break;
+        }
+        if (p->step && p->find_gadget) {
+            FindGadget(p);
+            continue;
+        }
+        if (p->step && p->batch < p->batches.count) {
+            const T_INPUT_BATCH *batch = &p->batches.batches[p->batch++];
+            for (u32 e = 0; e < batch->count; e++)
+                HeadlessPush(&batch->events[e]);
+            p->settle = 1;
+            p->advance_ms = batch->advance_ms;
+            break;
+        }
+        p->step = NULL;
+        StartStep(p);
+    }
+    p->feeding = 0;
+    // The script stopped while a message function waits inside a turn (the close query): nothing
+    // would ever answer it, and nothing can unwind it but the end of the process.
+    if (p->state != PLAYER_PLAYING && _LumoraBase->turn_depth > 1) {
+        alarm(0);
+        if (p->state == PLAYER_DONE)
+            snprintf(p->script->error, sizeof(p->script->error),
+                     "%.200s:%u: the script ended while \"%.200s\" waits for an answer", p->name,
+                     p->script->count ? p->script->steps[p->script->count - 1].line : 0, WindowInFront());
+        fprintf(stderr, "quillform: %s\n", p->script->error);
+        fflush(stdout);
+        fflush(stderr);
+        _exit(1);
+    }
+}
+
+int PlayScript(T_SCRIPT *script, const char *name, u32 timeout_s)
+{
+    memset(&player, 0, sizeof(player));
+    player.script = script;
+    player.name = name;
+    player.timeout_s = timeout_s;
+    player.state = PLAYER_PLAYING;
+    script->error[0] = 0;
+    struct sigaction action = {};
+    action.sa_handler = TimedOut;
+    sigaction(SIGALRM, &action, NULL);
+    SetInputSource(FeedScript);
+    while (player.state == PLAYER_PLAYING)
+        RefreshHandlers(NULL);
+    alarm(0);
+    SetInputSource(NULL);
+    return player.state == PLAYER_DONE;
 }
 
 void FreeScript(T_SCRIPT *script)

@@ -41,7 +41,12 @@ typedef struct T_SCRIPT {
 int ParseScript(T_SCRIPT *script, const char *name, const char *text);
 // Reads a script file; false with `error` set when it can't be read.
 int LoadScript(T_SCRIPT *script, const char *path);
-// Plays the steps in order; false with `error` set at the first step that failed (a screenshot
-// that can't be written, a window or gadget that isn't there).
-int PlayScript(T_SCRIPT *script, const char *name);
+// Plays the steps in order, each as a person's input that the loop takes turn by turn, so that the
+// script goes on while a message function turns the loop inside itself (its next steps answer the
+// close query). True at its end; false with `error` set at the first step that failed (a screenshot
+// that can't be written, a window or gadget that isn't there, a check that doesn't hold, a step
+// after the session's end). A step that fails, or the end of the script, while a query waits
+// inside a turn can't return: the line is printed and the process exits with 1. So does a step
+// that takes longer than `timeout_s` seconds of real time (0: no limit).
+int PlayScript(T_SCRIPT *script, const char *name, u32 timeout_s);
 void FreeScript(T_SCRIPT *script);

@@ -17,7 +17,7 @@ static void TurnUntilTaken(void)
     RefreshHandlers(NULL);
 }
 
-static void Push(u16 kind, i16 x, i16 y, u16 button, u16 key, u16 qualifiers)
+static T_INPUT_EVENT Event(u16 kind, i16 x, i16 y, u16 button, u16 key, u16 qualifiers)
 {
     T_INPUT_EVENT event;
     memset(&event, 0, sizeof(event));
@@ -27,70 +27,157 @@ static void Push(u16 kind, i16 x, i16 y, u16 button, u16 key, u16 qualifiers)
     event.button = button;
     event.key = key;
     event.qualifiers = qualifiers;
-    HeadlessPush(&event);
+    return event;
+}
+
+// Adds a batch of one or two events; the time goes on by `advance_ms` once it has been taken.
+static void AddBatch(T_USER_BATCHES *out, const T_INPUT_EVENT &first, const T_INPUT_EVENT *second,
+                     u32 advance_ms)
+{
+    T_INPUT_BATCH *batch = &out->batches[out->count++];
+    batch->events[0] = first;
+    batch->count = 1;
+    if (second)
+        batch->events[batch->count++] = *second;
+    batch->advance_ms = advance_ms;
+}
+
+static void AddPress(T_USER_BATCHES *out, i16 x, i16 y, u16 button)
+{
+    T_INPUT_EVENT down = Event(INPUT_MOUSE_DOWN, x, y, button, 0, 0);
+    AddBatch(out, Event(INPUT_MOUSE_MOVE, x, y, 0, 0, 0), &down, 0);
+}
+
+static void AddRelease(T_USER_BATCHES *out, i16 x, i16 y, u16 button, u32 advance_ms)
+{
+    T_INPUT_EVENT up = Event(INPUT_MOUSE_UP, x, y, button, 0, 0);
+    AddBatch(out, Event(INPUT_MOUSE_MOVE, x, y, 0, 0, 0), &up, advance_ms);
+}
+
+void UserActionBatches(const T_USER_ACTION *action, T_USER_BATCHES *out)
+{
+    out->count = 0;
+    const i16 x = action->x1, y = action->y1;
+    switch (action->kind) {
+    case USER_MOVE:
+        AddBatch(out, Event(INPUT_MOUSE_MOVE, x, y, 0, 0, 0), NULL, 0);
+        break;
+    case USER_PRESS:
+        AddPress(out, x, y, action->button);
+        break;
+    case USER_RELEASE:
+        AddRelease(out, x, y, action->button, 0);
+        break;
+    case USER_CLICK:  // then past the double-click time, so that the next click is one of its own
+        AddPress(out, x, y, action->button);
+        AddRelease(out, x, y, action->button, USER_CLICK_GAP_MS);
+        break;
+    case USER_DOUBLE_CLICK:
+        AddPress(out, x, y, 1);
+        AddRelease(out, x, y, 1, 0);
+        AddPress(out, x, y, 1);
+        AddRelease(out, x, y, 1, USER_CLICK_GAP_MS);
+        break;
+    case USER_DRAG:  // left button down, moved in steps, released
+        AddPress(out, x, y, 1);
+        for (int i = 1; i <= DRAG_STEPS; i++)
+            AddBatch(out,
+                     Event(INPUT_MOUSE_MOVE, (i16)(x + (action->x2 - x) * i / DRAG_STEPS),
+                           (i16)(y + (action->y2 - y) * i / DRAG_STEPS), 0, 0, 0),
+                     NULL, 0);
+        AddRelease(out, action->x2, action->y2, 1, USER_CLICK_GAP_MS);
+        break;
+    case USER_KEY:
+        AddBatch(out, Event(INPUT_KEY_DOWN, 0, 0, 0, action->key, action->qualifiers), NULL, 0);
+        break;
+    case USER_TYPE: {
+        T_INPUT_EVENT event = Event(INPUT_TEXT, 0, 0, 0, 0, 0);
+        snprintf(event.text, sizeof(event.text), "%s", action->text ? action->text : "");
+        AddBatch(out, event, NULL, 0);
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+T_USER_ACTION UserAction(u16 kind, i16 x, i16 y)
+{
+    T_USER_ACTION action;
+    memset(&action, 0, sizeof(action));
+    action.kind = kind;
+    action.x1 = x;
+    action.y1 = y;
+    action.button = 1;
+    return action;
+}
+
+// Plays an action here and now: each batch queued, the loop turned until it is taken.
+static void RunAction(const T_USER_ACTION &action)
+{
+    static T_USER_BATCHES batches;  // large (texts); one action runs at a time
+    UserActionBatches(&action, &batches);
+    for (u32 i = 0; i < batches.count; i++) {
+        for (u32 e = 0; e < batches.batches[i].count; e++)
+            HeadlessPush(&batches.batches[i].events[e]);
+        TurnUntilTaken();
+        if (batches.batches[i].advance_ms)
+            HeadlessAdvance(batches.batches[i].advance_ms);
+    }
 }
 
 void UserMove(i16 x, i16 y)
 {
-    Push(INPUT_MOUSE_MOVE, x, y, 0, 0, 0);
-    TurnUntilTaken();
+    RunAction(UserAction(USER_MOVE, x, y));
 }
 
 void UserPress(i16 x, i16 y, u16 button)
 {
-    Push(INPUT_MOUSE_MOVE, x, y, 0, 0, 0);
-    Push(INPUT_MOUSE_DOWN, x, y, button, 0, 0);
-    TurnUntilTaken();
+    T_USER_ACTION action = UserAction(USER_PRESS, x, y);
+    action.button = button;
+    RunAction(action);
 }
 
 void UserRelease(i16 x, i16 y, u16 button)
 {
-    Push(INPUT_MOUSE_MOVE, x, y, 0, 0, 0);
-    Push(INPUT_MOUSE_UP, x, y, button, 0, 0);
-    TurnUntilTaken();
+    T_USER_ACTION action = UserAction(USER_RELEASE, x, y);
+    action.button = button;
+    RunAction(action);
 }
 
 void UserClick(i16 x, i16 y, u16 button)
 {
-    UserPress(x, y, button);
-    UserRelease(x, y, button);
-    // Past the double-click time, so that the next click is a click of its own.
-    HeadlessAdvance(500);
+    T_USER_ACTION action = UserAction(USER_CLICK, x, y);
+    action.button = button;
+    RunAction(action);
 }
 
 void UserDoubleClick(i16 x, i16 y)
 {
-    UserPress(x, y, 1);
-    UserRelease(x, y, 1);
-    UserPress(x, y, 1);
-    UserRelease(x, y, 1);
-    HeadlessAdvance(500);
+    RunAction(UserAction(USER_DOUBLE_CLICK, x, y));
 }
 
 void UserDrag(i16 x1, i16 y1, i16 x2, i16 y2)
 {
-    UserPress(x1, y1, 1);
-    const int steps = 8;
-    for (int i = 1; i <= steps; i++)
-        UserMove((i16)(x1 + (x2 - x1) * i / steps), (i16)(y1 + (y2 - y1) * i / steps));
-    UserRelease(x2, y2, 1);
-    HeadlessAdvance(500);
+    T_USER_ACTION action = UserAction(USER_DRAG, x1, y1);
+    action.x2 = x2;
+    action.y2 = y2;
+    RunAction(action);
 }
 
 void UserKey(u16 key, u16 qualifiers)
 {
-    Push(INPUT_KEY_DOWN, 0, 0, 0, key, qualifiers);
-    TurnUntilTaken();
+    T_USER_ACTION action = UserAction(USER_KEY, 0, 0);
+    action.key = key;
+    action.qualifiers = qualifiers;
+    RunAction(action);
 }
 
 void UserType(const char *text)
 {
-    T_INPUT_EVENT event;
-    memset(&event, 0, sizeof(event));
-    event.kind = INPUT_TEXT;
-    snprintf(event.text, sizeof(event.text), "%s", text);
-    HeadlessPush(&event);
-    TurnUntilTaken();
+    T_USER_ACTION action = UserAction(USER_TYPE, 0, 0);
+    action.text = text;
+    RunAction(action);
 }
 
 void UserTurns(u32 turns)

@@ -1,7 +1,49 @@
 // A person's actions on the headless display: pointer, buttons, keys, typing, turns of the loop,
 // screenshots. The script player and the tests' harness both act through these.
 #pragma once
+#include "display/display.h"
 #include "toolkit.h"
+
+#define USER_CLICK_GAP_MS 500  // after a click: the next press is no second click
+#define DRAG_STEPS 8              // the moves of a drag between its press and its release
+
+// What a person does, as one record: the script player and the calls below share its shapes.
+typedef enum {
+    USER_MOVE,
+    USER_PRESS,
+    USER_RELEASE,
+    USER_CLICK,
+    USER_DOUBLE_CLICK,
+    USER_DRAG,
+    USER_KEY,
+    USER_TYPE,
+} T_USER_ACTION_KIND;
+
+typedef struct T_USER_ACTION {
+    u16 kind;
+    i16 x1, y1, x2, y2;  // the point; a drag's start and end
+    u16 button;          // 1 left, 3 right
+    u16 key, qualifiers;
+    const char *text;    // typed
+} T_USER_ACTION;
+
+// The input of an action in batches: the events of a batch are queued together, and the loop
+// turns until they have been taken, and once more; then the time goes on by `advance_ms`.
+typedef struct T_INPUT_BATCH {
+    T_INPUT_EVENT events[2];
+    u16 count;
+    u32 advance_ms;
+} T_INPUT_BATCH;
+
+typedef struct T_USER_BATCHES {
+    T_INPUT_BATCH batches[DRAG_STEPS + 2];
+    u32 count;
+} T_USER_BATCHES;
+
+// An action of `kind` at a point (a drag's start), the left button, nothing else set.
+T_USER_ACTION UserAction(u16 kind, i16 x, i16 y);
+// The batches that make `action`.
+void UserActionBatches(const T_USER_ACTION *action, T_USER_BATCHES *out);
 
 // Each action queues its input and turns the loop until the input has been taken, plus one turn
 // so that what it caused has been painted.

@@ -444,6 +444,10 @@ const char *GetClipboardText(void);
 // repaints even when nothing else happens. A real display stops repainting a while after the last
 // input otherwise, and waits for input.
 void KeepAnimating(void);
+// A function that each turn of the loop calls at its start, before it takes the display's input,
+// so that it may queue input: a script player that goes on playing while a message function turns
+// the loop inside itself (a query's wait). Null: none. Ends with the toolkit.
+void SetInputSource(void (*source)(void));
 // Starts the toolkit on the chosen display back end; false when the display can't be opened.
 int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_root);
 void CloseToolkit(void);

@@ -107,6 +107,7 @@ void RefreshHandlers(t_Handler *handler) {
     u32 start = display->ticks();
     base->time_ms = start;
     FinishSaveFile();
+    if (lumora_state.input_source) lumora_state.input_source();
     T_INPUT_EVENT event;
     while (display->poll(&event)) {
         base->time_ms = display->ticks();

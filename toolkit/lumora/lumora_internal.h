@@ -74,6 +74,7 @@ typedef struct T_LUMORA_STATE {
     u16 paint_every_background;  // tests: fill each background whole, as the reference to compare
     u32 last_activity_ms;  // the last input or message: the screen settles for a while after it
     u16 animating;         // a paint asked for the next turn's repaint (KeepAnimating)
+    void (*input_source)(void);  // SetInputSource's: called at the start of each turn
 } T_LUMORA_STATE;
 
 extern T_LUMORA_STATE lumora_state;

@@ -148,6 +148,10 @@ void CloseToolkit(void) {
     memset(_LumoraBase, 0, sizeof(*_LumoraBase));
 }
 
+void SetInputSource(void (*source)(void)) {
+    lumora_state.input_source = source;
+}
+
 // Called by routing when the screen changes size: the framebuffer follows.
 void ScreenResized(void) {
     AttachScreen();
