@@ -160,6 +160,7 @@ static void ClosePage(t_Window *window)
 int AskToSavePage(t_Window *window)
 {
     T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    ISetActiveWindow(window);  // the page that asks comes to the front, restored if minimised
     OpenQuery(window, record);  // or takes over the close query that stands
     record->query_for_exit = 1;
     return WaitForQuery(window, record);
