@@ -3,7 +3,9 @@
 # machine too. Each command first installs what it needs and is missing, with apt-get.
 #   ./build.sh run [OPTION]... [FILE]...  build the editor alone (toolkit, module, host), start it
 #   ./build.sh build                      build the editor alone
-#   ./build.sh test                       build everything (tests and benchmarks too), run every test
+#   ./build.sh test                       build everything (tests and benchmarks too), run every test;
+#                                         then build it again under the sanitizers (build-asan) and
+#                                         run every test there too, with a short run of the fuzzer
 #   ./build.sh install [PREFIX]           build the editor and install it (default /usr/local)
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -11,7 +13,10 @@ cd "$(dirname "$0")"
 # What the editor needs to build and run, and what the tests add.
 editor_packages=(build-essential cmake pkg-config libsdl2-dev libfreetype-dev libpng-dev fonts-dejavu-core)
 test_packages=(libgtest-dev libbenchmark-dev desktop-file-utils)
+# The sanitizers' build: clang with its runtimes (ASan, UBSan, LeakSanitizer, libFuzzer).
+sanitizer_packages=(clang libclang-rt-dev)
 build=build
+sanitized=build-asan
 jobs=$(nproc)
 
 usage() {
@@ -50,6 +55,23 @@ configure() {
   fi
 }
 
+# The sanitizers' build folder, configured once with clang (a folder's compiler can't change).
+configure_sanitized() {
+  if [ ! -f "$sanitized/CMakeCache.txt" ]; then
+    echo "== Configuring $sanitized/ (AddressSanitizer, LeakSanitizer, UndefinedBehaviorSanitizer)"
+    CC=clang CXX=clang++ cmake -S . -B "$sanitized" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+      -DQF_TESTS=ON -DQF_BENCHMARKS=OFF -DQF_SANITIZE=ON -DQF_FUZZ=ON
+  fi
+}
+
+# What the sanitized programs are told: stop at the first error; leaks that the system's libraries
+# keep for their life (SDL, the X and font libraries) are not ours, and are suppressed by library.
+export_sanitizer_options() {
+  export ASAN_OPTIONS="abort_on_error=0:detect_leaks=1"
+  export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
+  export LSAN_OPTIONS="suppressions=$PWD/tests/sanitizers/lsan.supp:print_suppressions=0"
+}
+
 # The editor alone: a first build of the tests is left to ./build.sh test.
 build_editor() {
   install_missing "${editor_packages[@]}"
@@ -70,11 +92,18 @@ case "$what" in
     build_editor
     ;;
   test)
-    install_missing "${editor_packages[@]}" "${test_packages[@]}"
+    install_missing "${editor_packages[@]}" "${test_packages[@]}" "${sanitizer_packages[@]}"
     configure -DQF_TESTS=ON -DQF_BENCHMARKS=ON
     echo "== Building everything with $jobs jobs"
     cmake --build "$build" -j"$jobs"
     ctest --test-dir "$build" --output-on-failure -j"$jobs"
+    configure_sanitized
+    export_sanitizer_options
+    echo "== Building everything again under the sanitizers, in $sanitized/"
+    cmake --build "$sanitized" -j"$jobs"
+    # The install test builds a program against the installed toolkit with the machine's own
+    # compiler, which can't link a toolkit built with clang's sanitizers; the first run has it.
+    ctest --test-dir "$sanitized" --output-on-failure -j"$jobs" -E '^install_and_build_example$'
     ;;
   install)
     [ $# -le 1 ] || usage

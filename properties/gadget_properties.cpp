@@ -349,8 +349,13 @@ void EditGadgetColour(t_Window *window, T_GADGET_PROPERTIES *record, u32 msg, in
     // One selector per colour: a press, release and double click of the same click open one.
     if (!(msg & ACT_LMOUSE_UP))
         return;
-    t_Window *open = record->colour_selector[index];
-    if (open && IsWindowLive(open)) {
+    // The selector may have gone without an answer, and been freed: it is only compared with the
+    // dialog's children.
+    t_Window *open = NULL;
+    for (t_Window *child = window->first_child; child->next; child = child->next)
+        if (child == record->colour_selector[index] && IsWindowLive(child))
+            open = child;
+    if (open) {
         ISetActiveWindow(open);
         return;
     }

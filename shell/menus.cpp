@@ -166,6 +166,10 @@ void BuildMainMenus(t_Window *main_window, T_APPLICATION *application)
 
 void BuildGadgetContextMenu(T_MENU_HANDLER *handler)
 {
+    // A start after a run that the module didn't end (the toolkit closed under it) finds that
+    // run's entries still here.
+    if (gadget_context_menu.items.first && !LIST_EMPTY(&gadget_context_menu.items))
+        EmptyList(&gadget_context_menu.items, sizeof(t_Menu));
     InitContextMenu(&gadget_context_menu, "Multiple Modify");
     gadget_context_menu.menu_item_code = GADGET_MENU_CODE;
     gadget_context_menu.menu_flags = MENU_FLAG_NOTIFY_OPEN;

@@ -3,6 +3,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -13,7 +14,11 @@
 
 extern "C" t_Window *Dll_OpenQuillformWindow(T_CREATE_APPLICATION *create);
 
-// The log goes to a file while the harness runs, so that tests can read what was said.
+// The sanitizers' runtime, when the tests are built with it: it reports where it is told.
+extern "C" void __sanitizer_set_report_fd(void *fd) __attribute__((weak));
+
+// The log goes to a file while the harness runs, so that tests can read what was said; what a
+// sanitizer reports still goes to the real standard error.
 static int saved_stderr = -1;
 static char log_path[600];
 static std::string log_text;
@@ -28,11 +33,15 @@ static void CaptureLog(const char *root)
         dup2(fd, 2);
         close(fd);
     }
+    if (__sanitizer_set_report_fd && saved_stderr >= 0)
+        __sanitizer_set_report_fd((void *)(intptr_t)saved_stderr);
 }
 
 static void ReleaseLog(void)
 {
     fflush(stderr);
+    if (__sanitizer_set_report_fd)
+        __sanitizer_set_report_fd((void *)(intptr_t)2);
     if (saved_stderr >= 0) {
         dup2(saved_stderr, 2);
         close(saved_stderr);
@@ -124,6 +133,8 @@ int HarnessStart(T_HARNESS *harness, const char *root, i16 width, i16 height)
 void HarnessStop(T_HARNESS *harness, int keep_root)
 {
     CloseToolkit();
+    FreeTextureBank(harness->icon_bank);
+    harness->icon_bank = NULL;
     ReleaseLog();
     if (harness->own_root && !keep_root)
         RemoveTree(harness->root);

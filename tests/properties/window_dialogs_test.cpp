@@ -205,6 +205,6 @@ TEST_F(PropertiesTest, SourceFileInfoListsWhatTheNextSaveDrops)
     ASSERT_NE(info, nullptr);
     EXPECT_NE(std::string(FindGadgetHandler(info)->first_gadget->name).find("info.cpp"), std::string::npos);
     ClickControl(Control(info, INFO_ITEM_OK));
-    EXPECT_FALSE(IsWindowLive(info));
+    EXPECT_EQ(FindWindowByName(read, TXT_SOURCE_INFO), nullptr) << "the window went, and was freed";
     EXPECT_FALSE(read->state_flags & WSF_MODIFIED);
 }

@@ -157,7 +157,7 @@ TEST_F(RecentFilesTest, ADroppedFileEntersTheListOnlyWhenItOpens)
 {
     WritePageFiles("ab");
     std::string junk = folder + "/junk.cpp";
-    ASSERT_TRUE(WriteTextFile(junk, std::string("\x01\x02\x03 not a page", 16)));
+    ASSERT_TRUE(WriteTextFile(junk, "\x01\x02\x03 not a page"));
     std::string last_path = editor_config->last_path;
     UserMove((i16)(h.main_window->user_x + 600), (i16)(h.main_window->user_y + 400));
     //  dropped               opens  the list afterwards
