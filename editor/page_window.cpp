@@ -134,6 +134,10 @@ static u16 WaitForQuery(t_Window *window, T_WINEDIT_HANDLER *record)
            (record->query_for_exit || window->state == WINDOW_STATE_OPEN))
         RefreshHandlers(&CURRENT_DISPLAY->window_class->head);
     u16 result = (window->state_flags & WSF_REMOVED) ? PAGE_QUERY_DROPPED : record->query_state;
+    // Settled otherwise than by its answer (a Save of the page meanwhile): the box goes too.
+    if (result != PAGE_QUERY_OPEN && result != PAGE_QUERY_DROPPED)
+        if (t_Window *box = FindWindowByName(window, TXT_QUERY_TITLE))
+            RemoveWindow(box);
     record->query_state = PAGE_QUERY_NONE;
     record->query_for_exit = 0;
     return result;

@@ -186,6 +186,13 @@ static const EXIT_ROW exit_rows[] = {
          return std::vector<T_ANSWER>{AnswerYes(), AnswerKeys(SAVE_AS_TITLE, {KEY_ESCAPE})};
      },
      1, false, "10", {}},
+    {"Ctrl+S while the exit's query stands saves the page, and the exit goes on", "m",
+     [](SessionEndTest *) {
+         T_ANSWER save = AnswerKeys(QUERY_TITLE, {KEY_CTRL('S')});
+         save.input[0].qualifiers = QUAL_CONTROL;
+         return std::vector<T_ANSWER>{save};
+     },
+     1, true, "", {"p0.cpp"}},
     {"clean pages go without a word", "cc", [](SessionEndTest *) { return std::vector<T_ANSWER>{}; }, 1, true, "",
      {"p0.cpp", "p1.cpp"}},
 };
