@@ -2,6 +2,7 @@
 // selector's fields, and dependent windows that stand inside the screen in front of the toolbar.
 #include <sys/stat.h>
 
+#include "editor/page_commands.h"
 #include "editor/page_window.h"
 #include "lumora/lumora_internal.h"
 #include "tests/shell/shell_fixture.h"
@@ -64,11 +65,10 @@ TEST_F(ShellTest, KeysReachThePageAfterAMousePick)
             break;
         }
         SetActiveToolBarEntry(Toolbar(), 0);
-        while (!LIST_EMPTY(&handler->gadget_list)) {
-            ClearAllMarkedGadgets(handler->first_gadget);
-            handler->first_gadget->live_flags |= GADGET_MARK_SELECTED;
-            UserKey(KEY_DELETE, 0);
-        }
+        for (t_gadget *g = handler->first_gadget; g->next; g = g->next)  // a clean page again
+            g->live_flags |= GADGET_MARK_SELECTED;
+        DeleteMarkedGadgets(page);
+        record->edit_state &= ~EDIT_TAB_ORDER;
     }
 }
 
