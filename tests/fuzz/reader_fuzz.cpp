@@ -2,6 +2,7 @@
 // (OpenPageFile: the reader, the repair of item codes, the tab order), then closed. The toolkit
 // runs headless on a small screen with the module's main window, made once.
 //   qf_reader_fuzz CORPUS_DIR tests/golden            (see the README for a long run)
+#include <ftw.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <sys/mman.h>
@@ -16,11 +17,20 @@ extern "C" t_Window *Dll_OpenQuillformWindow(T_CREATE_APPLICATION *create);
 static t_Window *main_window;
 static int input_fd = -1;
 static char input_path[64];
+static char root[] = "/tmp/qf-fuzz-XXXXXX";  // the data root of the run, removed at its end
+
+static void RemoveRoot(void)
+{
+    nftw(root, [](const char *path, const struct stat *, int, struct FTW *) { return remove(path); }, 16,
+         FTW_DEPTH | FTW_PHYS);
+}
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    char root[] = "/tmp/qf-fuzz-XXXXXX";
-    if (!mkdtemp(root) || !OpenToolkit("headless", 320, 200, root))
+    if (!mkdtemp(root))
+        return 1;
+    atexit(RemoveRoot);
+    if (!OpenToolkit("headless", 320, 200, root))
         return 1;
     _OstrandBase->log_level = -1;  // the reader's complaints about bad input are the point here
     T_CREATE_APPLICATION create = {};
