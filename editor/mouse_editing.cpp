@@ -475,11 +475,26 @@ void GadgetDragMove(t_Window *window, void *gadget)
     i16 dy = (i16)(window->mouse_y - record->drag_last_y);
     record->drag_last_x = window->mouse_x;
     record->drag_last_y = window->mouse_y;
+    // The marked gadgets' boxes on the screen, before the step: with the same boxes moved by the
+    // step, and the marks round them, they are all that the step changes.
+    i32 left = INT16_MAX, top = INT16_MAX, right = INT16_MIN, bottom = INT16_MIN;
     for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
         if (!IsMarked(g))
             continue;
+        left = g->screen_x < left ? g->screen_x : left;
+        top = g->screen_y < top ? g->screen_y : top;
+        right = g->screen_x + g->pos_width > right ? g->screen_x + g->pos_width : right;
+        bottom = g->screen_y + g->pos_height > bottom ? g->screen_y + g->pos_height : bottom;
         g->pos_x = (i16)(g->live_flags & GADGET_FLAGS_FROM_RIGHT ? g->pos_x - dx : g->pos_x + dx);
         g->pos_y = (i16)(g->live_flags & GADGET_FLAGS_FROM_BOTTOM ? g->pos_y - dy : g->pos_y + dy);
     }
     RecalcUserSize(window);
+    if (left > right)
+        return;
+    i32 margin = HANDLE_SIZE + 1;
+    left = (dx < 0 ? left + dx : left) - margin;
+    top = (dy < 0 ? top + dy : top) - margin;
+    right = (dx > 0 ? right + dx : right) + margin;
+    bottom = (dy > 0 ? bottom + dy : bottom) + margin;
+    LimitRepaint((i16)left, (i16)top, (i16)(right - left), (i16)(bottom - top));
 }

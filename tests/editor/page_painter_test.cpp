@@ -156,7 +156,7 @@ TEST_F(PageTest, RepaintLeavingCoveredBackgroundsShowsTheSame)
     for (int reference = 0; reference < 2; reference++) {
         lumora_state.paint_every_background = (u16)reference;
         std::fill(pixels, pixels + (size_t)height * pitch, 0xFF00FFu);
-        PaintScreen();
+        PaintScreen(NULL);
         screens[reference].assign(pixels, pixels + (size_t)height * pitch);
     }
     lumora_state.paint_every_background = 0;
@@ -164,4 +164,48 @@ TEST_F(PageTest, RepaintLeavingCoveredBackgroundsShowsTheSame)
     for (size_t i = 0; i < screens[0].size(); i++)
         differ += screens[0][i] != screens[1][i];
     EXPECT_EQ(differ, 0u);
+}
+
+// A drag step repaints only round the gadgets it moves, marks and all: a pixel far from them is
+// left as it stood, and the screen then shows, pixel for pixel, what a whole repaint shows. The
+// gadgets are of every tool, so that none draws outside its box, and several are marked, one of
+// them from the right and bottom.
+TEST_F(PageTest, DragStepRepaintsOnlyRoundTheMovedGadgetsAndShowsTheSame)
+{
+    std::vector<t_gadget *> made;
+    for (u16 tool = TOOL_FIRST; tool <= TOOL_LAST; tool++)
+        made.push_back(Make(tool, (i16)(10 + (tool - 1) % 4 * 100), (i16)(10 + (tool - 1) / 4 * 60), 80, 40));
+    made[5]->live_flags |= GADGET_FLAGS_FROM_RIGHT | GADGET_FLAGS_FROM_BOTTOM;
+    RecalcUserSize(page);
+    for (size_t i = 0; i < made.size(); i += 3)
+        Mark(made[i]);
+    UserTurns(1);
+    i16 x = MidX(made[0]), y = MidY(made[0]);
+    Press(x, y);
+    Move((i16)(x + 8), (i16)(y + 8));  // past the threshold: the drag begins
+    i32 width, height, pitch;
+    u32 *pixels = display->pixels(&width, &height, &pitch);
+    const i16 far_x = (i16)(width - 3), far_y = (i16)(height - 3);
+    static const i16 steps[][2] = {{5, 0}, {0, 7}, {-12, -3}, {30, 25}, {-1, 1}};
+    for (const auto &step : steps) {
+        u32 far_before = Pixel(far_x, far_y);
+        pixels[far_y * pitch + far_x] = 0xFF00FFu;
+        x = (i16)(x + step[0]), y = (i16)(y + step[1]);
+        T_INPUT_EVENT event;
+        memset(&event, 0, sizeof(event));
+        event.kind = INPUT_MOUSE_MOVE, event.x = x, event.y = y, event.button = 1;
+        HeadlessPush(&event);
+        RefreshHandlers(NULL);
+        EXPECT_EQ(Pixel(far_x, far_y), 0xFF00FFu) << "a step of " << step[0] << ", " << step[1];
+        pixels[far_y * pitch + far_x] = far_before;
+        std::vector<u32> stepped(pixels, pixels + (size_t)height * pitch);
+        record->dash_phase = (u16)((record->dash_phase + 31) % 32);  // the marks' dots as they stood
+        PaintScreen(NULL);
+        size_t differ = 0;
+        for (size_t i = 0; i < stepped.size(); i++)
+            differ += stepped[i] != pixels[i];
+        EXPECT_EQ(differ, 0u) << "a step of " << step[0] << ", " << step[1];
+    }
+    Release(x, y);
+    CHECK_PAGE();
 }

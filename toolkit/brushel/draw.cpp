@@ -7,6 +7,9 @@
 
 T_SURFACE *draw_surface;
 static T_CLIP clip_rect;
+// What ClipAll opens the clip to: the whole surface, or the part of it a repaint is limited to.
+static T_CLIP clip_bound;
+static int clip_bounded;
 
 #define COLOUR_MASK 0x00FFFFFFu
 
@@ -29,6 +32,18 @@ void ClipAll(void) {
         clip_rect.right = draw_surface->width;
         clip_rect.bottom = draw_surface->height;
     }
+    if (clip_bounded) {
+        clip_rect.left = std::max(clip_rect.left, clip_bound.left);
+        clip_rect.top = std::max(clip_rect.top, clip_bound.top);
+        clip_rect.right = std::max(clip_rect.left, std::min(clip_rect.right, clip_bound.right));
+        clip_rect.bottom = std::max(clip_rect.top, std::min(clip_rect.bottom, clip_bound.bottom));
+    }
+}
+
+void SetClipBound(const T_RPOS *bound) {
+    clip_bounded = bound != NULL;
+    if (bound) clip_bound = {bound->x, bound->y, bound->x + bound->w, bound->y + bound->h};
+    ClipAll();
 }
 
 void ClipInsideWindow(i16 left, i16 top, i16 right, i16 bottom) {

@@ -43,6 +43,9 @@ T_SURFACE *GetDrawSurface(void);
 // Clipping: drawing stays inside left..right-1, top..bottom-1, and inside the surface.
 void ClipInsideWindow(i16 left, i16 top, i16 right, i16 bottom);
 void ClipAll(void);
+// Keeps every clip inside `bound` (screen pixels) until it is called with null: a repaint of a part
+// of the screen draws nothing beyond it, whatever its painters clip to.
+void SetClipBound(const T_RPOS *bound);
 void GetClip(T_RPOS *rect);
 
 void DrawPixel(i16 x, i16 y, u32 colour);

@@ -444,6 +444,10 @@ const char *GetClipboardText(void);
 // repaints even when nothing else happens. A real display stops repainting a while after the last
 // input otherwise, and waits for input.
 void KeepAnimating(void);
+// For the handler of an input event: what this event changed lies inside this rectangle of the
+// screen (its painter's marks too), so that the turn repaints that part alone. Calls in one event
+// add up; an event that makes none may have changed anything, and the whole screen repaints.
+void LimitRepaint(i16 x, i16 y, i16 w, i16 h);
 // A function that each turn of the loop calls at its start, before it takes the display's input,
 // so that it may queue input: a script player that goes on playing while a message function turns
 // the loop inside itself (a query's wait). Null: none. Ends with the toolkit.

@@ -6,9 +6,8 @@
 
 #include "lumora/lumora_internal.h"
 
-#define FRAME_MS 16     // one turn per frame: about 60 a second
-#define SETTLE_MS 1500  // after input the screen keeps repainting this long (hover texts show)
-#define IDLE_WAIT_MS 500  // then a turn waits for input at most this long
+#define FRAME_MS 16       // one turn per frame: about 60 a second
+#define IDLE_WAIT_MS 500  // a turn with nothing to paint waits for input at most this long
 
 u32 MessageMask(t_Window *window) { return WINDOW_PRIVATE(window)->message_mask; }
 
@@ -45,7 +44,56 @@ void PostWindowMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
 
 void KeepAnimating(void) { lumora_state.animating = 1; }
 
-static void NoteActivity(void) { lumora_state.last_activity_ms = _LumoraBase->time_ms; }
+static void RepaintWhole(void) { lumora_state.repaint_whole = 1; }
+static void NoteActivity(void) { RepaintWhole(); }
+
+// The smallest box round both; an empty one (w 0) adds nothing.
+static T_RPOS UniteRects(T_RPOS a, T_RPOS b) {
+    if (a.w <= 0 || a.h <= 0) return b;
+    if (b.w <= 0 || b.h <= 0) return a;
+    i32 left = a.x < b.x ? a.x : b.x, top = a.y < b.y ? a.y : b.y;
+    i32 right = a.x + a.w > b.x + b.w ? a.x + a.w : b.x + b.w;
+    i32 bottom = a.y + a.h > b.y + b.h ? a.y + a.h : b.y + b.h;
+    return T_RPOS{(i16)left, (i16)top, (i16)(right - left), (i16)(bottom - top)};
+}
+
+void LimitRepaint(i16 x, i16 y, i16 w, i16 h) {
+    T_LUMORA_STATE *st = &lumora_state;
+    st->event_area = st->event_limited ? UniteRects(st->event_area, T_RPOS{x, y, w, h}) : T_RPOS{x, y, w, h};
+    st->event_limited = 1;
+}
+
+// One input event: what it changed joins the turn's repaint.
+static void RouteAndNoteDamage(T_INPUT_EVENT *event) {
+    T_LUMORA_STATE *st = &lumora_state;
+    st->event_limited = 0;
+    RouteInput(event);
+    if (st->event_limited)
+        st->repaint_area = UniteRects(st->repaint_area, st->event_area);
+    else
+        RepaintWhole();
+    st->event_limited = 0;
+}
+
+// The pointer's rest has just passed a hover text's delay: the text shows at this turn.
+static int RestEnded(u32 now) {
+    T_LUMORA_STATE *st = &lumora_state;
+    static const u32 delays[] = {HOVER_DELAY_MS, TOOLBAR_HOVER_MS};
+    for (u32 delay : delays)
+        if (st->last_move_ms + delay > st->last_paint_ms && st->last_move_ms + delay <= now) return 1;
+    return 0;
+}
+
+// How long a quiet turn may wait for input: until the next hover delay ends, at most IDLE_WAIT_MS.
+static u32 QuietWait(u32 now) {
+    T_LUMORA_STATE *st = &lumora_state;
+    u32 wait = IDLE_WAIT_MS;
+    static const u32 delays[] = {HOVER_DELAY_MS, TOOLBAR_HOVER_MS};
+    for (u32 delay : delays)
+        if (st->last_move_ms + delay > now && st->last_move_ms + delay - now < wait)
+            wait = st->last_move_ms + delay - now;
+    return wait;
+}
 
 // Delivers the messages posted before this point; those posted meanwhile wait for the next turn.
 static void DeliverPosted(void) {
@@ -95,8 +143,27 @@ void CallMouseMoveHooks(void) {
 
 void RepaintScreen(void) {
     if (!display || !CURRENT_DISPLAY->record) return;
-    PaintScreen();
+    PaintScreen(NULL);
+    lumora_state.last_paint_ms = _LumoraBase->time_ms;
     display->present();
+}
+
+// What the turn changed, and only that: the whole screen, the area its events named, or nothing.
+static int RepaintTurn(void) {
+    T_LUMORA_STATE *st = &lumora_state;
+    int painted = 1;
+    if (st->repaint_whole) {
+        RepaintScreen();
+    } else if (st->repaint_area.w > 0 && st->repaint_area.h > 0) {
+        PaintScreen(&st->repaint_area);
+        st->last_paint_ms = _LumoraBase->time_ms;
+        display->present();
+    } else {
+        painted = 0;
+    }
+    st->repaint_whole = 0;
+    st->repaint_area = T_RPOS{0, 0, 0, 0};
+    return painted;
 }
 
 void RefreshHandlers(t_Handler *handler) {
@@ -111,25 +178,25 @@ void RefreshHandlers(t_Handler *handler) {
     T_INPUT_EVENT event;
     while (display->poll(&event)) {
         base->time_ms = display->ticks();
-        NoteActivity();
-        RouteInput(&event);
+        RouteAndNoteDamage(&event);
     }
     DeliverPosted();
     DeliverFirstRun();
-    // A real display that has had no input for a while and shows nothing moving is left as it
-    // is: no repaint, and the turn waits for input. The headless one repaints every turn, so
-    // that a turn of a test or script always paints.
-    int animating = lumora_state.animating;
-    lumora_state.animating = 0;
-    int quiet = display != &display_headless && !animating &&
-                base->time_ms - lumora_state.last_activity_ms > SETTLE_MS;
-    if (!quiet) RepaintScreen();
+    // A turn repaints what its input and messages changed. Beyond that a real display repaints
+    // only for what moves by itself (KeepAnimating) and a hover text whose delay has ended, and else
+    // waits for input; the headless one repaints the whole screen at a turn that changed nothing
+    // it was told of, since a test may have changed the windows between turns.
+    T_LUMORA_STATE *st = &lumora_state;
+    if (st->animating || RestEnded(base->time_ms)) RepaintWhole();
+    st->animating = 0;
+    if (display == &display_headless && st->repaint_area.w <= 0) RepaintWhole();
+    int quiet = !RepaintTurn();
     base->turn_depth--;
     if (base->turn_depth == 0) FreeRemovedWindows();
     if (display == &display_headless) {
         display->wait(FRAME_MS);
     } else if (quiet) {
-        display->wait_for_input(IDLE_WAIT_MS);
+        display->wait_for_input(QuietWait(base->time_ms));
     } else {
         u32 spent = display->ticks() - start;
         if (spent < FRAME_MS) display->wait(FRAME_MS - spent);

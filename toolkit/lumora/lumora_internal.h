@@ -72,8 +72,14 @@ typedef struct T_LUMORA_STATE {
     T_DISPLAY_RECORD record;
     T_SURFACE screen;
     u16 paint_every_background;  // tests: fill each background whole, as the reference to compare
-    u32 last_activity_ms;  // the last input or message: the screen settles for a while after it
     u16 animating;         // a paint asked for the next turn's repaint (KeepAnimating)
+    // What the turn must repaint: the whole screen, or the union of the areas its events changed
+    // (LimitRepaint); an event that says nothing may have changed anything.
+    u16 repaint_whole;
+    T_RPOS repaint_area;     // w 0: none
+    u16 event_limited;       // the event in hand called LimitRepaint
+    T_RPOS event_area;
+    u32 last_paint_ms;       // when the screen was last painted: a rest that ends after it shows
     void (*input_source)(void);  // SetInputSource's: called at the start of each turn
 } T_LUMORA_STATE;
 
@@ -92,6 +98,10 @@ typedef struct T_POSTED_MESSAGE {
 u32 SnapshotHandlers(t_Window *window, t_Handler **out, u32 max);
 int HandlerIsOn(t_Window *window, t_Handler *handler);
 void ForgetHandler(t_Handler *handler);  // drops every reference the toolkit holds to it
+
+// How long the pointer rests before a hover text shows: over a gadget or title, over a tool.
+#define HOVER_DELAY_MS 600
+#define TOOLBAR_HOVER_MS 600
 
 // Windows (window.cpp).
 #define CASCADE_STEP 16  // pixels between cascade places, down and right
@@ -133,7 +143,7 @@ void RouteInput(T_INPUT_EVENT *event);
 t_Window *WindowAtPoint(i16 x, i16 y, t_Window **minimised);
 
 // Painting (paint.cpp).
-void PaintScreen(void);
+void PaintScreen(const T_RPOS *area);
 int RectIntersect(T_RPOS *a, const T_RPOS *b);  // a becomes a ∩ b; false when empty
 
 // Gadgets (gadget_handler.cpp, gadget_classes.cpp).

@@ -2,7 +2,6 @@
 // handlers' paint, children), minimised windows' buttons, popups, and the hover text on top.
 #include "lumora/lumora_internal.h"
 
-#define HOVER_DELAY_MS 600  // the pointer rests this long before a hover text shows
 #define HOVER_OFFSET_X 12
 #define HOVER_OFFSET_Y 20
 #define HOVER_PADDING 4
@@ -159,10 +158,13 @@ static void PaintHoverText(void) {
     DrawText(x + HOVER_PADDING, y + HOVER_PADDING / 2, text, rec->gadget_text_colour);
 }
 
-void PaintScreen(void) {
+// The screen, or only `area` of it (null: all): nothing is drawn outside the area, and what lies
+// inside it is drawn as a whole repaint would draw it.
+void PaintScreen(const T_RPOS *area) {
     T_DISPLAY *d = CURRENT_DISPLAY;
     T_RPOS screen = {0, 0, d->width, d->height};
-    ClipAll();
+    if (area && !RectIntersect(&screen, area)) return;
+    SetClipBound(area ? &screen : NULL);
     t_List *top = &d->window_class->windows;
     T_RPOS holes[HOLES_MAX];
     FillAround(screen, d->record->desktop_colour, holes, CollectHoles(top, screen, screen, holes));
@@ -178,7 +180,7 @@ void PaintScreen(void) {
     for (t_Node *n = top->first; n->next; n = n->next)
         if (IsPopup((t_Window *)n)) PaintWindow((t_Window *)n, screen);
     PaintHoverText();
-    ClipAll();
+    SetClipBound(NULL);
     SetFontStyle(0);
 }
 

@@ -9,7 +9,6 @@ enum {
     TOOLBAR_ICON = 24,        // the icon inside it
     TOOLBAR_PAD = 2,          // round the row of buttons
     TOOLBAR_PLACE = 4,        // from the owner's user area's top left
-    TOOLBAR_HOVER_MS = 600,   // the pointer rests this long before the hover text shows
     TOOLBAR_TIP_PAD = 4,      // round the hover text
     TOOLBAR_TIP_X = 12,       // the hover text's place from the pointer
     TOOLBAR_TIP_Y = 20,
