@@ -46,10 +46,7 @@ void FreeMouse(void)
 T_TOOLBAR_HANDLER *PageToolBar(t_Window *window)
 {
     t_Window *parent = window ? window->parent : NULL;
-    T_WINEDIT_MAIN *main_record = parent ? (T_WINEDIT_MAIN *)parent->user_data : NULL;
-    if (!main_record || !main_record->toolbar)
-        return NULL;
-    return (T_TOOLBAR_HANDLER *)main_record->toolbar->user_data;
+    return parent && page_host.toolbar ? page_host.toolbar(parent) : NULL;
 }
 
 void TellMainWindow(t_Window *window, u32 item_code)

@@ -8,10 +8,10 @@
 
 #include <unordered_map>
 
+#include "editor/context_menus.h"
 #include "editor/mouse_editing.h"
 #include "editor/undo_records.h"
 #include "properties/gadget_properties.h"
-#include "shell/menus.h"
 
 #define TEXT_WIDTH_EXTRA 3   // room beside a gadget's text
 #define TEXT_HEIGHT_EXTRA 2  // and above and below it

@@ -1,22 +1,22 @@
 // The page window: how it comes into being from a box, and how it answers the toolkit's messages,
-// the close query (and the exit's), the saves that end in it, the question before a save over
-// hand-written lines, and the items of its context menus.
+// the close query (and the exit's), Save and Save as with the saves that end in it, the question
+// before a save over hand-written lines, and the items of its context menus.
 #include "editor/page_window.h"
 
 #include <stdio.h>
 #include <string.h>
 
-#include "editor/clipboard.h"
+#include "editor/context_menus.h"
 #include "editor/page_commands.h"
+#include "editor/page_operations.h"
 #include "editor/page_painter.h"
+#include "editor/texts.h"
 #include "properties/action_editor.h"
 #include "properties/gadget_properties.h"
 #include "properties/window_properties.h"
-#include "shell/main_window.h"
-#include "shell/menus.h"
-#include "shell/texts.h"
 #include "source/hand_written.h"
 #include "source/source_writer.h"
+#include "source/texts.h"
 
 #define LINES_SHOWN 5  // line numbers that the question before a save over hand-written lines names
 
@@ -25,38 +25,7 @@ static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY |
                               IDCMP_MENU_OPEN | IDCMP_RECEIVE_OBJECT | IDCMP_REQUESTER_OK |
                               IDCMP_REQUESTER_CANCEL | IDCMP_REQUESTER_ABORT | IDCMP_REQUESTER_PREVIEW;  // 0x6C1D6
 
-typedef struct T_PAGE_MENU_ROW {
-    u16 kind;
-    const char *label;
-    u32 item_code;
-    u8 shortcut;
-} T_PAGE_MENU_ROW;
-
-// The page background's context menu "WindowBase".
-static const T_PAGE_MENU_ROW page_menu_table[] = {
-    {MENU_KIND_ENTRY, "Resize to contents", PAGE_MENU_RESIZE_TO_CONTENTS, 'R'},
-    {MENU_KIND_ENTRY, "Delete", PAGE_MENU_DELETE, 'D'},
-    {MENU_KIND_SEPARATOR, "", 0, 0},
-    {MENU_KIND_ENTRY, "Window Properties", PAGE_MENU_WINDOW_PROPERTIES, 'W'},
-};
-
-static void BuildPageContextMenu(T_WINEDIT_HANDLER *record)
-{
-    InitContextMenu(&record->context_menu, "WindowBase");
-    t_List scratch;
-    InitList(&scratch, NULL);
-    T_MENU_HANDLER *handler = CreateMenuHandler(&scratch);
-    T_MENUOBJECTINIT init;
-    memset(&init, 0, sizeof(init));
-    init.parent_list = &record->context_menu.items;
-    for (const T_PAGE_MENU_ROW &row : page_menu_table) {
-        init.kind = row.kind;
-        init.item_code = row.item_code;
-        init.shortcut = row.shortcut;
-        CreateObject(&handler->head, row.label, &init);
-    }
-    DelHandler(&handler->head);
-}
+T_PAGE_HOST page_host;
 
 t_Window *CreatePageWindow(t_Window *parent, char *name, u32 flags, i16 x1, i16 y1, i16 x2, i16 y2)
 {
@@ -101,14 +70,11 @@ t_Window *CreatePageWindow(t_Window *parent, char *name, u32 flags, i16 x1, i16 
 void RemovePage(t_Window *window, int second_refresh)
 {
     t_Window *parent = window->parent;
-    if (parent && parent->user_data) {
-        ((T_WINEDIT_MAIN *)parent->user_data)->active_page = NULL;
-        parent->title_suffix = NULL;
-        RefreshMainMenus(parent, NULL);
-    }
+    if (page_host.set_active_page)
+        page_host.set_active_page(window, NULL);
     RemoveWindow(window);
-    if (second_refresh && parent && parent->user_data)
-        RefreshMainMenus(parent, NULL);
+    if (second_refresh && parent && page_host.refresh_menus)
+        page_host.refresh_menus(parent, NULL);
 }
 
 // Puts up the query on a modified page, unless one stands already: it answers for every close.
@@ -187,6 +153,49 @@ void PageSaveEnded(t_Window *window, T_WINEDIT_HANDLER *record, int outcome, int
     }
 }
 
+void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, const char *ok_text,
+                        const char *path, const char *name)
+{
+    T_FILE_REQUESTER_INIT init;
+    memset(&init, 0, sizeof(init));
+    init.parent = parent;
+    init.item_code = item_code;
+    init.title = title;
+    init.fourth_word = 1;
+    init.ok_text = ok_text;
+    init.cancel_text = TXT_CANCEL_BUTTON;
+    init.path = path;
+    init.name = name;
+    init.pattern = TXT_SOURCE_PATTERN;
+    NewFileSelector(&init);
+}
+
+void SetLastPath(const char *directory)
+{
+    size_t length = strlen(directory);
+    if (length >= sizeof(editor_config->last_path)) {
+        myprintf(0, "The folder %s is too long to remember as the last path", directory);
+        return;
+    }
+    memcpy(editor_config->last_path, directory, length + 1);
+}
+
+int SaveDocument(t_Window *window, T_WINEDIT_HANDLER *record, int ask)
+{
+    if (record->saved != 0 && !ask && record->file_name.text) {
+        if (AskBeforeDroppingLines(window, record, record->file_name.text))
+            return SAVE_DOCUMENT_PENDING;
+        return WriteDocument(window, record, record->file_name.text, 0);
+    }
+    // The selector starts in the folder of the page's file, else in the last one used.
+    char path[FILE_PATH_SIZE];
+    snprintf(path, sizeof(path), "%s", editor_config->last_path);
+    if (record->file_name.text)
+        XGetPath(path, record->file_name.text);
+    OpenSourceSelector(window, PAGE_ITEM_SAVE_AS, TXT_SAVE_AS_TITLE, TXT_SAVE_BUTTON, path, record->file_name.text);
+    return SAVE_DOCUMENT_PENDING;
+}
+
 int WriteDocument(t_Window *window, T_WINEDIT_HANDLER *record, const char *path, int by_save_as)
 {
     if (!SavePage(window, path)) {
@@ -201,7 +210,8 @@ int WriteDocument(t_Window *window, T_WINEDIT_HANDLER *record, const char *path,
     if (!record->saved)
         record->saved = 1;
     record->lines_checked = 1;  // the file holds what the writer wrote, nothing else
-    SetActivePage(window, window);
+    if (page_host.set_active_page)
+        page_host.set_active_page(window, window);
     PageSaveEnded(window, record, SAVE_DOCUMENT_WRITTEN, by_save_as);
     return SAVE_DOCUMENT_WRITTEN;
 }
@@ -271,28 +281,6 @@ static void FinishSaveAs(t_Window *window, T_WINEDIT_HANDLER *record, const T_FI
         return;
     if (WriteDocument(window, record, path, 1) == SAVE_DOCUMENT_WRITTEN)
         SetLastPath(answer->directory);
-}
-
-// Greys the alignment entries of the gadget context menu when nothing is marked, and Cut, Copy
-// and Paste as in the Edit menu.
-static void GreyGadgetMenu(t_Window *window)
-{
-    GreyClipboardEntries(&gadget_context_menu, GADGET_MENU_CUT, window);
-    t_Menu *align_left = FindMenuByItemCode(&gadget_context_menu, GADGET_MENU_ALIGN_LEFT);
-    if (!align_left)
-        return;
-    t_Gaget_Handler *handler = FindGadgetHandler(window);
-    int nothing = handler ? NothingMarked(handler->first_gadget) : 1;
-    // "Align left edges" and the entry that follows it, "Align top edges".
-    t_Menu *entries[2] = {align_left, align_left->next && align_left->next->next ? align_left->next : NULL};
-    for (t_Menu *entry : entries) {
-        if (!entry)
-            continue;
-        if (nothing)
-            entry->menu_flags |= MENU_FLAG_GREY;
-        else
-            entry->menu_flags &= ~MENU_FLAG_GREY;
-    }
 }
 
 // The "Choose font" selector, for the current gadget; its answers come back with item code 2.
@@ -398,16 +386,13 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
         TellMainWindow(window, 0);
         break;
     case GADGET_MENU_CUT:  // the clipboard, as the Edit menu's entries
-        CutGadgets(window);
-        TellMainWindow(window, 0);
+        CutToClipboard(window);
         break;
     case GADGET_MENU_COPY:
-        CopyGadgets(window);
-        TellMainWindow(window, 0);
+        CopyToClipboard(window);
         break;
     case GADGET_MENU_PASTE:
-        PasteGadgets(window);
-        TellMainWindow(window, 0);
+        PasteFromClipboard(window);
         break;
     case PAGE_MENU_RESIZE_TO_CONTENTS:  // from a small window, grown around the gadgets
         window->w = 64;
@@ -424,21 +409,17 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
 u32 PageMessage(t_Window *window, u32 item_code, u32 msg, void *data)
 {
     T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
-    t_Window *parent = window->parent;
     switch (msg) {
     case ACT_GAIN_CONTEXT:  // this page becomes the active one
-        if (parent && parent->user_data) {
-            ((T_WINEDIT_MAIN *)parent->user_data)->active_page = window;
-            parent->title_suffix = window->name;
-            RefreshMainMenus(parent, record);
-        }
+        if (page_host.set_active_page)
+            page_host.set_active_page(window, window);
         return 0;
     case ACT_TERMINATE:
         ClosePage(window);
         return 0;
     case ACT_KEY:  // keys run the application's commands
-        if (parent && parent->user_data)
-            return ExecuteAppCommand(((T_WINEDIT_MAIN *)parent->user_data)->application, NULL, (T_KEY_MSG *)data);
+        if (window->parent && page_host.run_key)
+            return page_host.run_key(window->parent, (T_KEY_MSG *)data);
         return 0;
     case ACT_WINDOW_RESIZE:
         window->state_flags |= WSF_MODIFIED;

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/texts.h"
+#include "editor/texts.h"
 #include "source/gadget_blocks.h"
 #include "source/source_writer.h"
 

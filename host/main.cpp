@@ -4,16 +4,19 @@
 // the toolkit on a display, loads the editor module (libquillform.so) from beside itself, hands
 // it a T_CREATE_APPLICATION, and turns the toolkit's event loop until the session ends.
 //
-//   host/        this file, the script player and the user actions it plays (also used by tests)
+//   host/        this file, the script player and the user actions it plays (also used by
+//                tests), and the toolbar's icons
 //   toolkit/     the window toolkit the editor stands on, one folder per library: ostrand
 //                (memory, lists, files), lumora (windows, gadgets, menus, the loop), brushel
 //                (drawing, text), knobkit, marshalry (commands, settings), tenure (the session),
-//                pickett (selectors); display/ holds the sdl and headless back ends
-//   shell/       the module's entry (entry.cpp: start reading there), the main window, menus
-//   page/        the module's records and the gadget catalogue
+//                pickett (selectors); display/ holds the sdl and headless back ends, app/ what a
+//                program built on pages runs by, include/ the libraries' headers
+//   shell/       the module's entry (entry.cpp: start reading there), the main window, its
+//                commands and menus; it stands on the folders below, and none of them on it
 //   editor/      a page window and what is done on it
 //   properties/  the dialogs
 //   source/      the page source format: writer, reader, name tables, backups
+//   page/        the module's records and the gadget catalogue
 //
 // Everything the module does happens in message functions that the toolkit calls from
 // RefreshHandlers; there is one thread and no loop of the module's own.

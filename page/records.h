@@ -1,19 +1,7 @@
-// The module's own records (main window, page, settings) and the few helpers that read them.
+// The module's own records (page, settings) and the few helpers that read them.
 #pragma once
 #include "page/item_codes.h"
 #include "toolkit.h"
-
-// The main window's handler, named "WinEditMain", reached through the window's user_data.
-typedef struct T_WINEDIT_MAIN {
-    t_Handler head;  // head.window: the main window
-    t_Window *active_page;
-    t_Window *toolbar;  // its user_data is the T_TOOLBAR_HANDLER
-    T_TOOL_SETUP *tool_setup;
-    T_APPLICATION *application;
-    i16 box_x1, box_y1, box_x2, box_y2;  // rubber box for a new page, relative to the user area
-    u16 box_active;
-    u16 box_phase;  // 0 to 31
-} T_WINEDIT_MAIN;
 
 // The page record: the handler "WinEdit" of a page window, reached through its user_data.
 typedef struct T_WINEDIT_HANDLER {

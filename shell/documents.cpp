@@ -1,62 +1,17 @@
-// The documents of the main window: Save and Save as, the recent files, the three ways of opening
-// a file, and the list of open documents kept in the settings from one run to the next.
-#include <stdio.h>
+// The documents of the main window: the Open selector, the recent files, the three ways of
+// opening a file, and the list of open documents kept in the settings from one run to the next.
 #include <string.h>
 
-#include "editor/page_window.h"
+#include "editor/texts.h"
 #include "shell/commands.h"
 #include "shell/main_window.h"
 #include "shell/menus.h"
 #include "shell/texts.h"
 #include "source/open_page.h"
-#include "source/source_writer.h"
-
-// Opens a file selector for *.cpp with the given parent, item code, title, button, path and name.
-static void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, const char *ok_text,
-                               const char *path, const char *name)
-{
-    T_FILE_REQUESTER_INIT init;
-    memset(&init, 0, sizeof(init));
-    init.parent = parent;
-    init.item_code = item_code;
-    init.title = title;
-    init.fourth_word = 1;
-    init.ok_text = ok_text;
-    init.cancel_text = TXT_CANCEL_BUTTON;
-    init.path = path;
-    init.name = name;
-    init.pattern = TXT_SOURCE_PATTERN;
-    NewFileSelector(&init);
-}
-
-void SetLastPath(const char *directory)
-{
-    size_t length = strlen(directory);
-    if (length >= sizeof(editor_config->last_path)) {
-        myprintf(0, "The folder %s is too long to remember as the last path", directory);
-        return;
-    }
-    memcpy(editor_config->last_path, directory, length + 1);
-}
 
 void OpenDocumentSelector(t_Window *main_window)
 {
     OpenSourceSelector(main_window, ITEM_OPEN_SELECTOR, TXT_OPEN_TITLE, TXT_OPEN_BUTTON, editor_config->last_path, "");
-}
-
-int SaveDocument(t_Window *window, T_WINEDIT_HANDLER *record, int ask)
-{
-    if (record->saved != 0 && !ask && record->file_name.text) {
-        if (AskBeforeDroppingLines(window, record, record->file_name.text))
-            return SAVE_DOCUMENT_PENDING;
-        return WriteDocument(window, record, record->file_name.text, 0);
-    }
-    char path[FILE_PATH_SIZE];
-    snprintf(path, sizeof(path), "%s", editor_config->last_path);
-    if (record->file_name.text)
-        XGetPath(path, record->file_name.text);
-    OpenSourceSelector(window, 0, TXT_SAVE_AS_TITLE, TXT_SAVE_BUTTON, path, record->file_name.text);
-    return SAVE_DOCUMENT_PENDING;
 }
 
 void RefreshRecentFiles(t_Window *main_window, const char *path)

@@ -34,14 +34,14 @@ static int ConfigIsWhole(T_RESOURCE *resource)
 
 extern "C" __attribute__((visibility("default"))) t_Window *Dll_OpenQuillformWindow(T_CREATE_APPLICATION *create)
 {
-    // 1. A running instance is activated and nothing else happens.
+    // A running instance is activated and nothing else happens.
     t_Window *running = FindAppWindow(MAIN_WINDOW_NAME);
     if (running) {
         ISetActiveWindow(running);
         return NULL;
     }
 
-    // 2-4. The settings resource, found or made with its defaults.
+    // The settings resource, found or made with its defaults.
     T_RESOURCE *resource = OpenResource(&_MarshalryBase->resources, SETTINGS_RESOURCE_NAME,
                                         RESOURCE_TYPE_SETTINGS, 0);
     if (resource && !ConfigIsWhole(resource)) {
@@ -58,12 +58,13 @@ extern "C" __attribute__((visibility("default"))) t_Window *Dll_OpenQuillformWin
     config_resource = resource;
     editor_config->resource = 0;  // the stored word means nothing; the back pointer is config_resource
 
-    // 5-6. Recent files and the commands.
+    // Recent files, the commands, and what the pages get of the main window.
     T_APPLICATION *application = create->application;
     AddRecentFileType(application, RECENT_FILE_TYPE, 6);
     RegisterCommands(application);
+    FillPageHost(&page_host);
 
-    // 7-8. The main window.
+    // The main window.
     T_WINDOWOBJINIT init;
     memset(&init, 0, sizeof(init));
     init.x = create->x;
@@ -72,13 +73,12 @@ extern "C" __attribute__((visibility("default"))) t_Window *Dll_OpenQuillformWin
     init.h = create->h;
     init.flags = MAIN_WINDOW_FLAGS;
     init.idcmp = MAIN_WINDOW_IDCMP;
-    init.icon = 0;
     init.icon_bank = create->icon_bank;
     init.message = MainWindowMsg;
     t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, MAIN_WINDOW_NAME, &init);
     window->UserAreaColour = DISPLAY_RECORD->window_colour;
 
-    // 9-14. Tool set-up, menus, the handler and the toolbar.
+    // Tool set-up, menus, the handler and the toolbar.
     T_TOOL_SETUP *setup = resource;
     AddToolSetupObject(setup, window, 0, 0);
     BuildMainMenus(window, application);
@@ -90,7 +90,7 @@ extern "C" __attribute__((visibility("default"))) t_Window *Dll_OpenQuillformWin
     AddToolSetupObject(setup, record->toolbar, 0, 1);
     record->tool_setup = setup;
 
-    // 15. The places of the last run.
+    // The places of the last run.
     ReadToolConfig(setup, editor_config);
     ExecuteToolSetup(setup, GenericToolSetupHandler);
     return window;

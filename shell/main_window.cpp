@@ -5,11 +5,9 @@
 #include <stdio.h>
 #include <string.h>
 
-#include "editor/clipboard.h"
-#include "editor/mouse_editing.h"
 #include "editor/page_commands.h"
+#include "editor/page_operations.h"
 #include "editor/page_window.h"
-#include "editor/preview.h"
 #include "shell/commands.h"
 #include "shell/menus.h"
 #include "shell/settings_dialog.h"
@@ -38,6 +36,34 @@ void SetActivePage(t_Window *window, t_Window *page)
     }
 }
 
+// What the pages get of the main window: each function finds the main window's record first, and
+// does nothing for a window that has none.
+static void RefreshPageMenus(t_Window *main_window, T_WINEDIT_HANDLER *record)
+{
+    if (FindMainRecord(main_window))
+        RefreshMainMenus(main_window, record);
+}
+
+static u32 RunKeyCommand(t_Window *main_window, T_KEY_MSG *key)
+{
+    T_WINEDIT_MAIN *record = FindMainRecord(main_window);
+    return record ? ExecuteAppCommand(record->application, NULL, key) : 0;
+}
+
+static T_TOOLBAR_HANDLER *MainToolBar(t_Window *main_window)
+{
+    T_WINEDIT_MAIN *record = FindMainRecord(main_window);
+    return record && record->toolbar ? (T_TOOLBAR_HANDLER *)record->toolbar->user_data : NULL;
+}
+
+void FillPageHost(T_PAGE_HOST *host)
+{
+    host->set_active_page = SetActivePage;
+    host->refresh_menus = RefreshPageMenus;
+    host->run_key = RunKeyCommand;
+    host->toolbar = MainToolBar;
+}
+
 // Calls `fn` for every page among the main window's children. The next child is fetched before
 // the page is handled, because closing removes it from the list.
 static void ForEachPage(t_Window *main_window, void (*fn)(t_Window *page))
@@ -61,74 +87,34 @@ static void SavePageDocument(t_Window *page)
     SaveDocument(page, (T_WINEDIT_HANDLER *)page->user_data, 0);
 }
 
-// Sets, clears or toggles the selection mark of every gadget of the page.
-static void MarkAllGadgets(t_Window *page, u32 command)
+static void SavePageDocumentAs(t_Window *page)
 {
-    t_Gaget_Handler *handler = FindGadgetHandler(page);
-    if (!handler)
-        return;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-        if (command == CMD_SELECT_ALL)
-            g->live_flags |= GADGET_MARK_SELECTED;
-        else if (command == CMD_SELECT_NONE)
-            g->live_flags &= ~GADGET_MARK_SELECTED;
-        else
-            g->live_flags ^= GADGET_MARK_SELECTED;
-    }
+    SaveDocument(page, (T_WINEDIT_HANDLER *)page->user_data, 1);
 }
 
-// The commands of the clipboard and Flip Horizontal on the active page; the menus follow.
-static void PageCommand(t_Window *page, u32 command)
+static void CloseAllPages(t_Window *main_window)
 {
-    switch (command) {
-    case CMD_CUT:
-        CutGadgets(page);
-        break;
-    case CMD_COPY:
-        CopyGadgets(page);
-        break;
-    case CMD_PASTE:
-        PasteGadgets(page);
-        break;
-    case CMD_FLIP_HORIZONTAL:
-        FlipMarkedGadgets(page);
-        break;
-    }
-    TellMainWindow(page, 0);
+    ForEachPage(main_window, ClosePage);
 }
 
-// Enters tab-order mode: the gadgets without a number take the one after the gadget before them.
-static void EnterTabOrder(t_Window *page, T_WINEDIT_HANDLER *record)
+static void SaveAllPages(t_Window *main_window)
 {
-    record->edit_state |= EDIT_TAB_ORDER;
-    record->tab_next = 1;
-    t_Gaget_Handler *handler = FindGadgetHandler(page);
-    if (!handler)
-        return;
-    u32 counter = 1;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-        if (g->tab_index == 0)
-            g->tab_index = counter++;
-        else
-            counter = g->tab_index + 1;
-    }
+    ForEachPage(main_window, SavePageDocument);
 }
 
-// Takes one step back or forth in the page's history.
-static void StepHistory(t_Window *main_window, t_Window *page, T_WINEDIT_HANDLER *record, int forward)
+static void ExitModule(t_Window *main_window)
 {
-    if (forward)
-        Redo(&record->undo);
-    else
-        Undo(&record->undo);
-    if (t_Gaget_Handler *handler = FindGadgetHandler(page))
-        handler->current_gadget = NULL;
-    RecalcUserSize(page);
-    if (forward)
-        page->state_flags |= WSF_MODIFIED;
-    else if (!CanUndo(&record->undo))
-        page->state_flags &= ~WSF_MODIFIED;
-    SendWindowMessage(main_window, MENU_EDIT, ACT_MENU_OPEN, NULL);
+    SendWindowMessage(main_window, 0, ACT_TERMINATE, NULL);
+}
+
+static void OpenKeyboardWindow(t_Window *main_window)
+{
+    OpenApplicationCmdEditWindow(main_window, FindMainRecord(main_window)->application);
+}
+
+static void OpenSettings(t_Window *main_window)
+{
+    SetSettingsBoxes(OpenSettingsDialog(main_window));
 }
 
 static void ShowAbout(t_Window *main_window)
@@ -201,105 +187,74 @@ static void EndModule(t_Window *main_window, T_WINEDIT_MAIN *record)
     SaveAndCloseSessionApplication(main_window, record->tool_setup);
 }
 
-// The commands, by item code. `page` and `page_record` are null without an active page; the rows
-// that need one do nothing then.
+// A recent file of the "File" menu was picked: `entry` is its menu entry.
+static void OpenRecentEntry(t_Window *main_window, t_Menu *entry)
+{
+    T_RECENT_FILE *recent = entry ? (T_RECENT_FILE *)entry->user_data : NULL;
+    if (!recent)
+        return;
+    char path[1024], directory[1024];
+    snprintf(path, sizeof(path), "%s", recent->name);
+    XGetPath(directory, path);
+    SetLastPath(directory);
+    OpenDocument(main_window, path, OPEN_BY_RECENT);
+}
+
+enum { ON_MAIN, ON_PAGE };
+
+typedef struct T_ITEM_ROW {
+    u32 item_code;
+    u8 needs_page;                  // ON_PAGE: runs on the active page, and does nothing without one
+    void (*run)(t_Window *window);  // given the active page, or else the main window
+} T_ITEM_ROW;
+
+// The commands, by item code. Any other code (the toolbar's among them) does nothing.
+// clang-format off
+//  item code                needs a page  function
+static const T_ITEM_ROW item_table[] = {
+    {CMD_OPEN,               ON_MAIN,      OpenDocumentSelector},
+    {CMD_CLOSE,              ON_PAGE,      ClosePage},  // the page asks to close
+    {CMD_CLOSE_ALL,          ON_MAIN,      CloseAllPages},  // one query at a time
+    {CMD_SAVE,               ON_PAGE,      SavePageDocument},  // at once when the page has a file
+    {CMD_SAVE_AS,            ON_PAGE,      SavePageDocumentAs},
+    {CMD_SAVE_ALL,           ON_MAIN,      SaveAllPages},
+    {CMD_EXIT,               ON_MAIN,      ExitModule},
+    {CMD_UNDO,               ON_PAGE,      UndoPageStep},
+    {CMD_REDO,               ON_PAGE,      RedoPageStep},
+    {CMD_CUT,                ON_PAGE,      CutToClipboard},  // the page's gadgets through the clipboard
+    {CMD_COPY,               ON_PAGE,      CopyToClipboard},
+    {CMD_PASTE,              ON_PAGE,      PasteFromClipboard},
+    {CMD_SELECT_ALL,         ON_PAGE,      SelectAllGadgets},
+    {CMD_SELECT_NONE,        ON_PAGE,      SelectNoGadgets},
+    {CMD_INVERSE_SELECTION,  ON_PAGE,      InvertGadgetSelection},
+    {CMD_REORDER_ITEM_CODES, ON_PAGE,      ReorderItemCodes},  // the saved codes and the toolkit's
+    {CMD_SETTINGS,           ON_MAIN,      OpenSettings},
+    {CMD_CENTRE_HORIZONTAL,  ON_PAGE,      CentreHorizontally},
+    {CMD_CENTRE_VERTICAL,    ON_PAGE,      CentreVertically},
+    {CMD_SIZE_TO_CONTENT,    ON_PAGE,      SizeMarkedToContents},
+    {CMD_FLIP_HORIZONTAL,    ON_PAGE,      FlipHorizontal},
+    {CMD_TAB_ORDER,          ON_PAGE,      EnterTabOrder},
+    {CMD_KEYBOARD,           ON_MAIN,      OpenKeyboardWindow},
+    {CMD_PREVIEW,            ON_PAGE,      PreviewPage},  // the page as the finished program
+    {ITEM_ABOUT,             ON_MAIN,      ShowAbout},
+};
+// clang-format on
+
+// A command by its item code: the recent file's entry, or a row of the table.
 static void DispatchItem(t_Window *window, T_WINEDIT_MAIN *record, u32 item_code, void *data)
 {
-    t_Window *page = record->active_page;
-    T_WINEDIT_HANDLER *page_record = page ? (T_WINEDIT_HANDLER *)page->user_data : NULL;
-    switch (item_code) {
-    case ITEM_RECENT_OR_DROP: {  // a recent file of the "File" menu: data is the entry
-        t_Menu *entry = (t_Menu *)data;
-        T_RECENT_FILE *recent = entry ? (T_RECENT_FILE *)entry->user_data : NULL;
-        if (recent) {
-            char path[1024], directory[1024];
-            snprintf(path, sizeof(path), "%s", recent->name);
-            XGetPath(directory, path);
-            SetLastPath(directory);
-            OpenDocument(window, path, OPEN_BY_RECENT);
-        }
-        break;
+    if (item_code == ITEM_RECENT_OR_DROP) {
+        OpenRecentEntry(window, (t_Menu *)data);
+        return;
     }
-    case CMD_OPEN:
-        OpenDocumentSelector(window);
-        break;
-    case CMD_CLOSE:  // the active page asks to close
-        if (page)
-            ClosePage(page);
-        break;
-    case CMD_CLOSE_ALL:  // every page, one query at a time
-        ForEachPage(window, ClosePage);
-        break;
-    case CMD_SAVE:  // writes at once when the page has a file
-        if (page)
-            SaveDocument(page, page_record, 0);
-        break;
-    case CMD_SAVE_AS:
-        if (page)
-            SaveDocument(page, page_record, 1);
-        break;
-    case CMD_SAVE_ALL:
-        ForEachPage(window, SavePageDocument);
-        break;
-    case CMD_EXIT:
-        SendWindowMessage(window, 0, ACT_TERMINATE, NULL);
-        break;
-    case CMD_UNDO:
-        if (page)
-            StepHistory(window, page, page_record, 0);
-        break;
-    case CMD_REDO:
-        if (page)
-            StepHistory(window, page, page_record, 1);
-        break;
-    case CMD_CUT:  // the active page's gadgets through the clipboard
-    case CMD_COPY:
-    case CMD_PASTE:
-    case CMD_FLIP_HORIZONTAL:
-        if (page)
-            PageCommand(page, item_code);
-        break;
-    case CMD_SELECT_ALL:
-    case CMD_SELECT_NONE:
-    case CMD_INVERSE_SELECTION:
-        if (page)
-            MarkAllGadgets(page, item_code);
-        break;
-    case CMD_REORDER_ITEM_CODES:  // the saved codes and the toolkit's, from 1 in list order
-        if (page)
-            ReorderItemCodes(page);
-        break;
-    case CMD_CENTRE_HORIZONTAL:
-        if (page)
-            CentreMarkedGadgets(page, CENTRE_HORIZONTAL);
-        break;
-    case CMD_CENTRE_VERTICAL:
-        if (page)
-            CentreMarkedGadgets(page, CENTRE_VERTICAL);
-        break;
-    case CMD_SIZE_TO_CONTENT:
-        if (page)
-            SizeMarkedToContents(page);
-        break;
-    case CMD_TAB_ORDER:
-        if (page)
-            EnterTabOrder(page, page_record);
-        break;
-    case CMD_KEYBOARD:
-        OpenApplicationCmdEditWindow(window, record->application);
-        break;
-    case CMD_PREVIEW:  // the active page as the finished program
-        if (page)
-            OpenPreview(page);
-        break;
-    case CMD_SETTINGS:  // needs no page
-        SetSettingsBoxes(OpenSettingsDialog(window));
-        break;
-    case ITEM_ABOUT:
-        ShowAbout(window);
-        break;
-    default:  // the toolbar's codes and everything else
-        break;
+    for (const T_ITEM_ROW &row : item_table) {
+        if (row.item_code != item_code)
+            continue;
+        if (row.needs_page == ON_MAIN)
+            row.run(window);
+        else if (record->active_page)
+            row.run(record->active_page);
+        return;
     }
 }
 
@@ -313,7 +268,7 @@ u32 MainWindowMsg(t_Window *window, u32 item_code, u32 msg, void *data)
         EndModule(window, record);
         return 0;
     case ACT_KEY:  // a key runs its command
-        return (u8)ExecuteAppCommand(record->application, NULL, (T_KEY_MSG *)data);
+        return (u8)RunKeyCommand(window, (T_KEY_MSG *)data);
     case ACT_MENU_OPEN:  // fresh greying before a menu shows
         RefreshMainMenus(window, record->active_page ? (T_WINEDIT_HANDLER *)record->active_page->user_data : NULL);
         return 0;

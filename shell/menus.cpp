@@ -1,11 +1,11 @@
-// Builds the main menu bar and the gadget context menu from their tables, and keeps the entries'
+// Builds the main menu bar and the gadget toolbar from their tables, and keeps the entries'
 // greying and the Undo and Redo labels up to date.
 #include "shell/menus.h"
 
 #include <stdio.h>
 #include <string.h>
 
-#include "editor/clipboard.h"
+#include "editor/context_menus.h"
 #include "shell/commands.h"
 #include "shell/main_window.h"
 
@@ -70,25 +70,6 @@ static const T_MENU_ROW main_menu_table[] = {
     {ROW_COMMAND, NULL, CMD_PREVIEW, 0},
     {ROW_TITLE, "Help", MENU_HELP, 'H'},
     {ROW_ENTRY, "About", ITEM_ABOUT, 'A'},
-};
-
-//  label                     item code                     shortcut
-static const T_MENU_ROW gadget_menu_table[] = {
-    {ROW_ENTRY, "Cut", GADGET_MENU_CUT, 'X'},
-    {ROW_ENTRY, "Copy", GADGET_MENU_COPY, 'C'},
-    {ROW_ENTRY, "Paste", GADGET_MENU_PASTE, 'V'},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_ENTRY, "Size to contents", GADGET_MENU_SIZE_TO_CONTENTS, 'z'},
-    {ROW_ENTRY, "Align left edges", GADGET_MENU_ALIGN_LEFT, 'l'},
-    {ROW_ENTRY, "Align top edges", GADGET_MENU_ALIGN_TOP, 't'},
-    {ROW_ENTRY, "Apply same dimensions", GADGET_MENU_SAME_SIZE, 's'},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_ENTRY, "Properties", GADGET_MENU_PROPERTIES, 'P'},
-    {ROW_ENTRY, "Actions...", PAGE_MENU_ACTIONS, 'A'},
-    {ROW_ENTRY, "Choose Font...", PAGE_MENU_CHOOSE_FONT, 'F'},
-    {ROW_ENTRY, "Delete...", PAGE_MENU_DELETE, 'D'},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_ENTRY, "Window Properties", PAGE_MENU_WINDOW_PROPERTIES, 'W'},
 };
 
 //  label                   icon  item code
@@ -164,26 +145,6 @@ void BuildMainMenus(t_Window *main_window, T_APPLICATION *application)
     BuildGadgetContextMenu(handler);
 }
 
-void BuildGadgetContextMenu(T_MENU_HANDLER *handler)
-{
-    // A start after a run that the module didn't end (the toolkit closed under it) finds that
-    // run's entries still here.
-    if (gadget_context_menu.items.first && !LIST_EMPTY(&gadget_context_menu.items))
-        EmptyList(&gadget_context_menu.items, sizeof(t_Menu));
-    InitContextMenu(&gadget_context_menu, "Multiple Modify");
-    gadget_context_menu.menu_item_code = GADGET_MENU_CODE;
-    gadget_context_menu.menu_flags = MENU_FLAG_NOTIFY_OPEN;
-    T_MENUOBJECTINIT init;
-    memset(&init, 0, sizeof(init));
-    init.parent_list = &gadget_context_menu.items;
-    for (const T_MENU_ROW &row : gadget_menu_table) {
-        init.kind = row.what == ROW_SEPARATOR ? MENU_KIND_SEPARATOR : MENU_KIND_ENTRY;
-        init.item_code = row.item_code;
-        init.shortcut = row.shortcut;
-        CreateObject(&handler->head, row.label, &init);
-    }
-}
-
 t_Window *CreateGadgetToolBar(t_Window *main_window)
 {
     T_TOOLBAR_HANDLER *toolbar = NewToolBar(main_window, "qftoolbar");
@@ -215,27 +176,6 @@ static void SetHistoryLabel(t_Window *main_window, t_Menu *edit_menu, u32 item_c
     SetDetachedMenuWidth(main_window, edit_menu);
 }
 
-// Greys the entry of that code in the menu, or makes it active; no such entry, nothing.
-static void SetEntryGrey(t_Menu *menu, u32 item_code, int grey)
-{
-    t_Menu *entry = menu ? FindMenuByItemCode(menu, item_code) : NULL;
-    if (!entry)
-        return;
-    if (grey)
-        entry->menu_flags |= MENU_FLAG_GREY;
-    else
-        entry->menu_flags &= ~MENU_FLAG_GREY;
-}
-
-void GreyClipboardEntries(t_Menu *menu, u32 cut_code, t_Window *page)
-{
-    // Cut, Copy and Paste have consecutive codes in both menus.
-    int can_copy = CanCopyGadgets(page);
-    SetEntryGrey(menu, cut_code, !can_copy);
-    SetEntryGrey(menu, cut_code + 1, !can_copy);
-    SetEntryGrey(menu, cut_code + 2, !ClipboardHoldsGadgets());
-}
-
 void RefreshMainMenus(t_Window *main_window, T_WINEDIT_HANDLER *record)
 {
     u32 pages = 0;
@@ -262,7 +202,7 @@ void RefreshMainMenus(t_Window *main_window, T_WINEDIT_HANDLER *record)
     SetAllMenuItemFlags(edit_menu, MENU_FLAG_GREY, record == NULL);
     if (t_Menu *settings = FindMenuByItemCode(edit_menu, CMD_SETTINGS))
         settings->menu_flags &= ~MENU_FLAG_GREY;
-    SetEntryGrey(FindMenuInHandler(handler, MENU_TOOLS), CMD_PREVIEW, record == NULL);
+    SetMenuEntryGrey(FindMenuInHandler(handler, MENU_TOOLS), CMD_PREVIEW, record == NULL);
     if (!record)
         return;
     GreyClipboardEntries(edit_menu, CMD_CUT, record->head.window);

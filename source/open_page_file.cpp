@@ -3,9 +3,9 @@
 #include <stdio.h>
 #include <string.h>
 
-#include "shell/texts.h"
 #include "source/open_page.h"
 #include "source/source_format.h"
+#include "source/texts.h"
 
 #define OPEN_ERROR_STYLE 16
 #define OPEN_ERROR_ITEM_CODE 32

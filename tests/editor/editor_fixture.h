@@ -54,8 +54,6 @@ protected:
         ASSERT_NE(page, nullptr);
         record = (T_WINEDIT_HANDLER *)page->user_data;
         gadgets = FindGadgetHandler(page);
-        if (!record->head.paint)  // until the page window hooks the painter in itself
-            record->head.paint = PagePaint;
         SetActivePage(page, page);
         ISetActiveWindow(page);
         UserTurns(1);

@@ -6,11 +6,11 @@
 #include <sstream>
 #include <string>
 
+#include "editor/context_menus.h"
 #include "editor/editor_fixture.h"
+#include "editor/texts.h"
 #include "pickett.h"
 #include "shell/commands.h"
-#include "shell/menus.h"
-#include "shell/texts.h"
 #include "tenure.h"
 
 // Keys that answer the close query: Enter takes the first button, Tab moves to the next one.
