@@ -174,3 +174,42 @@ TEST_F(Catalogue, TextsAndFlags)
     t_gadget *button = CreateGadgetByTool(page, TOOL_BUTTON, &init);
     EXPECT_EQ(button->flags, (u32)(GADGET_FLAGS_BOLD | GADGET_FLAGS_SOLID));
 }
+
+// The reader's way from a type and its flags back to a tool: each tool's own gadget leads back to
+// it, GADGET_FLAGS_HORIZONTAL decides between the two sliders and the two scroll bars, and a type
+// that no tool makes has none.
+TEST_F(Catalogue, ToolOfTypeLeadsBackToTheTool)
+{
+    for (i16 tool = TOOL_FIRST; tool < TOOL_COUNT; tool++) {
+        t_gadget *g = Make(tool);
+        ASSERT_NE(g, nullptr);
+        EXPECT_EQ(ToolOfType(g->type, g->flags), tool) << tool;
+    }
+    struct {
+        u16 type;
+        u32 flags;
+        i16 tool;
+    } const rows[] = {
+        {GADGET_TYPE_SLIDER, 0, 5},         {GADGET_TYPE_SLIDER, GADGET_FLAGS_XY, 4},
+        {GADGET_TYPE_SCROLLBAR, 0, 9},      {GADGET_TYPE_SCROLLBAR, GADGET_FLAGS_XY, 10},
+        {GADGET_TYPE_BUTTON, GADGET_FLAGS_HORIZONTAL, 12},
+        {0, 0, 0},                          {GADGET_TYPE_VU_16, 0, 0},
+        {GADGET_TYPE_VU_32, 0, 0},          {GADGET_TYPE_COLOUR_BAR, 0, 0},
+        {GADGET_TYPE_COLOUR_BOX, 0, 0},     {GADGET_TYPE_COMBO, 0, 0},
+        {20, 0, 0},                         {0xFFFF, 0, 0},
+    };
+    for (const auto &r : rows)
+        EXPECT_EQ(ToolOfType(r.type, r.flags), r.tool) << r.type << " " << r.flags;
+}
+
+// What the properties dialog and the page commands look up by type comes from the type's first
+// row: the rows of one type must agree on it.
+TEST_F(Catalogue, RowsOfOneTypeAgree)
+{
+    for (i16 tool = TOOL_FIRST; tool < TOOL_COUNT; tool++) {
+        const T_CATALOGUE_ROW *row = &catalogue_rows[tool], *first = CatalogueRowOfType(row->type);
+        ASSERT_NE(first, nullptr);
+        EXPECT_EQ(row->row_mask, first->row_mask) << tool;
+        EXPECT_EQ(row->traits, first->traits) << tool;
+    }
+}
