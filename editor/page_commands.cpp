@@ -11,6 +11,7 @@
 #include "editor/context_menus.h"
 #include "editor/mouse_editing.h"
 #include "editor/undo_records.h"
+#include "page/catalogue.h"
 #include "properties/gadget_properties.h"
 
 #define TEXT_WIDTH_EXTRA 3   // room beside a gadget's text
@@ -122,7 +123,7 @@ void SizeGadgetToContents(t_Window *window, t_gadget *gadget)
     SetActiveFont(before);
 }
 
-// Sizes the marked gadgets of the types that have a text to fit, and unmarks the others, so that
+// Sizes the marked gadgets of the kinds that have a text to fit, and unmarks the others, so that
 // the marks are left on exactly the gadgets sized. Returns their number.
 static u32 SizeMarkedOnly(t_Window *window)
 {
@@ -130,17 +131,11 @@ static u32 SizeMarkedOnly(t_Window *window)
     for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
         if (!IsMarked(g))
             continue;
-        switch (g->type) {
-        case GADGET_TYPE_BUTTON:
-        case GADGET_TYPE_TEXT:
-        case GADGET_TYPE_CHECK_BOX:
-        case GADGET_TYPE_RADIOBUTTON:
+        if (GadgetKindHas(g->type, KIND_SIZES_TO_CONTENTS)) {
             SizeGadgetToContents(window, g);
             sized++;
-            break;
-        default:  // other types keep their size
+        } else {  // other kinds keep their size
             g->live_flags &= ~GADGET_MARK_SELECTED;
-            break;
         }
     }
     return sized;

@@ -9,6 +9,7 @@
 #include <string.h>
 
 #include "editor/page_commands.h"
+#include "page/catalogue.h"
 #include "properties/action_editor.h"
 #include "properties/dialog_support.h"
 #include "properties/texts.h"
@@ -63,28 +64,6 @@ static const T_PROPERTY_ROW property_rows[] = {
     {0, TXT_BACK_COLOUR, GADGET_TYPE_COLOUR_FLAT, "Colour", PROP_ITEM_BACK_COLOUR, 8, 32, 0, FIELD_BACK_COLOUR, GADGET_FLAGS_BOLD},
 };
 
-// The flag rows each type shows, beside none for the types not here.
-typedef struct T_ROW_MASK {
-    u16 type;
-    u32 row_mask;
-} T_ROW_MASK;
-
-//  type                        row_mask
-static const T_ROW_MASK row_masks[] = {
-    {GADGET_TYPE_BUTTON, 0x30FF32B},
-    {GADGET_TYPE_SLIDER, 0x3060D2B},
-    {GADGET_TYPE_CHECK_BOX, 0x302D30B},
-    {GADGET_TYPE_DROP_BOX, 0x30AF32B},
-    {GADGET_TYPE_TEXT, 0x30AD30B},
-    {GADGET_TYPE_LIST_BOX, 0x30ACD2B},
-    {GADGET_TYPE_GROUP, 0x302F10B},
-    {GADGET_TYPE_STRING, 0x382D32B},
-    {GADGET_TYPE_RADIOBUTTON, 0x306D30B},
-    {GADGET_TYPE_COLOUR_FLAT, 0x30A010B},
-    {GADGET_TYPE_TREE, 0x302C12B},
-    {GADGET_TYPE_SCROLLBAR, 0x3020D0B},
-};
-
 static const T_DIALOG_FRAME properties_frame = {
     TXT_GADGET_PROPERTIES, 0, 0, 240, 240, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
     IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL |
@@ -93,10 +72,8 @@ static const T_DIALOG_FRAME properties_frame = {
 
 u32 GadgetRowMask(u16 type)
 {
-    for (const T_ROW_MASK &row : row_masks)
-        if (row.type == type)
-            return row.row_mask;
-    return 0;
+    const T_CATALOGUE_ROW *row = CatalogueRowOfType(type);
+    return row ? row->row_mask : 0;
 }
 
 void SetGadgetFlagBit(t_gadget *gadget, u32 bit, int on)

@@ -47,6 +47,6 @@ void BuildGadgetProperties(t_Gaget_Handler *handler, T_GADGET_PROPERTIES *record
 t_gadget *AddFlagRow(t_Gaget_Handler *handler, T_GADGETOBJECTINIT *init, u32 bit, u32 flags);
 // The one place where a property bit changes: in `flags` and `live_flags` together.
 void SetGadgetFlagBit(t_gadget *gadget, u32 bit, int on);
-// The flag rows a type shows; 0 for a type without any.
+// The flag rows a type shows, from its kind's catalogue row; 0 for a type without any.
 u32 GadgetRowMask(u16 type);
 void EditGadgetColour(t_Window *window, T_GADGET_PROPERTIES *record, u32 msg, int index, const char *title);

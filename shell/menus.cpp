@@ -6,6 +6,7 @@
 #include <string.h>
 
 #include "editor/context_menus.h"
+#include "page/catalogue.h"
 #include "shell/commands.h"
 #include "shell/main_window.h"
 
@@ -72,26 +73,6 @@ static const T_MENU_ROW main_menu_table[] = {
     {ROW_ENTRY, "About", ITEM_ABOUT, 'A'},
 };
 
-//  label                   icon  item code
-const T_TOOL_ROW tool_table[] = {
-    {"Selector", 3, 0xF000},
-    {"Checkbox", 0, 0xF001},
-    {"Listbox", 2, 0xF002},
-    {"Radio button", 4, 0xF003},
-    {"Vertical Slider", 5, 0xF004},
-    {"Horizontal Slider", 15, 0xF00D},
-    {"Text", 6, 0xF005},
-    {"String entry", 7, 0xF006},
-    {"Tree", 9, 0xF007},
-    {"Horizontal scrollbar", 10, 0xF008},
-    {"Vertical scrollbar", 11, 0xF009},
-    {"Group", 12, 0xF00A},
-    {"Button", 13, 0xF00B},
-    {"Dropbox", 14, 0xF00C},
-};
-
-const u32 tool_count = sizeof(tool_table) / sizeof(tool_table[0]);
-
 void BuildMainMenus(t_Window *main_window, T_APPLICATION *application)
 {
     T_MENU_HANDLER *handler = NewMenuHandler(main_window);
@@ -149,8 +130,9 @@ t_Window *CreateGadgetToolBar(t_Window *main_window)
 {
     T_TOOLBAR_HANDLER *toolbar = NewToolBar(main_window, "qftoolbar");
     toolbar->window->extra_flags &= ~TOOLBAR_EXTRA_ENDING;
-    for (u32 i = 0; i < tool_count; i++)
-        AddToolBarIcon(toolbar, tool_table[i].label, tool_table[i].icon, tool_table[i].item_code);
+    // The catalogue's rows in order, while they have a label: a button's place is its tool index.
+    for (const T_CATALOGUE_ROW *row = catalogue_rows; row < catalogue_rows + TOOL_COUNT && row->label; row++)
+        AddToolBarIcon(toolbar, row->label, row->icon, row->item_code);
     return toolbar->window;
 }
 

@@ -17,14 +17,3 @@
 void BuildMainMenus(t_Window *main_window, T_APPLICATION *application);
 void RefreshMainMenus(t_Window *main_window, T_WINEDIT_HANDLER *record);
 t_Window *CreateGadgetToolBar(t_Window *main_window);
-
-// The toolbar's table: label, icon of the application's bank, item code; a row's place is its
-// tool index.
-typedef struct T_TOOL_ROW {
-    const char *label;
-    u16 icon;
-    u32 item_code;
-} T_TOOL_ROW;
-
-extern const T_TOOL_ROW tool_table[];
-extern const u32 tool_count;

@@ -55,9 +55,6 @@ u32 FieldValue(const char *line, int n);
 const char *NextNameToken(const char *text, char *token);
 u32 ReadNameList(const char *line, const T_VAL2STRING *table);
 
-// The tool that makes a gadget of this type and flags, 0 for none.
-i16 ToolOfType(u16 type, u32 flags);
-
 // Opens a page from its file: refuses a file already open, reads it, repairs duplicate item codes
 // and numbers the tab order. Null (after a message box) when nothing was opened.
 t_Window *OpenPageFile(t_Window *main_window, const char *path);

@@ -321,44 +321,6 @@ static int ParseGadgetLine(const char *line, T_GADGETOBJECTINIT *init, T_GADGET_
     return 1;
 }
 
-//  type                       tool   (0: no tool; sliders and scroll bars go by orientation)
-static const i16 tool_of_type[] = {
-    0,   // 0
-    12,  // 1 button
-    -1,  // 2 slider: 4 horizontal, else 5
-    0,   // 3 VU 16
-    0,   // 4 VU 32
-    1,   // 5 check box
-    13,  // 6 drop box
-    6,   // 7 text
-    2,   // 8 list box
-    11,  // 9 group
-    7,   // 10 string
-    3,   // 11 radio button
-    14,  // 12 colour flat
-    0,   // 13 colour bar
-    0,   // 14 colour box
-    17,  // 15 user
-    8,   // 16 tree
-    15,  // 17 texture
-    -2,  // 18 scroll bar: 10 horizontal, else 9
-    0,   // 19 combo
-    0,   // 20
-    16,  // 21 scene
-};
-
-i16 ToolOfType(u16 type, u32 flags)
-{
-    if (type >= sizeof(tool_of_type) / sizeof(tool_of_type[0]))
-        return 0;
-    i16 tool = tool_of_type[type];
-    if (tool == -1)
-        return (flags & GADGET_FLAGS_HORIZONTAL) ? 4 : 5;
-    if (tool == -2)
-        return (flags & GADGET_FLAGS_HORIZONTAL) ? 10 : 9;
-    return tool;
-}
-
 const char *ReadGadgetsFromFile(t_Window *window, const char *position, const char *end, T_READING *reading)
 {
     T_GADGET_BLOCK block;

@@ -12,7 +12,7 @@
 // A page of `count` gadgets of several kinds, all marked.
 static t_Window *MarkedPage(T_HARNESS *h, i64 count)
 {
-    static const i16 tools[] = {12, 1, 6, 7, 4, 13};  // button, check box, text, string, slider, drop box
+    static const i16 tools[] = {TOOL_BUTTON, TOOL_CHECK_BOX, TOOL_TEXT, TOOL_STRING, TOOL_SLIDER_H, TOOL_DROP_BOX};
     t_Window *page = CreatePageWindow(h->main_window, (char *)"Bench", 0x7C, 10, 60, 1200, 760);
     for (i64 i = 0; i < count; i++) {
         T_GADGETOBJECTINIT init;

@@ -58,7 +58,7 @@ static void BM_CreateGadgets(benchmark::State &state)
         for (i64 i = 0; i < count; i++) {
             init.x = (i16)(i % 1000);
             init.y = (i16)(i % 600);
-            CreateGadgetByTool(page, 12, &init);
+            CreateGadgetByTool(page, TOOL_BUTTON, &init);
         }
         state.PauseTiming();
         HarnessStop(&h, 0);
@@ -80,7 +80,7 @@ static t_Window *SelectedPage(T_HARNESS *h, i64 count)
     for (i64 i = 0; i < count; i++) {
         init.x = (i16)(i % 36 * 32);
         init.y = (i16)(i / 36 % 40 * 17);
-        CreateGadgetByTool(page, 12, &init);
+        CreateGadgetByTool(page, TOOL_BUTTON, &init);
     }
     for (t_gadget *g = FindGadgetHandler(page)->first_gadget; g->next; g = g->next)
         g->live_flags |= GADGET_MARK_SELECTED;

@@ -17,7 +17,8 @@ namespace {
 // through all of them, and a tenth of the item codes doubled, written by the editor itself.
 std::string WriteLargePage(T_HARNESS *h, u32 count)
 {
-    static const i16 tools[] = {12, 7, 6, 1, 3, 4, 13, 2};
+    static const i16 tools[] = {TOOL_BUTTON,       TOOL_STRING,   TOOL_TEXT,     TOOL_CHECK_BOX,
+                                TOOL_RADIO_BUTTON, TOOL_SLIDER_H, TOOL_DROP_BOX, TOOL_LIST_BOX};
     t_Window *page = CreatePageWindow(h->main_window, (char *)"Large Page", 0x7C, 10, 60, 1200, 760);
     T_GADGETOBJECTINIT init;
     memset(&init, 0, sizeof(init));

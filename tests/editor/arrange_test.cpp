@@ -131,7 +131,7 @@ static std::vector<std::string> Statements(const std::string &text, const char *
 // the saved file shows the new codes, and its tab links still run through the same gadgets.
 TEST_F(ArrangeTest, ReorderedCodesAndTheirTabLinksAreSaved)
 {
-    t_gadget *g[4] = {Make(TOOL_BUTTON, 10, 10, 40, 20), Make(11 /* group */, 0, 40, 200, 100),
+    t_gadget *g[4] = {Make(TOOL_BUTTON, 10, 10, 40, 20), Make(TOOL_GROUP, 0, 40, 200, 100),
                       Make(TOOL_CHECK_BOX, 10, 60, 60, 16), Make(TOOL_TEXT, 10, 90, 60, 16)};
     snprintf((char *)g[0]->user_data, 256, "First");
     snprintf((char *)g[2]->user_data, 256, "Third");

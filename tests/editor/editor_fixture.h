@@ -18,14 +18,6 @@
 #include "tests/editor/page_invariants.h"
 #include "tests/harness/harness.h"
 
-// The catalogue's tools used here.
-#define TOOL_CHECK_BOX 1
-#define TOOL_RADIO 3
-#define TOOL_SLIDER_H 4
-#define TOOL_SLIDER_V 5
-#define TOOL_TEXT 6
-#define TOOL_BUTTON 12
-
 // Main window commands.
 #define COMMAND_UNDO 263
 #define COMMAND_REDO 264

@@ -69,7 +69,7 @@ TEST_F(CommandTest, SizeToContentsFitsTheTextInTheSystemFont)
     } const cases[] = {
         {TOOL_CHECK_BOX, 0, "New Checkbox", 1, 0},
         {TOOL_CHECK_BOX, GADGET_FLAGS_ICON, "New Checkbox", 1, 1},
-        {TOOL_RADIO, 0, "New Radio button", 1, 0},
+        {TOOL_RADIO_BUTTON, 0, "New Radio button", 1, 0},
         {TOOL_BUTTON, 0, "New Button", 0, 0},
         {TOOL_TEXT, GADGET_FLAGS_ICON, "New Text", 0, 1},
     };

@@ -173,7 +173,7 @@ TEST_F(PageTest, RepaintLeavingCoveredBackgroundsShowsTheSame)
 TEST_F(PageTest, DragStepRepaintsOnlyRoundTheMovedGadgetsAndShowsTheSame)
 {
     std::vector<t_gadget *> made;
-    for (u16 tool = TOOL_FIRST; tool <= TOOL_LAST; tool++)
+    for (u16 tool = TOOL_FIRST; tool < TOOL_COUNT; tool++)
         made.push_back(Make(tool, (i16)(10 + (tool - 1) % 4 * 100), (i16)(10 + (tool - 1) / 4 * 60), 80, 40));
     made[5]->live_flags |= GADGET_FLAGS_FROM_RIGHT | GADGET_FLAGS_FROM_BOTTOM;
     RecalcUserSize(page);

@@ -33,7 +33,7 @@ TEST_F(PreviewTest, APreviewBehavesAsTheProgramAndLeavesThePageAlone)
 {
     t_gadget *label = Make(TOOL_TEXT, 10, 10, 80, 16);
     t_gadget *button = Make(TOOL_BUTTON, 10, 30, 80, 24);
-    t_gadget *field = Make(7 /* string */, 10, 60, 160, 20);
+    t_gadget *field = Make(TOOL_STRING, 10, 60, 160, 20);
     t_gadget *box = Make(TOOL_CHECK_BOX, 10, 90, 100, 16);
     t_gadget *slider = Make(TOOL_SLIDER_H, 10, 120, 160, 20);
     // The tab order: the box, the field, the slider, the button.

@@ -12,7 +12,6 @@
 
 namespace {
 
-#define TOOL_FLAT_COLOUR 14
 #define ITEM_DISABLED 1
 #define ITEM_SOLID 6
 #define ITEM_BOLD 15

@@ -91,16 +91,16 @@ TEST_F(Catalogue, EachToolMakesItsTypeWithItsDefaults)
 
 TEST_F(Catalogue, ItemCodes)
 {
-    t_gadget *group = Make(11);
+    t_gadget *group = Make(TOOL_GROUP);
     EXPECT_EQ(group->item_code, 0u);
-    t_gadget *first = Make(12);
+    t_gadget *first = Make(TOOL_BUTTON);
     EXPECT_EQ(first->item_code, 1u);  // the group's 0 takes no number
-    t_gadget *second = Make(12);
-    t_gadget *third = Make(12);
+    t_gadget *second = Make(TOOL_BUTTON);
+    t_gadget *third = Make(TOOL_BUTTON);
     EXPECT_EQ(second->item_code, 2u);
     EXPECT_EQ(third->item_code, 3u);
     SetGadgetItemCode(page, third, 4);
-    EXPECT_EQ(Make(1)->item_code, 3u);  // 1, 2, 4 in use
+    EXPECT_EQ(Make(TOOL_CHECK_BOX)->item_code, 3u);  // 1, 2, 4 in use
     t_Gaget_Handler *gh = FindGadgetHandler(page);
     EXPECT_EQ(NextFreeItemCode(gh->first_gadget), 5u);
 }
@@ -140,9 +140,9 @@ TEST_F(Catalogue, SlidersFollowTheirOrientation)
 
 TEST_F(Catalogue, SampleEntries)
 {
-    t_gadget *list = Make(2);
-    t_gadget *drop = Make(13);
-    t_gadget *tree = Make(8);
+    t_gadget *list = Make(TOOL_LIST_BOX);
+    t_gadget *drop = Make(TOOL_DROP_BOX);
+    t_gadget *tree = Make(TOOL_TREE);
     EXPECT_EQ(CountEntries(&((T_LIST_DATA *)list->class_data)->entries), 16u);
     EXPECT_EQ(CountEntries(&((T_LIST_DATA *)drop->class_data)->entries), 10u);
     EXPECT_EQ(CountEntries(&((T_LIST_DATA *)tree->class_data)->entries), 584u);
@@ -157,10 +157,10 @@ TEST_F(Catalogue, SampleEntries)
 
 TEST_F(Catalogue, TextsAndFlags)
 {
-    t_gadget *text = Make(6);
+    t_gadget *text = Make(TOOL_TEXT);
     EXPECT_EQ(text->live_flags & GADGET_FLAGS_PASSIVE, 0u);
     EXPECT_EQ(text->flags, (u32)GADGET_FLAGS_NO_BORDER);
-    t_gadget *string = Make(7);
+    t_gadget *string = Make(TOOL_STRING);
     EXPECT_STREQ((const char *)string->user_data, "String Gadget");
     EXPECT_STREQ(string->name, "My String");
     // A tree takes none of the caller's flags.
@@ -169,8 +169,47 @@ TEST_F(Catalogue, TextsAndFlags)
     init.base_width = 100;
     init.base_height = 100;
     init.flags = GADGET_FLAGS_BOLD | GADGET_FLAGS_SOLID;
-    t_gadget *tree = CreateGadgetByTool(page, 8, &init);
+    t_gadget *tree = CreateGadgetByTool(page, TOOL_TREE, &init);
     EXPECT_EQ(tree->flags & (GADGET_FLAGS_BOLD | GADGET_FLAGS_SOLID), 0u);
-    t_gadget *button = CreateGadgetByTool(page, 12, &init);
+    t_gadget *button = CreateGadgetByTool(page, TOOL_BUTTON, &init);
     EXPECT_EQ(button->flags, (u32)(GADGET_FLAGS_BOLD | GADGET_FLAGS_SOLID));
+}
+
+// The reader's way from a type and its flags back to a tool: each tool's own gadget leads back to
+// it, GADGET_FLAGS_HORIZONTAL decides between the two sliders and the two scroll bars, and a type
+// that no tool makes has none.
+TEST_F(Catalogue, ToolOfTypeLeadsBackToTheTool)
+{
+    for (i16 tool = TOOL_FIRST; tool < TOOL_COUNT; tool++) {
+        t_gadget *g = Make(tool);
+        ASSERT_NE(g, nullptr);
+        EXPECT_EQ(ToolOfType(g->type, g->flags), tool) << tool;
+    }
+    struct {
+        u16 type;
+        u32 flags;
+        i16 tool;
+    } const rows[] = {
+        {GADGET_TYPE_SLIDER, 0, 5},         {GADGET_TYPE_SLIDER, GADGET_FLAGS_XY, 4},
+        {GADGET_TYPE_SCROLLBAR, 0, 9},      {GADGET_TYPE_SCROLLBAR, GADGET_FLAGS_XY, 10},
+        {GADGET_TYPE_BUTTON, GADGET_FLAGS_HORIZONTAL, 12},
+        {0, 0, 0},                          {GADGET_TYPE_VU_16, 0, 0},
+        {GADGET_TYPE_VU_32, 0, 0},          {GADGET_TYPE_COLOUR_BAR, 0, 0},
+        {GADGET_TYPE_COLOUR_BOX, 0, 0},     {GADGET_TYPE_COMBO, 0, 0},
+        {20, 0, 0},                         {0xFFFF, 0, 0},
+    };
+    for (const auto &r : rows)
+        EXPECT_EQ(ToolOfType(r.type, r.flags), r.tool) << r.type << " " << r.flags;
+}
+
+// What the properties dialog and the page commands look up by type comes from the type's first
+// row: the rows of one type must agree on it.
+TEST_F(Catalogue, RowsOfOneTypeAgree)
+{
+    for (i16 tool = TOOL_FIRST; tool < TOOL_COUNT; tool++) {
+        const T_CATALOGUE_ROW *row = &catalogue_rows[tool], *first = CatalogueRowOfType(row->type);
+        ASSERT_NE(first, nullptr);
+        EXPECT_EQ(row->row_mask, first->row_mask) << tool;
+        EXPECT_EQ(row->traits, first->traits) << tool;
+    }
 }

@@ -16,8 +16,6 @@
 #include "source/open_page.h"
 #include "source/source_writer.h"
 
-#define TOOL_FLAT_COLOUR 14
-#define TOOL_TEXTURE 15
 #define DIALOG_CHECK_MASK (QUAL_CONTROL)
 
 class PropertiesTest : public PageTest {

@@ -7,7 +7,6 @@
 #include "lumora/lumora_internal.h"
 #include "tests/shell/shell_fixture.h"
 
-#define TOOL_BUTTON 12
 #define SELECTOR_FOLDER_FIELD 1  // the file selector's own item codes
 #define SELECTOR_NAME_FIELD 3
 

@@ -5,7 +5,6 @@
 #include "knobkit/knobkit_internal.h"
 #include "tests/shell/shell_fixture.h"
 
-#define TOOL_BUTTON 12
 #define KEYBOARD_TITLE "Keyboard"
 #define KEYBOARD_LIST 1
 

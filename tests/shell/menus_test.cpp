@@ -4,7 +4,6 @@
 
 #include "tests/shell/shell_fixture.h"
 
-#define TOOL_BUTTON 12
 #define SEP 0  // a separator's item code
 
 #define F10 (KEY_F1 + 9)

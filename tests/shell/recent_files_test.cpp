@@ -6,8 +6,6 @@
 
 #include "tests/shell/shell_fixture.h"
 
-#define TOOL_BUTTON 12
-
 class RecentFilesTest : public ShellTest {
 protected:
     std::string folder;

@@ -13,7 +13,6 @@
 #include "editor/page_window.h"
 #include "tests/shell/shell_fixture.h"
 
-#define TOOL_BUTTON 12
 #define SAVE_ERROR_TITLE "Document Save error"
 
 namespace {

@@ -12,8 +12,6 @@
 
 #include "tests/shell/shell_fixture.h"
 
-#define TOOL_BUTTON 12
-
 // A nested wait that never returned would hang the suite: the watchdog fails the test instead.
 static void WatchdogFired(int)
 {

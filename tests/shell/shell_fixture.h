@@ -11,6 +11,7 @@
 
 #include "display/display.h"
 #include "lumora/menu_internal.h"
+#include "page/catalogue.h"
 #include "shell/commands.h"
 #include "shell/main_window.h"
 #include "shell/menus.h"
