@@ -58,7 +58,7 @@ const T_PAGE_FIELD window_fields[] = {
     {WININIT("y"),         FIELD_DECIMAL,     3, FROM_OBJECT, 0,                  WREC(y),              WIN(y),           0,            0,                   NULL,               NULL},
     {WININIT("w"),         FIELD_DECIMAL,     4, FROM_OBJECT, 0,                  WREC(w),              WIN(w),           0,            0,                   NULL,               NULL},
     {WININIT("h"),         FIELD_DECIMAL,     5, FROM_OBJECT, 0,                  WREC(h),              WIN(h),           0,            0,                   NULL,               NULL},
-    // The word stands in "win_init.icon_bank=NULL;" too, which so reads as an icon of 0.
+    // The word stands in the icon bank's statement too, which so reads as an icon of 0.
     {WININIT("icon"),      FIELD_DECIMAL,     6, FROM_OBJECT, 0,                  WREC(icon),           WIN(icon),        0,            0,                   NULL,               NULL},
     {WININIT("idcmp"),     FIELD_NAMES,       7, FROM_OBJECT, 0,                  WREC(idcmp),          WIN(idcmp),       0,            0,                   idcmp_names,        NULL},
     {WININIT("bitmap"),    FIELD_RESOURCE,    8, FROM_OBJECT, 0,                  WREC(bitmap),         WIN(bitmap),      0,            0,                   NULL,               NULL},

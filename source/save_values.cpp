@@ -1,7 +1,6 @@
 // The writer's statements and value forms: a row of the field tables with its value as decimal,
 // hexadecimal, name list or text; the WINDOW block's statements; and where the writer's text goes:
 // the file being saved, or a text being gathered (the clipboard's blocks).
-#include <stdio.h>
 #include <string.h>
 
 #include "source/source_format.h"
