@@ -57,12 +57,14 @@ u32 ReadGadgetBlocks(t_Window *window, const char *text, u32 length, T_GADGET_MA
     T_READING reading;
     memset(&reading, 0, sizeof(reading));
     reading.window = window;
+    reading.source = SRC_READ_CLIPBOARD;
     BeginGadgetBlocks();
     const char *position = text, *end = text + length;
     char line[READER_LINE_SIZE];
     u32 blocks = 0;
     while (u32 used = ReadLine(line, position, end)) {
         position += used;
+        reading.lines_read++;  // so that the log names the line
         if (!StartsGadgetBlock(line))
             continue;
         blocks++;

@@ -6,6 +6,7 @@
 #include <string.h>
 
 #include "source/hand_written.h"
+#include "source/page_fields.h"
 #include "source/source_format.h"
 
 // A form of the writer's lines: the line begins with `head` and, when `tail` isn't null, ends with
@@ -49,19 +50,9 @@ static const T_WRITER_FORM writer_forms[] = {
     {"ClearGadInit;", NULL},
     {"ClearWinInit;", NULL},
     {"wh=FindWindowHandler();", NULL},
-    {"win_init.message=", "Msg;"},
-    {"win_init.icon_bank=NULL;", NULL},
-    {"win_init.bitmap=NULL;", NULL},
     {"win=ICreateWindow(\"", "\");"},
     {"gh=(T_GADGET_HANDLER *)NewGadgetHandler(win);", NULL},
     {"mh=NewMenuHandler(win);", NULL},
-    {"gadinit.hover_text=NULL;", NULL},
-    {"gadinit.font=NULL;", NULL},
-    {"gadinit.data=&PutStringName;", NULL},
-    {"gadinit.max=STRINGS_MAX_SIZE;", NULL},
-    {"gadinit.data=&cb;", NULL},
-    {"gadinit.data=&tg;", NULL},
-    {"gadinit.data=&sg;", NULL},
     {"gad=CreateGadget(\"", "\");"},
     {"SetGadgetColours(gad,", ");"},
 };
@@ -75,7 +66,7 @@ static int WriterLine(const char *line)
     size_t length = strlen(line);
     while (length && (line[length - 1] == ' ' || line[length - 1] == '\t' || line[length - 1] == '\r'))
         length--;
-    if (!length)
+    if (!length || IsFixedFieldLine(line, length))  // the field tables' own forms
         return 1;
     for (const T_WRITER_FORM &form : writer_forms) {
         size_t head = strlen(form.head);

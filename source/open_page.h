@@ -10,11 +10,32 @@
 
 // The reading record, one for each file, handed down through all levels of the reader.
 typedef struct T_READING {
-    t_Window *window;  // the page window once it exists
+    const char *source;  // the file's path, or what else the text comes from; named in the log
+    t_Window *window;    // the page window once it exists
     u8 *line_map;      // a byte per line, 1 for a line the reader didn't take; 2 bytes per line
     u32 lines_read;
     u32 lines_total;
 } T_READING;
+
+// What the reader's log lines name as the text read.
+static inline const char *ReadingSource(const T_READING *reading)
+{
+    return reading->source ? reading->source : "";
+}
+
+// What a WINDOW block said, gathered until the window is made.
+typedef struct T_WINDOW_READ {
+    T_WINDOWOBJINIT init;  // the bitmap points into `bitmap`, or is null
+    char bitmap[READER_NAME_SIZE];
+    u32 colour;  // 0xFFFFFFFF: none
+} T_WINDOW_READ;
+
+// What a GADGET block said beside the gadget record, which doesn't stay for the next block.
+typedef struct T_GADGET_BLOCK {
+    char name[READER_NAME_SIZE];
+    u32 colours[2];
+    int has_colours;
+} T_GADGET_BLOCK;
 
 // What the declarations of the PAGE block's head said.
 typedef struct T_DECLARATIONS {
@@ -44,6 +65,10 @@ int MatchClearLine(T_DECLARATIONS *declarations, const char *line);
 
 const char *ReadWindowBlock(t_Window *parent, const char *position, const char *end, T_READING *reading);
 const char *ReadGadgetsFromFile(t_Window *window, const char *position, const char *end, T_READING *reading);
+// The statements of a block: true when a word of the field table decided the line, whose value
+// then went into the record.
+int ParseWindowLine(const char *line, T_WINDOW_READ *window);
+int ParseGadgetLine(const char *line, T_GADGETOBJECTINIT *init, T_GADGET_BLOCK *block);
 // Clears the gadget record for GADGET blocks read outside a page file, as ReadWindowBlock does for
 // those of a file.
 void BeginGadgetBlocks(void);

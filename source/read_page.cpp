@@ -89,7 +89,7 @@ const char *ReadPageBody(t_Window *parent, const char *position, const char *end
             if (LineHasWord(line, SRC_WORD_WINDOW))
                 position = ReadWindowBlock(parent, position, end, reading);
             else
-                myprintf(0, "\nOpenPage error, no window marker found");
+                myprintf(0, SRC_READ_NO_WINDOW_MARKER, ReadingSource(reading), (unsigned)reading->lines_read);
         }
         if (!MatchDeclaration(declarations, line) && !MatchClearLine(declarations, line))
             MarkForeign(reading, reading->lines_read - 1);
@@ -134,6 +134,7 @@ t_Window *OpenPage(t_Window *parent, const char *path)
 
     T_READING reading;
     memset(&reading, 0, sizeof(reading));
+    reading.source = path;
     reading.lines_total = CountLines(data, end);
     reading.line_map = (u8 *)AllocMemC(reading.lines_total * 2);
     myprintf(3, "Lines in file %s : %d", path, (int)reading.lines_total);
@@ -147,7 +148,7 @@ t_Window *OpenPage(t_Window *parent, const char *path)
         else if (LineHasWord(line, SRC_WORD_PAGE))
             position = ReadPageBody(parent, position, end, &reading, &declarations);
         else
-            myprintf(0, "\nOpenPage error, no page marker found");
+            myprintf(0, SRC_READ_NO_PAGE_MARKER, ReadingSource(&reading), (unsigned)reading.lines_read);
     }
     FreeMem(data, size);
 

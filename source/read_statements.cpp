@@ -8,6 +8,7 @@
 #include "page/catalogue.h"
 #include "source/name_tables.h"
 #include "source/open_page.h"
+#include "source/page_fields.h"
 #include "source/source_format.h"
 
 // The gadget record of a read: cleared once per read, so each block starts with what the blocks
@@ -110,213 +111,54 @@ static void ReadNameLine(const char *line, char *name)
     name[length] = '\0';
 }
 
-typedef struct T_WINDOW_READ {
-    T_WINDOWOBJINIT init;
-    char bitmap[READER_NAME_SIZE];
-    int has_bitmap;
-    u32 colour;  // 0xFFFFFFFF: none
-} T_WINDOW_READ;
-
-// The statement words of a block, in the order in which they decide when a line holds several.
-typedef struct T_STATEMENT_WORD {
-    const char *word;
-    u8 length;
-    u8 statement;
-} T_STATEMENT_WORD;
-
-#define WORD(text) text, (u8)(sizeof(text) - 1)
-
-// Which word of `words` decides the line: the first in table order that the line holds anywhere.
-// The words that begin with `prefix` are found from the prefix's places in the line, so that a line
-// is searched once for the prefix and once for each word without it; -1 when none.
-static int DecidingWord(const char *line, const T_STATEMENT_WORD *words, int count, const char *prefix)
+// Reads the value of `field` from `line` into its place in `record`; a text goes into `text`, of
+// `size` bytes, and the record points at it.
+static void ReadField(const T_PAGE_FIELD *field, const char *line, void *record, char *text, size_t size)
 {
-    if (!line[0])
-        return -1;
-    size_t prefix_length = strlen(prefix);
-    int best = -1;
-    for (const char *at = strstr(line, prefix); at; at = strstr(at + 1, prefix)) {
-        const char *rest = at + prefix_length;
-        for (int i = 0; i < count && (best < 0 || i < best); i++) {
-            const char *tail = words[i].word + prefix_length;
-            if (words[i].length > prefix_length && tail[0] == rest[0] &&
-                memcmp(words[i].word, prefix, prefix_length) == 0 &&
-                strncmp(rest, tail, words[i].length - prefix_length) == 0)
-                best = i;
-        }
+    switch (field->kind) {
+    case FIELD_NAMES:  // a name list; a type is read as one too
+    case FIELD_TYPE:
+        StorePlaceValue(record, field->record, ReadNameList(line, field->names));
+        break;
+    case FIELD_TEXT:  // a quoted text, or none
+    case FIELD_RESOURCE:
+        StorePlacePointer(record, field->record, ReadQuotedValue(line, text, size) ? text : NULL);
+        break;
+    default: {  // a number, cut to its place; some to a signed 16-bit value first
+        i64 value = FieldValue(line, 1);
+        if (field->flags & FIELD_CUT16)
+            value = (i16)value;
+        StorePlaceValue(record, field->record, value);
+        break;
     }
-    for (int i = 0; i < count && (best < 0 || i < best); i++)
-        if (strncmp(words[i].word, prefix, prefix_length) != 0 && strstr(line, words[i].word))
-            best = i;
-    return best;
+    }
 }
 
-enum { WIN_FLAGS, WIN_X, WIN_Y, WIN_W, WIN_H, WIN_ICON, WIN_IDCMP, WIN_BITMAP, WIN_COLOUR };
-
-//  word                  statement
-static const T_STATEMENT_WORD window_words[] = {
-    {WORD("win_init.flags"), WIN_FLAGS},
-    {WORD("win_init.x"), WIN_X},
-    {WORD("win_init.y"), WIN_Y},
-    {WORD("win_init.w"), WIN_W},
-    {WORD("win_init.h"), WIN_H},
-    {WORD("win_init.icon"), WIN_ICON},  // also "win_init.icon_bank=NULL;", which gives 0
-    {WORD("win_init.idcmp"), WIN_IDCMP},
-    {WORD("win_init.bitmap"), WIN_BITMAP},
-    {WORD("UserAreaColour"), WIN_COLOUR},
-};
-
-static int ParseWindowLine(const char *line, T_WINDOW_READ *window)
+int ParseWindowLine(const char *line, T_WINDOW_READ *window)
 {
-    int word = DecidingWord(line, window_words, (int)(sizeof(window_words) / sizeof(window_words[0])), "win_init.");
-    if (word < 0)
+    const T_PAGE_FIELD *field = DecidingField(line, &window_field_index);
+    if (!field)
         return 0;
-    switch (window_words[word].statement) {
-    case WIN_FLAGS:
-        window->init.flags = ReadNameList(line, window_flag_names);
-        break;
-    case WIN_X:
-        window->init.x = (i16)FieldValue(line, 1);
-        break;
-    case WIN_Y:
-        window->init.y = (i16)FieldValue(line, 1);
-        break;
-    case WIN_W:
-        window->init.w = (i16)FieldValue(line, 1);
-        break;
-    case WIN_H:
-        window->init.h = (i16)FieldValue(line, 1);
-        break;
-    case WIN_ICON:
-        window->init.icon = (u16)FieldValue(line, 1);
-        break;
-    case WIN_IDCMP:
-        window->init.idcmp = ReadNameList(line, idcmp_names);
-        break;
-    case WIN_BITMAP:
-        window->has_bitmap = ReadQuotedValue(line, window->bitmap, sizeof(window->bitmap));
-        break;
-    case WIN_COLOUR:
+    if (field->kind == FIELD_AREA_COLOUR)  // set on the window once it exists
         window->colour = FieldValue(line, 1);
-        break;
-    }
+    else
+        ReadField(field, line, &window->init, window->bitmap, sizeof(window->bitmap));
     return 1;
 }
 
-typedef struct T_GADGET_BLOCK {
-    char name[READER_NAME_SIZE];
-    u32 colours[2];
-    int has_colours;
-} T_GADGET_BLOCK;
-
-// A number cut to a signed 16-bit value and widened, as the reader's fields hold it.
-static i32 Cut16(u32 value)
+int ParseGadgetLine(const char *line, T_GADGETOBJECTINIT *init, T_GADGET_BLOCK *block)
 {
-    return (i32)(i16)value;
-}
-
-enum {
-    GAD_TYPE, GAD_FLAGS, GAD_X, GAD_Y, GAD_WIDTH, GAD_HEIGHT, GAD_CURSOR, GAD_ICON, GAD_ACTION, GAD_ITEM_CODE,
-    GAD_TAB0, GAD_TAB1, GAD_MARK_WIDTH, GAD_MARK_HEIGHT, GAD_MIN, GAD_MAX, GAD_STEP, GAD_INIT_VAL, GAD_COLOURS,
-    GAD_HOVER, GAD_FONT,
-};
-
-//  word                    statement
-static const T_STATEMENT_WORD gadget_words[] = {
-    {WORD("gadinit.type"), GAD_TYPE},
-    {WORD("gadinit.flags"), GAD_FLAGS},
-    {WORD("gadinit.x"), GAD_X},
-    {WORD("gadinit.y"), GAD_Y},
-    {WORD("gadinit.base_width"), GAD_WIDTH},
-    {WORD("gadinit.base_height"), GAD_HEIGHT},
-    {WORD("gadinit.cursor"), GAD_CURSOR},
-    {WORD("gadinit.icon"), GAD_ICON},
-    {WORD("gadinit.action"), GAD_ACTION},
-    {WORD("gadinit.item_code"), GAD_ITEM_CODE},
-    {WORD("gadinit.tab[0]"), GAD_TAB0},
-    {WORD("gadinit.tab[1]"), GAD_TAB1},
-    {WORD("gadinit.mark_width"), GAD_MARK_WIDTH},
-    {WORD("gadinit.mark_height"), GAD_MARK_HEIGHT},
-    {WORD("gadinit.min"), GAD_MIN},
-    {WORD("gadinit.max"), GAD_MAX},
-    {WORD("gadinit.step"), GAD_STEP},
-    {WORD("gadinit.init_val"), GAD_INIT_VAL},
-    {WORD("SetGadgetColours"), GAD_COLOURS},
-    {WORD("gadinit.hover_text"), GAD_HOVER},
-    {WORD("gadinit.font"), GAD_FONT},
-};
-
-static int ParseGadgetLine(const char *line, T_GADGETOBJECTINIT *init, T_GADGET_BLOCK *block)
-{
-    int word = DecidingWord(line, gadget_words, (int)(sizeof(gadget_words) / sizeof(gadget_words[0])), "gadinit.");
-    if (word < 0)
+    const T_PAGE_FIELD *field = DecidingField(line, &gadget_field_index);
+    if (!field)
         return 0;
-    switch (gadget_words[word].statement) {
-    case GAD_TYPE:
-        init->type = (u16)ReadNameList(line, gadget_type_names);
-        break;
-    case GAD_FLAGS:
-        init->flags = ReadNameList(line, gadget_flag_names);
-        break;
-    case GAD_X:
-        init->x = (i16)FieldValue(line, 1);
-        break;
-    case GAD_Y:
-        init->y = (i16)FieldValue(line, 1);
-        break;
-    case GAD_WIDTH:
-        init->base_width = (i16)FieldValue(line, 1);
-        break;
-    case GAD_HEIGHT:
-        init->base_height = (i16)FieldValue(line, 1);
-        break;
-    case GAD_CURSOR:
-        init->cursor = (u8)FieldValue(line, 1);
-        break;
-    case GAD_ICON:
-        init->icon = (u16)FieldValue(line, 1);
-        break;
-    case GAD_ACTION:
-        init->action = ReadNameList(line, mouse_action_names);
-        break;
-    case GAD_ITEM_CODE:
-        init->item_code = FieldValue(line, 1);
-        break;
-    case GAD_TAB0:
-        init->tab[0] = FieldValue(line, 1);
-        break;
-    case GAD_TAB1:
-        init->tab[1] = FieldValue(line, 1);
-        break;
-    case GAD_MARK_WIDTH:
-        init->mark_width = (i16)FieldValue(line, 1);
-        break;
-    case GAD_MARK_HEIGHT:
-        init->mark_height = (i16)FieldValue(line, 1);
-        break;
-    case GAD_MIN:
-        init->min = Cut16(FieldValue(line, 1));
-        break;
-    case GAD_MAX:
-        init->max = Cut16(FieldValue(line, 1));
-        break;
-    case GAD_STEP:
-        init->step = Cut16(FieldValue(line, 1));
-        break;
-    case GAD_INIT_VAL:
-        init->init_val = Cut16(FieldValue(line, 1));
-        break;
-    case GAD_COLOURS:
+    if (field->kind == FIELD_COLOURS) {  // the block's own, set on the gadget once it exists
         block->colours[0] = FieldValue(line, 1);
         block->colours[1] = FieldValue(line, 2);
         block->has_colours = 1;
-        break;
-    case GAD_HOVER:
-        init->hover_text = ReadQuotedValue(line, hover_buffer, sizeof(hover_buffer)) ? hover_buffer : NULL;
-        break;
-    case GAD_FONT:
-        init->font = ReadQuotedValue(line, font_buffer, sizeof(font_buffer)) ? font_buffer : NULL;
-        break;
+    } else if (field->kind == FIELD_TEXT) {
+        ReadField(field, line, init, hover_buffer, sizeof(hover_buffer));
+    } else {
+        ReadField(field, line, init, font_buffer, sizeof(font_buffer));
     }
     return 1;
 }
@@ -325,6 +167,7 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
 {
     T_GADGET_BLOCK block;
     memset(&block, 0, sizeof(block));
+    u32 marker_line = reading->lines_read;  // the block's start marker, counted by the caller
     char line[READER_LINE_SIZE];
     while (u32 used = ReadLine(line, position, end)) {
         position += used;
@@ -341,7 +184,7 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
         return position;
     t_gadget *gadget = CreateGadgetByTool(window, tool, &gadget_init);
     if (!gadget) {
-        myprintf(0, "ReadGadgetsFromFile: Could not create gadget %s\n", block.name);
+        myprintf(0, SRC_READ_NO_GADGET, ReadingSource(reading), (unsigned)marker_line, block.name);
         return position;
     }
     if (block.has_colours)
@@ -381,6 +224,7 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
     memset(&window, 0, sizeof(window));
     memset(&gadget_init, 0, sizeof(gadget_init));
     window.colour = 0xFFFFFFFF;
+    u32 marker_line = reading->lines_read;  // the WINDOW marker, counted by the caller
     char name[READER_NAME_SIZE] = "";
     char line[READER_LINE_SIZE];
     while (u32 used = ReadLine(line, position, end)) {
@@ -398,8 +242,8 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
     // is no page's (zero, negative, below the smallest page) makes no window, which the opening
     // tells, rather than a page that nobody could see.
     if (window.init.w < PAGE_MIN_WIDTH || window.init.h < PAGE_MIN_HEIGHT) {
-        myprintf(0, "\nOpenPage error, the window's size %dx%d is below the smallest page, %dx%d",
-                 window.init.w, window.init.h, PAGE_MIN_WIDTH, PAGE_MIN_HEIGHT);
+        myprintf(0, SRC_READ_SMALL_WINDOW, ReadingSource(reading), (unsigned)marker_line, window.init.w,
+                 window.init.h, PAGE_MIN_WIDTH, PAGE_MIN_HEIGHT);
         return position;
     }
     i16 k = (i16)(parent->cascade_index * 16);
@@ -410,7 +254,7 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
     page->idcmp = window.init.idcmp;
     if (window.colour != 0xFFFFFFFF)
         page->UserAreaColour = window.colour;
-    SetWindowBitmap(page, window.has_bitmap ? window.bitmap : NULL);
+    SetWindowBitmap(page, window.init.bitmap);
     reading->window = page;
 
     while (u32 used = ReadLine(line, position, end)) {

@@ -1,176 +1,85 @@
-// One GADGET block: the statements of a gadget, in full or left out where the block before left
-// the same value in the creation record.
-#include <stdio.h>
+// One GADGET block: the gadget's statements, from the field table, in full or left out where the
+// block before left the same value in the creation record.
 #include <string.h>
 
-#include "source/name_tables.h"
 #include "source/source_format.h"
 #include "source/source_writer.h"
 
-// A hover text or font name: written when it differs from the record's text, the record holding
-// none counting as different; "NULL" when the gadget has none and the record holds a text.
-static void SaveOptionalText(const char *before, const char *null_statement, const char *text,
-                             const char **previous, int full)
+// Where the gadget's value of `field` stands: the gadget, or the record behind its class_data (a
+// gadget without one counts as all 0); null when the statement has no turn at this gadget.
+static const void *FieldObject(const T_PAGE_FIELD *field, const t_gadget *gadget)
 {
-    if (text) {
-        if (full || !*previous || strcmp(text, *previous) != 0)
-            SaveText(before, text);
-    } else if (full || *previous) {
-        SourcePrint(null_statement);
-    }
-    *previous = text;
-}
-
-// A slider's values, each against its field of the record.
-static void SaveSliderValues(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
-{
-    static const T_SLIDER_DATA none = {};
-    const T_SLIDER_DATA *slider =
-        gadget->class_data ? (const T_SLIDER_DATA *)gadget->class_data : &none;
-    if (full || slider->min != previous->min)
-        SaveDecimal(SRC_GAD_MIN, slider->min);
-    previous->min = slider->min;
-    if (full || slider->max != previous->max)
-        SaveDecimal(SRC_GAD_MAX, slider->max);
-    previous->max = slider->max;
-    if (full || slider->step != previous->step)
-        SaveDecimal(SRC_GAD_STEP, slider->step);
-    previous->step = slider->step;
-    if (full || slider->mark_width != previous->mark_width)
-        SaveDecimal(SRC_GAD_MARK_WIDTH, slider->mark_width);
-    previous->mark_width = slider->mark_width;
-    if (full || slider->mark_height != previous->mark_height)
-        SaveDecimal(SRC_GAD_MARK_HEIGHT, slider->mark_height);
-    previous->mark_height = slider->mark_height;
-}
-
-// A scroll bar's values; its 16-bit init_val against the record's 32-bit field.
-static void SaveScrollBarValues(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
-{
-    static const T_SCROLLBAR_DATA none = {};
-    const T_SCROLLBAR_DATA *bar =
-        gadget->class_data ? (const T_SCROLLBAR_DATA *)gadget->class_data : &none;
-    if (full || bar->min != previous->min)
-        SaveDecimal(SRC_GAD_MIN, bar->min);
-    previous->min = bar->min;
-    if (full || bar->max != previous->max)
-        SaveDecimal(SRC_GAD_MAX, bar->max);
-    previous->max = bar->max;
-    i32 init_val = bar->init_val;
-    if (full || init_val != previous->init_val)
-        SaveDecimal(SRC_GAD_INIT_VAL, init_val);
-    previous->init_val = init_val;
-}
-
-// The statements of the gadget's type. The fixed ones are written in both forms and leave the
-// record alone.
-static void SaveTypeStatements(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
-{
-    switch (gadget->type) {
-    case GADGET_TYPE_SLIDER:  // range, step and mark size
-        SaveSliderValues(gadget, previous, full);
-        break;
-    case GADGET_TYPE_SCROLLBAR:  // range and value
-        SaveScrollBarValues(gadget, previous, full);
-        break;
-    case GADGET_TYPE_STRING:  // the program's text buffer and its size
-        SourcePrint(SRC_GAD_STRING_DATA);
-        break;
-    case GADGET_TYPE_COLOUR_FLAT:  // the program's colour record
-    case GADGET_TYPE_COLOUR_BAR:
-    case GADGET_TYPE_COLOUR_BOX:
-        SourcePrint(SRC_GAD_COLOUR_DATA);
-        break;
-    case GADGET_TYPE_TEXTURE:  // the program's texture record
-        SourcePrint(SRC_GAD_TEXTURE_DATA);
-        break;
-    case GADGET_TYPE_SCENE:  // the program's scene record
-        SourcePrint(SRC_GAD_SCENE_DATA);
-        break;
+    static const union {
+        T_SLIDER_DATA slider;
+        T_SCROLLBAR_DATA bar;
+    } none = {};
+    switch (field->from) {
+    case FROM_OBJECT:  // some have their turn only with a bit of live_flags
+        return !field->live_bit || (gadget->live_flags & field->live_bit) ? gadget : NULL;
+    case FROM_CLASS:  // the types whose class record holds it
+        if (gadget->type >= 32 || !(field->types & (1u << gadget->type)))
+            return NULL;
+        return gadget->class_data ? (const void *)gadget->class_data : (const void *)&none;
+    default:  // a fixed text only
+        return NULL;
     }
 }
 
+// A text: written when it differs from the record's text, the record holding none counting as
+// different; NULL when the gadget has none and the record holds a text.
+static void SaveGadgetText(const T_PAGE_FIELD *field, const char *text, T_GADGETOBJECTINIT *previous, int full)
+{
+    const char *before = (const char *)PlacePointer(previous, field->record);
+    if (text ? (full || !before || strcmp(text, before) != 0) : (full || before))
+        SaveFieldString(field, text);
+    StorePlacePointer(previous, field->record, text);
+}
+
+// One statement in its turn: a fixed text of the gadget's type, written in both forms; or the
+// gadget's value, compared with the record in the optimised form and then copied to it.
+static void SaveGadgetField(const T_PAGE_FIELD *field, t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
+{
+    const char *fixed = field->fixed ? FixedFieldText(field, gadget->type) : NULL;
+    if (fixed) {
+        SaveFieldText(field, fixed);
+        return;
+    }
+    const void *object = FieldObject(field, gadget);
+    if (!object)
+        return;
+    switch (field->kind) {
+    case FIELD_TEXT:
+        SaveGadgetText(field, (const char *)PlacePointer(object, field->object), previous, full);
+        return;
+    case FIELD_RESOURCE:  // by the resource's name
+        SaveGadgetText(field, ResourceName(PlacePointer(object, field->object)), previous, full);
+        return;
+    case FIELD_COLOURS:  // always written, and not in the record
+        SaveFieldColours(field, gadget->back_colour, gadget->text_colour);
+        return;
+    default:
+        break;
+    }
+    i64 value = PlaceValue(object, field->object);
+    if ((full || value != PlaceValue(previous, field->record)) && !SaveFieldNumber(field, value))
+        myprintf(0, "Gadget \"%s\" has type %u, which has no name; written as a number",
+                 gadget->name ? gadget->name : "", (unsigned)gadget->type);
+    StorePlaceValue(previous, field->record, value);
+}
+
+// The rows behind the line that creates the gadget close the table.
 void SaveGadget(t_gadget *gadget, T_GADGETOBJECTINIT *previous, int full)
 {
     SourcePrint(SRC_GADGET_START);
-
-    if (full || gadget->x != previous->x)
-        SaveDecimal(SRC_GAD_X, gadget->x);
-    previous->x = gadget->x;
-    if (full || gadget->y != previous->y)
-        SaveDecimal(SRC_GAD_Y, gadget->y);
-    previous->y = gadget->y;
-    if (full || gadget->base_width != previous->base_width)
-        SaveDecimal(SRC_GAD_WIDTH, gadget->base_width);
-    previous->base_width = gadget->base_width;
-    if (full || gadget->base_height != previous->base_height)
-        SaveDecimal(SRC_GAD_HEIGHT, gadget->base_height);
-    previous->base_height = gadget->base_height;
-    if (full || gadget->item_code != previous->item_code)
-        SaveHex(SRC_GAD_ITEM_CODE, gadget->item_code);
-    previous->item_code = gadget->item_code;
-    // The whole words are compared, bits without a name too.
-    if (full || gadget->flags != previous->flags)
-        SaveNames(SRC_GAD_FLAGS, gadget_flag_names, gadget->flags);
-    previous->flags = gadget->flags;
-    if (full || gadget->action != previous->action)
-        SaveNames(SRC_GAD_ACTION, mouse_action_names, gadget->action);
-    previous->action = gadget->action;
-    if (full || gadget->tab[0] != previous->tab[0])
-        SaveHex(SRC_GAD_TAB0, gadget->tab[0]);
-    previous->tab[0] = gadget->tab[0];
-    if (full || gadget->tab[1] != previous->tab[1])
-        SaveHex(SRC_GAD_TAB1, gadget->tab[1]);
-    previous->tab[1] = gadget->tab[1];
-
-    SaveOptionalText(SRC_GAD_HOVER, SRC_GAD_HOVER_NULL, gadget->hover_text,
-                     &previous->hover_text, full);
-
-    if (full || gadget->type != previous->type) {
-        const char *type_name = FindV2SByCode(gadget_type_names, gadget->type);
-        if (type_name) {
-            SourcePrint(SRC_GAD_TYPE);
-            SourcePrint(type_name);
-            SourcePrint(SRC_END_STATEMENT);
-        } else {
-            myprintf(0, "Gadget \"%s\" has type %u, which has no name; written as a number",
-                     gadget->name ? gadget->name : "", (unsigned)gadget->type);
-            SaveDecimal(SRC_GAD_TYPE, gadget->type);
+    int created = 0;
+    for (const T_PAGE_FIELD *field = gadget_fields; field->word; field++) {
+        if ((field->flags & FIELD_AFTER_CREATE) && !created) {
+            SourcePrint(SRC_GAD_CREATE);
+            SourcePrint(gadget->name ? gadget->name : "");
+            SourcePrint(SRC_GAD_CREATE_AFTER);
+            created = 1;
         }
+        SaveGadgetField(field, gadget, previous, full);
     }
-    previous->type = gadget->type;
-
-    SaveOptionalText(SRC_GAD_FONT, SRC_GAD_FONT_NULL, gadget->font ? gadget->font->name : NULL,
-                     &previous->font, full);
-
-    // The record's cursor is one byte: a number above 255 never equals it and is written at
-    // every gadget.
-    if (gadget->live_flags & GADGET_FLAGS_CURSOR) {
-        if (full || gadget->cursor != previous->cursor)
-            SaveDecimal(SRC_GAD_CURSOR, gadget->cursor);
-        previous->cursor = (u8)gadget->cursor;
-    }
-
-    // The icon in the gadget's bank counts only with the Icon flag: written then, like the cursor.
-    if (gadget->live_flags & GADGET_FLAGS_ICON) {
-        if (full || gadget->icon != previous->icon)
-            SaveDecimal(SRC_GAD_ICON, gadget->icon);
-        previous->icon = gadget->icon;
-    }
-
-    SaveTypeStatements(gadget, previous, full);
-
-    SourcePrint(SRC_GAD_CREATE);
-    SourcePrint(gadget->name ? gadget->name : "");
-    SourcePrint(SRC_GAD_CREATE_AFTER);
-
-    char colour[16];
-    SourcePrint(SRC_GAD_COLOURS);
-    snprintf(colour, sizeof(colour), SRC_HEX, (unsigned)gadget->back_colour);
-    SourcePrint(colour);
-    SourcePrint(SRC_GAD_COLOURS_JOIN);
-    snprintf(colour, sizeof(colour), SRC_HEX, (unsigned)gadget->text_colour);
-    SourcePrint(colour);
-    SourcePrint(SRC_GAD_COLOURS_AFTER);
     SourcePrint(SRC_GADGET_END);
 }

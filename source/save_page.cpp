@@ -74,26 +74,11 @@ static void SaveWindow(t_Window *window, const char *plain_name, t_Gaget_Handler
 
     SavePrint(SRC_WINDOW_START);
     SavePrint(SRC_WIN_HANDLER);
-    SaveNames(SRC_WIN_FLAGS, window_flag_names, window->flags);
-    SaveDecimal(SRC_WIN_X, window->x);
-    SaveDecimal(SRC_WIN_Y, window->y);
-    SaveDecimal(SRC_WIN_W, window->w);
-    SaveDecimal(SRC_WIN_H, window->h);
-    SaveDecimal(SRC_WIN_ICON, window->icon);
-    SaveNames(SRC_WIN_IDCMP, idcmp_names, window->idcmp);
-    if (window->bitmap)
-        SaveText(SRC_WIN_BITMAP, window->bitmap->name);
-    else
-        SavePrint(SRC_WIN_BITMAP_NULL);
-    SavePrint(SRC_WIN_MESSAGE);
-    SavePrint(plain_name);
-    SavePrint(SRC_WIN_MESSAGE_AFTER);
-    SavePrint(SRC_WIN_ICON_BANK);
+    SaveWindowStatements(window, plain_name, 0);
     SavePrint(SRC_WIN_CREATE);
     SavePrint(window->name ? window->name : "");
     SavePrint(SRC_WIN_CREATE_AFTER);
-    if (window->UserAreaColour != DISPLAY_RECORD->default_area_colour)
-        SaveHex(SRC_WIN_COLOUR, window->UserAreaColour);
+    SaveWindowStatements(window, plain_name, 1);
     if (gadget_handler)
         SavePrint(SRC_WIN_GADGET_HANDLER);
     if (has_menus)

@@ -24,7 +24,8 @@
 
 // --- Values ------------------------------------------------------------------------------------
 #define SRC_DECIMAL "%d"
-#define SRC_HEX "0x%x"
+#define SRC_HEX_PREFIX "0x"
+#define SRC_HEX SRC_HEX_PREFIX "%x"
 #define SRC_NAME_JOIN "|"
 #define SRC_NAME_NONE "0"  // a name list in which no bit had a name
 #define SRC_END_STATEMENT ";\n"
@@ -55,56 +56,25 @@
 #define SRC_DECLARE_MENUS "\tT_MENU_HANDLER *mh;\n\tT_MENU *menu;\n\tT_MENUOBJECTINIT menuinit;\n"
 #define SRC_CLEAR_INITS "\n\tClearGadInit;\n\tClearWinInit;\n"
 
-// --- WINDOW block ------------------------------------------------------------------------------
+// --- WINDOW and GADGET blocks: the lines around the statements of the field tables -----------
+// A statement is the indent, its word, "=", the value and the end of a statement; its word is in
+// the field tables (page_fields.cpp), made of the record's name and the field's.
+#define SRC_WINDOW_RECORD "win_init."
+#define SRC_GADGET_RECORD "gadinit."
+#define SRC_INDENT "\t"
+#define SRC_ASSIGN "="
+#define SRC_NULL "NULL"  // a text or a pointer that is none
+#define SRC_QUOTE "\""
+#define SRC_MESSAGE_SUFFIX "Msg"  // behind the plain name: the message function
 #define SRC_WIN_HANDLER "\twh=FindWindowHandler();\n"
-#define SRC_WIN_FLAGS "\twin_init.flags="
-#define SRC_WIN_X "\twin_init.x="
-#define SRC_WIN_Y "\twin_init.y="
-#define SRC_WIN_W "\twin_init.w="
-#define SRC_WIN_H "\twin_init.h="
-#define SRC_WIN_ICON "\twin_init.icon="
-#define SRC_WIN_IDCMP "\twin_init.idcmp="
-#define SRC_WIN_BITMAP "\twin_init.bitmap=\""
-#define SRC_WIN_BITMAP_NULL "\twin_init.bitmap=NULL;\n"
-#define SRC_WIN_MESSAGE "\twin_init.message="  // then the plain name
-#define SRC_WIN_MESSAGE_AFTER "Msg;\n"
-#define SRC_WIN_ICON_BANK "\twin_init.icon_bank=NULL;\n"
 #define SRC_WIN_CREATE "\twin=ICreateWindow(\""
 #define SRC_WIN_CREATE_AFTER "\");\n"
-#define SRC_WIN_COLOUR "\twin->UserAreaColour="
+#define SRC_WIN_OWNER "win->"  // the user area colour is set on the window once it exists
 #define SRC_WIN_GADGET_HANDLER "\tgh=(T_GADGET_HANDLER *)NewGadgetHandler(win);\n"
 #define SRC_WIN_MENU_HANDLER "\tmh=NewMenuHandler(win);\n"
-
-// --- GADGET block ------------------------------------------------------------------------------
-#define SRC_GAD_X "\tgadinit.x="
-#define SRC_GAD_Y "\tgadinit.y="
-#define SRC_GAD_WIDTH "\tgadinit.base_width="
-#define SRC_GAD_HEIGHT "\tgadinit.base_height="
-#define SRC_GAD_ITEM_CODE "\tgadinit.item_code="
-#define SRC_GAD_FLAGS "\tgadinit.flags="
-#define SRC_GAD_ACTION "\tgadinit.action="
-#define SRC_GAD_TAB0 "\tgadinit.tab[0]="
-#define SRC_GAD_TAB1 "\tgadinit.tab[1]="
-#define SRC_GAD_HOVER "\tgadinit.hover_text=\""
-#define SRC_GAD_HOVER_NULL "\tgadinit.hover_text=NULL;\n"
-#define SRC_GAD_TYPE "\tgadinit.type="
-#define SRC_GAD_FONT "\tgadinit.font=\""
-#define SRC_GAD_FONT_NULL "\tgadinit.font=NULL;\n"
-#define SRC_GAD_CURSOR "\tgadinit.cursor="
-#define SRC_GAD_ICON "\tgadinit.icon="
-#define SRC_GAD_MIN "\tgadinit.min="
-#define SRC_GAD_MAX "\tgadinit.max="
-#define SRC_GAD_STEP "\tgadinit.step="
-#define SRC_GAD_MARK_WIDTH "\tgadinit.mark_width="
-#define SRC_GAD_MARK_HEIGHT "\tgadinit.mark_height="
-#define SRC_GAD_INIT_VAL "\tgadinit.init_val="
-#define SRC_GAD_STRING_DATA "\tgadinit.data=&PutStringName;\n\tgadinit.max=STRINGS_MAX_SIZE;\n"
-#define SRC_GAD_COLOUR_DATA "\tgadinit.data=&cb;\n"
-#define SRC_GAD_TEXTURE_DATA "\tgadinit.data=&tg;\n"
-#define SRC_GAD_SCENE_DATA "\tgadinit.data=&sg;\n"
 #define SRC_GAD_CREATE "\tgad=CreateGadget(\""
 #define SRC_GAD_CREATE_AFTER "\");\n\n"
-#define SRC_GAD_COLOURS "\tSetGadgetColours(gad,"
+#define SRC_GAD_COLOURS_OPEN "(gad,"  // behind SetGadgetColours
 #define SRC_GAD_COLOURS_JOIN ","
 #define SRC_GAD_COLOURS_AFTER ");\n"
 
@@ -132,6 +102,14 @@
     "it; check the backup path in the settings."
 #define SRC_SAVE_ERROR_STYLE 16
 #define SRC_SAVE_ERROR_ITEM_CODE 208
+
+// --- What a read logs: each begins with the file (or the clipboard) and the line ------------------
+#define SRC_READ_NO_PAGE_MARKER "\n%s:%u: OpenPage error, no page marker found"
+#define SRC_READ_NO_WINDOW_MARKER "\n%s:%u: OpenPage error, no window marker found"
+// Then the window's width and height, and the smallest page's.
+#define SRC_READ_SMALL_WINDOW "\n%s:%u: OpenPage error, the window's size %dx%d is below the smallest page, %dx%d"
+#define SRC_READ_NO_GADGET "%s:%u: ReadGadgetsFromFile: Could not create gadget %s\n"  // then its name
+#define SRC_READ_CLIPBOARD "the clipboard"  // where pasted GADGET blocks come from
 
 // --- Backups -----------------------------------------------------------------------------------
 #define SRC_BACKUP_EXTENSION ".bak"

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "page/records.h"
+#include "source/page_fields.h"
 
 // Writes the page `window` to the file `path` in the form the settings choose (optimised or
 // full, type order, backup first). Changes only the tab links, and with the type order the order
@@ -34,9 +35,17 @@ void SourcePrint(const char *text);
 void BeginSourceText(std::string *text);
 void EndSourceText(void);
 
-// The statements of one value: the text before it, the value, ";\n".
-void SaveDecimal(const char *before, i32 value);
-void SaveHex(const char *before, u32 value);
-void SaveNames(const char *before, const T_VAL2STRING *table, u32 value);
-// The text between the quotes that end `before` and "\";\n", written raw.
-void SaveText(const char *before, const char *text);
+// The statements of a row of the field tables: the indent, the word, "=", the value, ";\n".
+// SaveFieldText writes `value` as it stands; SaveFieldNumber as the row's kind says (false for a
+// type without a name, written as a number); SaveFieldString between quotes, or NULL for none;
+// SaveFieldColours the two colours of SetGadgetColours.
+void SaveFieldText(const T_PAGE_FIELD *field, const char *value);
+int SaveFieldNumber(const T_PAGE_FIELD *field, i64 value);
+void SaveFieldString(const T_PAGE_FIELD *field, const char *text);
+void SaveFieldColours(const T_PAGE_FIELD *field, u32 back, u32 text);
+// The name of a font or bitmap resource, or null.
+const char *ResourceName(const void *resource);
+
+// The WINDOW block's statements of the field table: those before the line that creates the
+// window, or with `after_create` those behind it.
+void SaveWindowStatements(t_Window *window, const char *plain_name, int after_create);
