@@ -174,7 +174,7 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
         reading->lines_read++;
         if (LineHasWord(line, SRC_WORD_END))
             break;
-        if (LineHasWord(line, "CreateGadget") || LineHasWord(line, "CreateObject"))
+        if (LineHasWord(line, SRC_WORD_CREATE_GADGET) || LineHasWord(line, SRC_WORD_CREATE_OBJECT))
             ReadNameLine(line, block.name);
         else if (!ParseGadgetLine(line, &gadget_init, &block))
             MarkForeign(reading, reading->lines_read - 1);
@@ -232,7 +232,7 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
         reading->lines_read++;
         if (LineHasWord(line, SRC_WORD_END))
             break;
-        if (LineHasWord(line, "ICreateWindow") || LineHasWord(line, "CreateObject"))
+        if (LineHasWord(line, SRC_WORD_CREATE_WINDOW) || LineHasWord(line, SRC_WORD_CREATE_OBJECT))
             ReadNameLine(line, name);
         else if (!ParseWindowLine(line, &window))
             MarkForeign(reading, reading->lines_read - 1);

@@ -35,18 +35,9 @@ void SaveMessageFunction(u32 idcmp, const char *plain_name, t_Gaget_Handler *gad
     // One case for each gadget with an item code, in list order.
     SavePrint(SRC_SWITCH_ITEM);
     if (gadget_handler) {
-        char code[16];
-        for (t_gadget *g = gadget_handler->first_gadget; g->next; g = g->next) {
-            if (g->item_code == 0)
-                continue;
-            snprintf(code, sizeof(code), SRC_HEX, (unsigned)g->item_code);
-            SavePrint(SRC_CASE);
-            SavePrint(code);
-            SavePrint(SRC_CASE_COMMENT);
-            SavePrint(g->name ? g->name : "");
-            SavePrint(SRC_COMMENT_END);
-            SavePrint(SRC_BREAK);
-        }
+        for (t_gadget *g = gadget_handler->first_gadget; g->next; g = g->next)
+            if (g->item_code != 0)
+                SaveItemCase(g->item_code, g->name ? g->name : "");
     }
     SavePrint(SRC_SWITCH_END);
 

@@ -98,6 +98,16 @@ static void EndStatement(T_STATEMENT *line, const char *end)
     SourcePrint(line->text);
 }
 
+void SaveItemCase(u32 item_code, const char *name)
+{
+    T_STATEMENT line = {SRC_CASE, sizeof(SRC_CASE) - 1};
+    AppendHex(&line, item_code);
+    Append(&line, SRC_CASE_COMMENT);
+    Append(&line, name);
+    Append(&line, SRC_COMMENT_END);
+    EndStatement(&line, SRC_BREAK);
+}
+
 void SaveFieldText(const T_PAGE_FIELD *field, const char *value)
 {
     T_STATEMENT line;

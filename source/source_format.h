@@ -21,6 +21,10 @@
 #define SRC_WORD_PAGE "PAGE"
 #define SRC_WORD_WINDOW "WINDOW"
 #define SRC_WORD_GADGET "GADGET"
+// The creation calls whose lines hold a gadget's or the window's name.
+#define SRC_WORD_CREATE_GADGET "CreateGadget"
+#define SRC_WORD_CREATE_WINDOW "ICreateWindow"
+#define SRC_WORD_CREATE_OBJECT "CreateObject"
 
 // --- Values ------------------------------------------------------------------------------------
 #define SRC_DECIMAL "%d"

@@ -40,6 +40,8 @@ void EndSourceText(void);
 // type without a name, written as a number); SaveFieldString between quotes, or NULL for none;
 // SaveFieldColours the two colours of SetGadgetColours.
 void SaveFieldText(const T_PAGE_FIELD *field, const char *value);
+// The MESSAGE block's case of a gadget: its item code, its name in a comment, and the break.
+void SaveItemCase(u32 item_code, const char *name);
 int SaveFieldNumber(const T_PAGE_FIELD *field, i64 value);
 void SaveFieldString(const T_PAGE_FIELD *field, const char *text);
 void SaveFieldColours(const T_PAGE_FIELD *field, u32 back, u32 text);
