@@ -296,7 +296,7 @@ t_gadget *FindGadgetByItemCode(t_Window *window, u32 item_code) {
 t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y) {
     t_Gaget_Handler *gh = FindGadgetHandler(window);
     if (!gh) return NULL;
-    T_RPOS user = {window->user_x, window->user_y, window->user_w, window->user_h};
+    T_RPOS user = UserArea(window);
     if (!PointBoxColl(x, y, &user)) return NULL;
     for (t_Node *n = gh->gadget_list.last; n->prev; n = n->prev)
         if (t_gadget *g = HitGadget((t_gadget *)n, x, y)) return g;
@@ -409,7 +409,7 @@ void PaintGadgets(t_Window *window) {
     t_Gaget_Handler *gh = FindGadgetHandler(window);
     if (!gh) return;
     int dialog = FocusWindow() == window && DialogWindow(window);
-    T_RPOS user = {window->user_x, window->user_y, window->user_w, window->user_h};
+    T_RPOS user = UserArea(window);
     for (t_gadget *g = gh->first_gadget; g->next; g = g->next) {
         if (g->live_flags & GADGET_FLAGS_NO_DISPLAY) continue;
         T_RPOS r = GadgetRect(g);
