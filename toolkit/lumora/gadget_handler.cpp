@@ -228,6 +228,16 @@ void RecalcGadgetPosition(t_Window *window, t_gadget *g, u32 flags, i16 dx, i16 
     if (g->parent_combo || g->type == GADGET_TYPE_COMBO) PlaceComboGadget(g);
 }
 
+void DrawFieldBackground(t_gadget *g, const T_RPOS &r) {
+    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
+    u32 flags = g->live_flags;
+    int disabled = (flags & GADGET_FLAGS_DISABLED) != 0;
+    u32 back = disabled ? rec->gadget_colour : (flags & GADGET_FLAGS_SOLID) ? g->back_colour : rec->field_colour;
+    DrawRectangle(r.x, r.y, r.w, r.h, back);
+    if (!(flags & GADGET_FLAGS_NO_BORDER))
+        DrawBevelBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour, rec->gadget_light_colour);
+}
+
 T_RPOS GadgetRect(t_gadget *g) {
     return T_RPOS{g->screen_x, g->screen_y, g->base_width, g->base_height};
 }

@@ -14,6 +14,8 @@ T_TEXTURE_BANK *MakeStandardIconBank(void);
 
 // Windows (window.cpp): creation from an init record, used by CreateObject; a popup for menus.
 t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init);
+// A window made while the input focus stays with the window that had it; null if it can't be made.
+t_Window *CreateWindowKeepingFocus(const char *name, T_WINDOWOBJINIT *init);
 // A popup (an open menu): a top-level window without frame at x, y, w, h, with WEX_POPUP set,
 // drawn above everything and hit first. It doesn't take the input focus; keys still reach its
 // handlers first. Remove it with RemoveWindow. Null only when memory runs out.
@@ -201,6 +203,9 @@ typedef struct T_GADGET_CLASS {
 } T_GADGET_CLASS;
 
 const T_GADGET_CLASS *GadgetClass(u16 type);
+// A field's ground: the field colour (the gadget's own when solid, grey when disabled) and its sunk
+// border unless it has none.
+void DrawFieldBackground(t_gadget *gadget, const T_RPOS &rect);
 T_RPOS GadgetRect(t_gadget *gadget);  // screen_x, screen_y, base_width, base_height
 int TextBearingType(u16 type);
 void PaintGadgets(t_Window *window);

@@ -189,6 +189,13 @@ t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init) {
     return w;
 }
 
+t_Window *CreateWindowKeepingFocus(const char *name, T_WINDOWOBJINIT *init) {
+    t_Window *focus = FocusWindow();
+    t_Window *window = CreateWindowObject(name, init);
+    if (window && IsWindowLive(focus)) ISetActiveWindow(focus);
+    return window;
+}
+
 t_Window *CreatePopupWindow(i16 x, i16 y, i16 w, i16 h, T_MESSAGE_FN message) {
     t_Window *win = AllocWindow("popup");
     if (!win) return NULL;
