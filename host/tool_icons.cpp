@@ -3,21 +3,17 @@
 // light fills and one blue accent.
 #include "tool_icons.h"
 
-
-#define TOOL_RGB(r, g, b) (0xFF000000u | ((u32)(b) << 16) | ((u32)(g) << 8) | (u32)(r))
-
-static const u32 INK = TOOL_RGB(0x3C, 0x40, 0x48);
-static const u32 PAPER = TOOL_RGB(0xFF, 0xFF, 0xFF);
-static const u32 FACE = TOOL_RGB(0xE2, 0xE4, 0xE8);
-static const u32 SHADE = TOOL_RGB(0xA8, 0xAC, 0xB4);
-static const u32 ACCENT = TOOL_RGB(0x2F, 0x6F, 0xC4);
+static const u32 INK = ICON_RGB(0x3C, 0x40, 0x48);
+static const u32 PAPER = ICON_RGB(0xFF, 0xFF, 0xFF);
+static const u32 FACE = ICON_RGB(0xE2, 0xE4, 0xE8);
+static const u32 SHADE = ICON_RGB(0xA8, 0xAC, 0xB4);
+static const u32 ACCENT = ICON_RGB(0x2F, 0x6F, 0xC4);
 static const u32 CLEAR = 0;
 
 // A box with an outline.
 static void Box(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 fill)
 {
-    IconFill(c, x, y, w, h, fill);
-    IconFrame(c, x, y, w, h, INK);
+    IconBox(c, x, y, w, h, fill, INK);
 }
 
 // Letters of five by seven, and small arrows.
@@ -28,7 +24,6 @@ static const char *const LETTER_O[] = {" ### ", "#   #", "#   #", "#   #", "#   
 static const char *const LETTER_K[] = {"#   #", "#  # ", "# #  ", "##   ", "# #  ", "#  # ", "#   #", NULL};
 static const char *const ARROW_LEFT[] = {"  #", " ##", "###", " ##", "  #", NULL};
 static const char *const ARROW_RIGHT[] = {"#  ", "## ", "###", "## ", "#  ", NULL};
-static const char *const ARROW_UP[] = {"  #  ", " ### ", "#####", NULL};
 static const char *const ARROW_DOWN[] = {"#####", " ### ", "  #  ", NULL};
 static const char *const POINTER[] = {
     "#",         "##",          "#o#",         "#oo#",        "#ooo#",      "#oooo#",
@@ -68,16 +63,28 @@ static void DrawRadioButton(T_ICON_CANVAS *c)
     IconDisc(c, 12.5f, 12.5f, 4.24f, ACCENT);
 }
 
-static void DrawVerticalSlider(T_ICON_CANVAS *c)
+// The upright twin of a lying drawing: the same pixels with rows and columns swapped.
+static void DrawUpright(T_ICON_CANVAS *c, void (*draw_lying)(T_ICON_CANVAS *canvas))
 {
-    Box(c, 10, 2, 4, 20, FACE);
-    Box(c, 5, 9, 14, 6, ACCENT);
+    u32 pixels[TOOL_ICON_SIZE * TOOL_ICON_SIZE] = {0};
+    if (!QF_EXPECT(c->size == TOOL_ICON_SIZE))
+        return;
+    T_ICON_CANVAS lying = {pixels, c->size};
+    draw_lying(&lying);
+    for (i32 y = 0; y < c->size; y++)
+        for (i32 x = 0; x < c->size; x++)
+            c->pixels[x * c->size + y] = pixels[y * c->size + x];
 }
 
 static void DrawHorizontalSlider(T_ICON_CANVAS *c)
 {
     Box(c, 2, 10, 20, 4, FACE);
     Box(c, 9, 5, 6, 14, ACCENT);
+}
+
+static void DrawVerticalSlider(T_ICON_CANVAS *c)
+{
+    DrawUpright(c, DrawHorizontalSlider);
 }
 
 static void DrawLabelText(T_ICON_CANVAS *c)
@@ -118,12 +125,7 @@ static void DrawHorizontalScrollBar(T_ICON_CANVAS *c)
 
 static void DrawVerticalScrollBar(T_ICON_CANVAS *c)
 {
-    Box(c, 7, 1, 10, 22, FACE);
-    IconLine(c, 8, 6, 15, 6, INK);
-    IconLine(c, 8, 17, 15, 17, INK);
-    IconPattern(c, 10, 2, ARROW_UP, 1, INK, INK);
-    IconPattern(c, 10, 19, ARROW_DOWN, 1, INK, INK);
-    IconFill(c, 9, 8, 6, 6, ACCENT);
+    DrawUpright(c, DrawHorizontalScrollBar);
 }
 
 // A frame whose top edge gives way to its title.
@@ -158,10 +160,7 @@ static void DrawDropBox(T_ICON_CANVAS *c)
 }
 
 //  place                            drawing
-static const struct {
-    u16 icon;
-    void (*draw)(T_ICON_CANVAS *canvas);
-} tool_icons[] = {
+static const T_ICON_DRAWING tool_icons[] = {
     {TOOL_ICON_CHECK_BOX, DrawCheckBox},
     {TOOL_ICON_LIST_BOX, DrawListBox},
     {TOOL_ICON_SELECTOR, DrawSelector},
@@ -180,14 +179,9 @@ static const struct {
 
 T_TEXTURE_BANK *MakeToolIconBank(void)
 {
-    T_TEXTURE_BANK *bank = NewTextureBank("tools", TOOL_ICON_COUNT, TOOL_ICON_SIZE, TOOL_ICON_SIZE);
-    if (!bank) {
+    T_TEXTURE_BANK *bank = DrawIconBank("tools", TOOL_ICON_COUNT, TOOL_ICON_SIZE, tool_icons,
+                                        sizeof tool_icons / sizeof *tool_icons);
+    if (!bank)
         myprintf(0, "The toolbar's icons could not be made\n");
-        return NULL;
-    }
-    for (const auto &row : tool_icons) {
-        T_ICON_CANVAS canvas = IconCanvas(bank, row.icon);
-        row.draw(&canvas);
-    }
     return bank;
 }

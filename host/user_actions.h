@@ -58,8 +58,6 @@ void UserType(const char *text);
 void UserTurns(u32 turns);
 // Writes the screen as a PNG; false (with a log line) when it can't be written.
 int UserScreenshot(const char *path);
-// Parses "ctrl+s", "alt+f4", "escape", "f10", "shift+tab", "a", "delete"...; false when unknown.
-int ParseKeyName(const char *name, u16 *key, u16 *qualifiers);
 // The centre of a gadget of a live window found by name (any level), by item code; false if none.
 int FindGadgetCentre(const char *window_name, u32 item_code, i16 *x, i16 *y);
 t_Window *FindLiveWindow(const char *name);

@@ -9,7 +9,7 @@
 
 #include "app/quillform_app.h"
 #include "display/display.h"
-#include "lumora/lumora_input.cpp"
+#include "tests/harness/toolkit_fixture.h"
 
 #define TAB_FIRST 0x80000000u  // as a page file writes tab[0] of its first gadget
 

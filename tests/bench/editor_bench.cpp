@@ -89,17 +89,6 @@ static t_Window *SelectedPage(T_HARNESS *h, i64 count)
     return page;
 }
 
-static void PushMouse(u16 kind, i16 x, i16 y)
-{
-    T_INPUT_EVENT event;
-    memset(&event, 0, sizeof(event));
-    event.kind = kind;
-    event.x = x;
-    event.y = y;
-    event.button = 1;
-    HeadlessPush(&event);
-}
-
 // One turn of the loop with the page of selected gadgets on the screen and no input.
 static void BM_RepaintPage(benchmark::State &state)
 {
@@ -128,20 +117,20 @@ static void BM_DragStep(benchmark::State &state)
     t_Window *page = SelectedPage(&h, state.range(0));
     t_gadget *first = FindGadgetHandler(page)->first_gadget;
     i16 x = (i16)(first->screen_x + 10), y = (i16)(first->screen_y + 8);
-    PushMouse(INPUT_MOUSE_MOVE, x, y);
-    PushMouse(INPUT_MOUSE_DOWN, x, y);
+    PushEvent(INPUT_MOUSE_MOVE, x, y, 1);
+    PushEvent(INPUT_MOUSE_DOWN, x, y, 1);
     RefreshHandlers(NULL);
     for (int i = 0; i < 8; i++) {  // past the drag threshold
-        PushMouse(INPUT_MOUSE_MOVE, (i16)(x + i), y);
+        PushEvent(INPUT_MOUSE_MOVE, (i16)(x + i), y, 1);
         RefreshHandlers(NULL);
     }
     i16 step = 1;
     for (auto _ : state) {
         step = (i16)-step;
-        PushMouse(INPUT_MOUSE_MOVE, (i16)(x + 8 + step), y);
+        PushEvent(INPUT_MOUSE_MOVE, (i16)(x + 8 + step), y, 1);
         RefreshHandlers(NULL);
     }
-    PushMouse(INPUT_MOUSE_UP, x, y);
+    PushEvent(INPUT_MOUSE_UP, x, y, 1);
     RefreshHandlers(NULL);
     state.counters["time_per_gadget"] = benchmark::Counter(
         (double)state.iterations() * state.range(0), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);

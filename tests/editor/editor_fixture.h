@@ -1,6 +1,6 @@
 // The editor suites' fixture: the whole application headless with one page of 400 by 300 drawn on
-// the main window, gadgets made through the catalogue, and the mouse and keys of a person, with
-// qualifiers where a gesture needs them.
+// the main window, gadgets made through the catalogue; the mouse and keys of a person, with
+// qualifiers where a gesture needs them, come from the shared input.
 #pragma once
 #include <gtest/gtest.h>
 #include <string.h>
@@ -17,14 +17,13 @@
 #include "shell/main_window.h"
 #include "tests/editor/page_invariants.h"
 #include "tests/harness/harness.h"
+#include "tests/harness/input.h"
 
 // Main window commands.
 #define COMMAND_UNDO 263
 #define COMMAND_REDO 264
 #define COMMAND_SELECT_ALL 268
 #define COMMAND_TAB_ORDER 277
-
-#define PAST_DOUBLE_CLICK_MS 500
 
 // A gadget's place and size: x, y, width, height.
 typedef std::array<i16, 4> T_GEOM;
@@ -76,45 +75,4 @@ protected:
     const char *UndoLabel() { return record->undo.current ? record->undo.current->name : ""; }
     T_TOOLBAR_HANDLER *Toolbar() { return PageToolBar(page); }
     void Command(u32 item_code) { SendWindowMessage(harness.main_window, item_code, ACT_MENU_PICK, NULL); }
-
-    // Raw input with qualifiers held, taken by turning the loop.
-    static void Push(u16 kind, i16 x, i16 y, u16 button, u16 qualifiers)
-    {
-        T_INPUT_EVENT event;
-        memset(&event, 0, sizeof(event));
-        event.kind = kind;
-        event.x = x;
-        event.y = y;
-        event.button = button;
-        event.qualifiers = qualifiers;
-        HeadlessPush(&event);
-        for (u32 guard = 0; HeadlessPending() && guard < 100; guard++)
-            RefreshHandlers(NULL);
-        RefreshHandlers(NULL);
-    }
-    static void Press(i16 x, i16 y, u16 qualifiers = 0)
-    {
-        Push(INPUT_MOUSE_MOVE, x, y, 0, qualifiers);
-        Push(INPUT_MOUSE_DOWN, x, y, 1, qualifiers);
-    }
-    static void Move(i16 x, i16 y, u16 qualifiers = 0) { Push(INPUT_MOUSE_MOVE, x, y, 0, qualifiers); }
-    static void Release(i16 x, i16 y, u16 qualifiers = 0)
-    {
-        Push(INPUT_MOUSE_MOVE, x, y, 0, qualifiers);
-        Push(INPUT_MOUSE_UP, x, y, 1, qualifiers);
-        HeadlessAdvance(PAST_DOUBLE_CLICK_MS);
-    }
-    static void Click(i16 x, i16 y, u16 qualifiers = 0)
-    {
-        Press(x, y, qualifiers);
-        Release(x, y, qualifiers);
-    }
-    // A left drag in steps, each painted, released at the end.
-    static void Drag(i16 x1, i16 y1, i16 x2, i16 y2, u16 qualifiers = 0)
-    {
-        Press(x1, y1, qualifiers);
-        for (int i = 1; i <= 4; i++)
-            Move((i16)(x1 + (x2 - x1) * i / 4), (i16)(y1 + (y2 - y1) * i / 4), qualifiers);
-        Release(x2, y2, qualifiers);
-    }
 };

@@ -80,7 +80,7 @@ TEST_F(PageTest, QualifiersDecideTheMarksAtPressAndRelease)
         ClearAllMarkedGadgets(a);
         Mark(a);
         i16 bx = b->pos_x, x = MidX(b), y = MidY(b);
-        Press(x, y, c.qualifiers);
+        Press(x, y, 1, c.qualifiers);
         CHECK_PAGE();
         if (c.qualifiers) {  // with a qualifier the press changes no mark
             EXPECT_TRUE(Marked(a));
@@ -88,7 +88,7 @@ TEST_F(PageTest, QualifiersDecideTheMarksAtPressAndRelease)
         }
         Move((i16)(x + 10), y, c.qualifiers);
         Move((i16)(x + 20), y, c.qualifiers);
-        Release((i16)(x + 20), y, c.qualifiers);
+        Release((i16)(x + 20), y, 1, c.qualifiers);
         CHECK_PAGE();
         EXPECT_EQ(Marked(a), c.a_marked);
         EXPECT_EQ(Marked(b), c.b_marked);

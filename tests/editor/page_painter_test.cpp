@@ -191,11 +191,8 @@ TEST_F(PageTest, DragStepRepaintsOnlyRoundTheMovedGadgetsAndShowsTheSame)
         u32 far_before = Pixel(far_x, far_y);
         pixels[far_y * pitch + far_x] = 0xFF00FFu;
         x = (i16)(x + step[0]), y = (i16)(y + step[1]);
-        T_INPUT_EVENT event;
-        memset(&event, 0, sizeof(event));
-        event.kind = INPUT_MOUSE_MOVE, event.x = x, event.y = y, event.button = 1;
-        HeadlessPush(&event);
-        RefreshHandlers(NULL);
+        PushEvent(INPUT_MOUSE_MOVE, x, y, 1);
+        Turn();
         EXPECT_EQ(Pixel(far_x, far_y), 0xFF00FFu) << "a step of " << step[0] << ", " << step[1];
         pixels[far_y * pitch + far_x] = far_before;
         std::vector<u32> stepped(pixels, pixels + (size_t)height * pitch);

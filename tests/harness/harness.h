@@ -3,6 +3,7 @@
 #include "host/user_actions.h"
 #include "host/tool_icons.h"
 #include "page/records.h"
+#include "tests/harness/input.h"
 
 typedef struct T_HARNESS {
     char root[512];  // the data root

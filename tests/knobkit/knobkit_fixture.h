@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "knobkit/knobkit_internal.h"
-#include "lumora/lumora_input.h"
+#include "tests/harness/toolkit_fixture.h"
 
 class GadgetTest : public LumoraTest {
   public:

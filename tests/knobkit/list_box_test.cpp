@@ -22,10 +22,7 @@ TEST_F(GadgetTest, ListClickSelectsAndReports) {
     ASSERT_EQ(CountRecorded(ACT_LMOUSE_UP), 1u);
     EXPECT_EQ(recorded.back().item_code, 9u);
     EXPECT_EQ(recorded.back().data, g);
-    Press(MidX(g), RowY(g, 3));
-    Release(MidX(g), RowY(g, 3));
-    Press(MidX(g), RowY(g, 3));
-    Release(MidX(g), RowY(g, 3));
+    DoubleClick(MidX(g), RowY(g, 3));
     EXPECT_EQ(ListOf(g)->selected, 3);
     EXPECT_EQ(CountRecorded(ACT_LMOUSE_DBL), 1u);
     HeadlessAdvance(1000);
@@ -42,15 +39,9 @@ TEST_F(GadgetTest, ListScrollsByWheelAndScrollBar) {
     ASSERT_GT(l.bar.w, 0);  // the rows don't fit: a bar at the right
     EXPECT_EQ(l.bar.x + l.bar.w, g->screen_x + g->base_width - 2);
     Move(MidX(g), MidY(g));
-    T_INPUT_EVENT wheel = {};
-    wheel.kind = INPUT_WHEEL, wheel.wheel = -1;
-    HeadlessPush(&wheel);
-    Turn();
+    Wheel(-1);
     EXPECT_EQ(d->top, 3);
-    wheel.wheel = 1;
-    HeadlessPush(&wheel);
-    HeadlessPush(&wheel);
-    Turn();
+    Wheel(1, 2);
     EXPECT_EQ(d->top, 0);  // not above the first row
     i16 bx = l.bar.x + l.bar.w / 2;
     Click(bx, l.bar.y + l.bar.h - 3);  // the lower arrow: one row

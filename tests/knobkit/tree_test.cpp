@@ -53,10 +53,7 @@ TEST_F(GadgetTest, TreeOpensAndClosesWithTheSelectionKept) {
     Click(box.x + box.w / 2, box.y + box.h / 2);
     EXPECT_EQ(d->selected, 3);  // the closed branch takes the selection
     recorded.clear();
-    Press(l.inner.x + 60, RowMid(0));  // a double click on Branch 0 closes it
-    Release(l.inner.x + 60, RowMid(0));
-    Press(l.inner.x + 60, RowMid(0));
-    Release(l.inner.x + 60, RowMid(0));
+    DoubleClick(l.inner.x + 60, RowMid(0));  // a double click on Branch 0 closes it
     EXPECT_EQ(CountRecorded(ACT_LMOUSE_DBL), 1u);
     EXPECT_EQ(CountRows(d, 1), 3);
     SetCurrentGadget(window, g);

@@ -1,5 +1,5 @@
 // Gadgets: a check box's click and report, and the dialog keys with the tab walk.
-#include "lumora_input.h"
+#include "tests/harness/toolkit_fixture.h"
 
 TEST_F(LumoraTest, CheckBoxTogglesOnAReleaseInsideAndReports) {
     struct {

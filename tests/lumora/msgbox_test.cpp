@@ -1,5 +1,5 @@
 // Message boxes: each button answers the parent with its message and the box's item code.
-#include "lumora_input.h"
+#include "tests/harness/toolkit_fixture.h"
 
 static const u32 ALL_ANSWERS = IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL | IDCMP_REQUESTER_ABORT;
 

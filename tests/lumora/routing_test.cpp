@@ -1,6 +1,6 @@
 // Routing: keys in their order, gadgets and their action functions, capture, double clicks and
 // dropped files.
-#include "lumora_input.h"
+#include "tests/harness/toolkit_fixture.h"
 
 struct ACTION_CALL {
     t_gadget *gadget;
@@ -133,12 +133,8 @@ TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick) {
     Turn();
     Reset();
     i16 x = g->screen_x + 5, y = g->screen_y + 5;
-    T_INPUT_EVENT e = {};
-    e.x = x, e.y = y, e.button = 1;
-    for (u16 kind : {INPUT_MOUSE_DOWN, INPUT_MOUSE_UP, INPUT_MOUSE_DOWN, INPUT_MOUSE_UP}) {
-        e.kind = kind;
-        HeadlessPush(&e);
-    }
+    for (u16 kind : {INPUT_MOUSE_DOWN, INPUT_MOUSE_UP, INPUT_MOUSE_DOWN, INPUT_MOUSE_UP})
+        PushEvent(kind, x, y, 1);
     Turn();
     std::vector<u16> expect = {ACT_LMOUSE_DOWN, ACT_LMOUSE_UP, ACT_LMOUSE_DOWN, ACT_LMOUSE_DBL,
                                ACT_LMOUSE_UP};
@@ -146,8 +142,7 @@ TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick) {
     for (size_t i = 0; i < expect.size(); i++) EXPECT_EQ(actions[i].mouse_action, expect[i]);
     Reset();
     HeadlessAdvance(500);  // too late for a double click
-    e.kind = INPUT_MOUSE_DOWN;
-    HeadlessPush(&e);
+    PushEvent(INPUT_MOUSE_DOWN, x, y, 1);
     Turn();
     ASSERT_EQ(actions.size(), 1u);
     EXPECT_EQ(actions[0].mouse_action, ACT_LMOUSE_DOWN);
@@ -167,11 +162,7 @@ TEST_F(LumoraTest, DroppedFileReachesTheWindowThatTakesIt) {
     t_Window *parent = MakeWindow("Main", 0, 0, 600, 500, 0, IDCMP_RECEIVE_OBJECT, nullptr, TakeDrop);
     MakeWindow("Page", 50, 50, 200, 200, WF_CHILD, 0, parent);  // passes the drop on
     Move(100, 100);
-    T_INPUT_EVENT e = {};
-    e.kind = INPUT_DROP_FILE;
-    snprintf(e.text, sizeof(e.text), "/home/user/pages/About.cpp");
-    HeadlessPush(&e);
-    Turn();
+    DropFile("/home/user/pages/About.cpp");
     EXPECT_EQ(CountRecorded(ACT_RECEIVE_OBJECT, parent), 1u);
     EXPECT_EQ(dropped_directory, "/home/user/pages");
     EXPECT_EQ(dropped_name, "About.cpp");

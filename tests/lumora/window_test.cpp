@@ -1,6 +1,6 @@
 // Windows: the user area, frame dragging and resizing, closing, maximise and minimise, deferred
 // removal, focus, and the window's bitmap.
-#include "lumora_input.h"
+#include "tests/harness/toolkit_fixture.h"
 
 static i16 TitleH() { return (i16)DISPLAY_RECORD->title_height; }
 

@@ -1,7 +1,7 @@
 // Icon banks: the application's toolbar icons are drawn and tell apart.
 #include <gtest/gtest.h>
 
-#include "../../host/tool_icons.cpp"
+#include "host/tool_icons.h"
 #include "lumora/lumora_internal.h"
 
 static u32 OpaquePixels(T_TEXTURE_BANK *bank, u16 icon)

@@ -3,7 +3,7 @@
 #pragma once
 #include <string.h>
 
-#include "lumora/lumora_input.h"
+#include "tests/harness/toolkit_fixture.h"
 #include "lumora/menu_internal.h"
 
 typedef struct T_SPY_MESSAGE {

@@ -131,8 +131,11 @@ TEST_F(MenuInputTest, PressesOutsideCloseOrSwitch)
     ClickTitle(SAMPLE_FILE);
     spy_messages.clear();
     TitleCentre(handler, FindMenuInHandler(handler, SAMPLE_EDIT), &x, &y);
-    Press(x, y);  // another title of the bar, pressed without the pointer passing over it first
-    Release(x, y);
+    // another title of the bar, pressed without the pointer passing over it first
+    PushEvent(INPUT_MOUSE_DOWN, x, y, 1);
+    TurnUntilTaken();
+    PushEvent(INPUT_MOUSE_UP, x, y, 1);
+    TurnUntilTaken();
     EXPECT_EQ(OpenPopups(), 1u);
     EXPECT_EQ(handler->open_title, FindMenuInHandler(handler, SAMPLE_EDIT));
     ASSERT_EQ(MessagesOf(ACT_MENU_OPEN).size(), 1u);

@@ -108,12 +108,7 @@ TEST_F(PageMessages, DroppedColourAndBitmapMarkThePage)
             SendWindowMessage(page, row.item_code, ACT_RECEIVE_OBJECT, &rgba);
         } else if (row.item_code == 2) {  // a file from the desktop, dropped where the pointer is
             UserMove(AbsX(200), AbsY(150));
-            T_INPUT_EVENT event;
-            memset(&event, 0, sizeof(event));
-            event.kind = INPUT_DROP_FILE;
-            snprintf(event.text, sizeof(event.text), "%s/Bitmaps/%s", harness.root, row.bitmap);
-            HeadlessPush(&event);
-            UserTurns(2);
+            DropFile((std::string(harness.root) + "/Bitmaps/" + row.bitmap).c_str());
         } else {
             T_RGBA rgba = {1, 2, 3, 4};
             SendWindowMessage(page, row.item_code, ACT_RECEIVE_OBJECT, &rgba);

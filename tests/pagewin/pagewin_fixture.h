@@ -76,13 +76,8 @@ protected:
             for (t_gadget *g = FindGadgetHandler(box)->first_gadget; g->next; g = g->next)
                 watch.buttons += std::string(watch.buttons.empty() ? "" : "|") + g->name;
             watch.text = _OstrandBase->text_buffer;
-            for (const char *key = watch.answer; *key; key++) {
-                T_INPUT_EVENT event;
-                memset(&event, 0, sizeof(event));
-                event.kind = INPUT_KEY_DOWN;
-                event.key = (u8)*key;
-                HeadlessPush(&event);
-            }
+            for (const char *key = watch.answer; *key; key++)
+                PushEvent(INPUT_KEY_DOWN, 0, 0, 0, (u8)*key);
             watch.answered = 1;
             return;
         }

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "knobkit/knobkit_internal.h"
-#include "lumora/lumora_input.h"
+#include "tests/harness/toolkit_fixture.h"
 #include "pickett/pickett_internal.h"
 
 // What the spy parent's message function was given; for a file selector's OK the answer is

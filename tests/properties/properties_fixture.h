@@ -85,7 +85,7 @@ protected:
     t_Window *OpenProperties(t_gadget *gadget)
     {
         UserDoubleClick(MidX(gadget), MidY(gadget));
-        HeadlessAdvance(PAST_DOUBLE_CLICK_MS);
+        Pause();
         UserTurns(1);
         return Dialog(TXT_GADGET_PROPERTIES);
     }

@@ -45,12 +45,7 @@ protected:
     }
     static void Drop(const std::string &path)
     {
-        T_INPUT_EVENT event;
-        memset(&event, 0, sizeof(event));
-        event.kind = INPUT_DROP_FILE;
-        snprintf(event.text, sizeof(event.text), "%s", path.c_str());
-        HeadlessPush(&event);
-        UserTurns(2);
+        DropFile(path.c_str());
     }
     // Closes the error boxes that failed opens left.
     static void CloseErrorBoxes()

@@ -120,21 +120,11 @@ bool WriteTextFile(const std::string &path, const std::string &text)
 
 static std::vector<T_ANSWER> answers;
 
-static T_INPUT_EVENT KeyEvent(u16 key, u16 qualifiers)
-{
-    T_INPUT_EVENT event;
-    memset(&event, 0, sizeof(event));
-    event.kind = INPUT_KEY_DOWN;
-    event.key = key;
-    event.qualifiers = qualifiers;
-    return event;
-}
-
 T_ANSWER AnswerKeys(const char *window, std::vector<u16> keys)
 {
     T_ANSWER answer = {window, {}, nullptr};
     for (u16 key : keys)
-        answer.input.push_back(KeyEvent(key, 0));
+        answer.input.push_back(InputEvent(INPUT_KEY_DOWN, 0, 0, 0, key));
     return answer;
 }
 
@@ -144,13 +134,9 @@ T_ANSWER AnswerCancel() { return AnswerKeys(QUERY_TITLE, {KEY_ESCAPE}); }
 
 T_ANSWER AnswerSaveAs(const std::string &path)
 {
-    T_ANSWER answer = {SAVE_AS_TITLE, {KeyEvent(KEY_CTRL('A'), QUAL_CONTROL)}, nullptr};
-    T_INPUT_EVENT text;
-    memset(&text, 0, sizeof(text));
-    text.kind = INPUT_TEXT;
-    snprintf(text.text, sizeof(text.text), "%s", path.c_str());
-    answer.input.push_back(text);
-    answer.input.push_back(KeyEvent(KEY_RETURN, 0));
+    T_ANSWER answer = {SAVE_AS_TITLE, {InputEvent(INPUT_KEY_DOWN, 0, 0, 0, KEY_CTRL('A'), QUAL_CONTROL)}, nullptr};
+    answer.input.push_back(TextEvent(INPUT_TEXT, path.c_str()));
+    answer.input.push_back(InputEvent(INPUT_KEY_DOWN, 0, 0, 0, KEY_RETURN));
     return answer;
 }
 
@@ -162,7 +148,7 @@ static void Answer(t_Handler *)
     T_ANSWER answer = answers.front();
     answers.erase(answers.begin());
     for (const T_INPUT_EVENT &event : answer.input)
-        HeadlessPush(&event);
+        PushEvent(event);
     if (answer.action)
         answer.action();
 }

@@ -23,9 +23,11 @@
 #define TXT_NO_WINDOW "%s: the page's window could not be made (was the toolkit opened first?)\n"
 #define TXT_NOT_CLOSED "%s: the page's window stayed open when told to end (ACT_TERMINATE)\n"
 
+#define APP_NAME_SIZE 64
+
 static struct {
     int headless;
-    char name[64];  // the program's name, for its messages
+    char name[APP_NAME_SIZE];  // the program's name, for its messages
 } app;
 
 static int HeadlessAsked(int argc, char **argv) {

@@ -26,10 +26,12 @@ static const char *const style_suffixes[FONT_STYLES][2] = {
 static T_FONT_BASE font_base;
 T_FONT_BASE *_FontBase;
 
+#define FONT_STYLE_ROOM 88  // past the base name: a style's suffix and extension
+
 static FT_Library ft_library;
 static T_FONT *system_font;
 static u32 live_fonts;  // fonts loaded and not yet freed; the library goes when none is left
-static char last_failed_name[512];  // a font that can't be loaded is logged once, not per repaint
+static char last_failed_name[FONT_PATH_SIZE];  // a font that can't be loaded is logged once, not per repaint
 
 static int StartFreeType(void) {
     if (ft_library) return 1;
@@ -68,7 +70,7 @@ static FT_Face FindFace(const char *name, u16 pixel_size, char *path, size_t pat
 
 // Fills in the bold and italic faces from files beside the regular one named by the family rule.
 static void OpenStyleFaces(T_FONT *font) {
-    char base[512], candidate[600];
+    char base[FONT_PATH_SIZE], candidate[FONT_PATH_SIZE + FONT_STYLE_ROOM];
     const char *dot = strrchr(font->path, '.');
     const char *slash = strrchr(font->path, '/');
     if (!dot || (slash && dot < slash)) dot = font->path + strlen(font->path);

@@ -32,6 +32,12 @@ void IconFrame(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 colour)
     IconFill(c, x + w - 1, y, 1, h, colour);
 }
 
+void IconBox(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 fill, u32 outline)
+{
+    IconFill(c, x, y, w, h, fill);
+    IconFrame(c, x, y, w, h, outline);
+}
+
 void IconLine(T_ICON_CANVAS *c, i32 x1, i32 y1, i32 x2, i32 y2, u32 colour)
 {
     i32 dx = abs(x2 - x1), dy = -abs(y2 - y1);
@@ -64,4 +70,19 @@ void IconPattern(T_ICON_CANVAS *c, i32 x, i32 y, const char *const *rows, i32 sc
             if (p == '#' || p == 'o')
                 IconFill(c, x + col * scale, y + row * scale, scale, scale, p == '#' ? ink : fill);
         }
+}
+
+T_TEXTURE_BANK *DrawIconBank(const char *name, u16 count, u16 size, const T_ICON_DRAWING *drawings,
+                             u32 drawing_count)
+{
+    T_TEXTURE_BANK *bank = NewTextureBank(name, count, size, size);
+    if (!bank)
+        return NULL;
+    for (u32 i = 0; i < drawing_count; i++) {
+        if (!QF_EXPECT(drawings[i].icon < count))
+            continue;
+        T_ICON_CANVAS canvas = IconCanvas(bank, drawings[i].icon);
+        drawings[i].draw(&canvas);
+    }
+    return bank;
 }

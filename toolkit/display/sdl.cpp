@@ -135,6 +135,35 @@ static u16 KeyOfPress(const SDL_Keysym *keysym, u16 qualifiers) {
 }
 
 // Turns one SDL event into `event`; false for an event the toolkit has no use for.
+// What becomes of the display window's own events: focus, exposure, a new size.
+static int TranslateWindowEvent(const SDL_WindowEvent *in, T_INPUT_EVENT *event) {
+    if (in->event == SDL_WINDOWEVENT_FOCUS_GAINED) sdl.mod = SDL_GetModState();
+    switch (in->event) {
+    case SDL_WINDOWEVENT_FOCUS_LOST:
+        event->kind = INPUT_FOCUS_LOST;
+        return 1;
+    case SDL_WINDOWEVENT_EXPOSED:  // the toolkit repaints after any input; this is one
+    case SDL_WINDOWEVENT_SHOWN:
+    case SDL_WINDOWEVENT_RESTORED:
+    case SDL_WINDOWEVENT_FOCUS_GAINED:
+        event->kind = INPUT_EXPOSED;
+        return 1;
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
+        if (in->data1 == sdl.width && in->data2 == sdl.height) return 0;
+        if (!MakeFramebuffer(in->data1, in->data2)) {
+            myprintf(0, "The SDL window can't be resized to %d by %d: %s\n", in->data1, in->data2,
+                     SDL_GetError());
+            return 0;
+        }
+        event->kind = INPUT_RESIZE;
+        event->x = (i16)sdl.width;
+        event->y = (i16)sdl.height;
+        return 1;
+    default:
+        return 0;
+    }
+}
+
 static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event) {
     memset(event, 0, sizeof *event);
     switch (in->type) {
@@ -182,32 +211,7 @@ static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event) {
         SDL_free(in->drop.file);
         return 1;
     case SDL_WINDOWEVENT:
-        if (in->window.event == SDL_WINDOWEVENT_FOCUS_GAINED) sdl.mod = SDL_GetModState();
-        if (in->window.event == SDL_WINDOWEVENT_FOCUS_LOST) {
-            event->kind = INPUT_FOCUS_LOST;
-            return 1;
-        }
-        switch (in->window.event) {
-        case SDL_WINDOWEVENT_EXPOSED:  // the toolkit repaints after any input; this is one
-        case SDL_WINDOWEVENT_SHOWN:
-        case SDL_WINDOWEVENT_RESTORED:
-        case SDL_WINDOWEVENT_FOCUS_GAINED:
-            event->kind = INPUT_EXPOSED;
-            return 1;
-        default:
-            break;
-        }
-        if (in->window.event != SDL_WINDOWEVENT_SIZE_CHANGED) return 0;
-        if (in->window.data1 == sdl.width && in->window.data2 == sdl.height) return 0;
-        if (!MakeFramebuffer(in->window.data1, in->window.data2)) {
-            myprintf(0, "The SDL window can't be resized to %d by %d: %s\n", in->window.data1,
-                    in->window.data2, SDL_GetError());
-            return 0;
-        }
-        event->kind = INPUT_RESIZE;
-        event->x = (i16)sdl.width;
-        event->y = (i16)sdl.height;
-        return 1;
+        return TranslateWindowEvent(&in->window, event);
     case SDL_QUIT:
         event->kind = INPUT_QUIT;
         return 1;

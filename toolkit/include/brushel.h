@@ -2,11 +2,13 @@
 #pragma once
 #include "ostrand.h"
 
+#define FONT_PATH_SIZE 512  // a font file's path, and the fonts' folder
+
 // A font: a FreeType face at one pixel size with a glyph cache. The style (bold, italics) picks
 // one of the faces of its family when the machine has them.
 typedef struct T_FONT {
     T_NODE_FIELDS(struct T_FONT);  // name: the file name
-    char path[512];                // the file it was loaded from
+    char path[FONT_PATH_SIZE];     // the file it was loaded from
     u16 pixel_size;
     u16 height;    // line height in pixels
     u16 ascent;
@@ -26,7 +28,7 @@ typedef struct T_FONT_BASE {
     T_FONT *active_font;
     u16 style;        // 1 bold, 2 italics
     t_List fonts;     // resources of type 460, by file name
-    char font_dir[512];  // where fonts named by file name are found first
+    char font_dir[FONT_PATH_SIZE];  // where fonts named by file name are found first
 } T_FONT_BASE;
 
 extern T_FONT_BASE *_FontBase;
@@ -106,10 +108,23 @@ typedef struct T_ICON_CANVAS {
     i32 size;
 } T_ICON_CANVAS;
 
+#define ICON_RGB(r, g, b) (0xFF000000u | ((u32)(b) << 16) | ((u32)(g) << 8) | (u32)(r))  // opaque
+
+// A place of a bank and the function that draws its icon.
+typedef struct T_ICON_DRAWING {
+    u16 icon;
+    void (*draw)(T_ICON_CANVAS *canvas);
+} T_ICON_DRAWING;
+// A bank of `count` icons of size by size, each row of `drawings` drawn into its place; null when
+// the bank can't be made (Brushel logs why).
+T_TEXTURE_BANK *DrawIconBank(const char *name, u16 count, u16 size, const T_ICON_DRAWING *drawings,
+                             u32 drawing_count);
+
 T_ICON_CANVAS IconCanvas(T_TEXTURE_BANK *bank, u16 icon);
 void IconPlot(T_ICON_CANVAS *canvas, i32 x, i32 y, u32 colour);
 void IconFill(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 colour);
 void IconFrame(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 colour);
+void IconBox(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 fill, u32 outline);  // filled, framed
 void IconLine(T_ICON_CANVAS *canvas, i32 x1, i32 y1, i32 x2, i32 y2, u32 colour);
 // The pixels whose centres lie within r of (cx, cy); a pixel's centre is at +0.5.
 void IconDisc(T_ICON_CANVAS *canvas, float cx, float cy, float r, u32 colour);

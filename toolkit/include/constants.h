@@ -163,6 +163,7 @@
 #define KEY_INSERT 264
 #define KEY_DELETE 265
 #define KEY_F1 266  // F1 to F12 are 266 to 277; F10 is 275
+#define KEY_FUNCTION_COUNT 12
 #define KEY_CTRL_A 281
 #define KEY_CTRL(letter) (KEY_CTRL_A + ((letter) - 'A'))
 

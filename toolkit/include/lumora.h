@@ -149,6 +149,7 @@ void WindowToBack(t_Window *window);
 // their free_fn when the toolkit frees it, once no loop turn is on the stack.
 void RemoveWindow(t_Window *window);
 void ResizeWindow(t_Window *window, T_RPOS *rect);
+T_RPOS UserArea(const t_Window *window);  // the user area, absolute
 void ResizeWindowToContents(t_Window *window);  // the frame around the gadgets, with a margin
 void RecalcUserSize(t_Window *window);  // user area from the frame, then the gadgets' places
 u32 SendWindowMessage(t_Window *window, u32 item_code, u32 msg, void *data);  // direct call

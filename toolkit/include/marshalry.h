@@ -76,7 +76,11 @@ u32 ExecuteAppCommand(T_APPLICATION *app, t_Window *window, T_KEY_MSG *key);
 t_Menu *AddApplicationCmdMenu(T_APPLICATION *app, T_MENU_HANDLER *handler, T_MENUOBJECTINIT *init,
                               u32 item_code);
 t_Window *OpenApplicationCmdEditWindow(t_Window *parent, T_APPLICATION *app);
-const char *KeyName(u32 key, char *buffer);  // "Ctrl+O", "F10", "Delete"...
+#define KEY_NAME_SIZE 16  // a key name's buffer: the longest name and its end
+const char *KeyName(u32 key, char *buffer);  // "Ctrl+O", "F10", "Delete"...; buffer of KEY_NAME_SIZE
+// Reads a key spec: "ctrl+s", "alt+f4", "escape", "f10", "shift+tab", "a", "delete"... (case and
+// spaces do not count); false when unknown.
+int ParseKeyName(const char *name, u16 *key, u16 *qualifiers);
 
 void AddRecentFileType(T_APPLICATION *app, u32 type, u32 limit);
 void AddRecentFile(T_APPLICATION *app, const char *path, u32 type);

@@ -8,11 +8,14 @@
 // --- Base record ---------------------------------------------------------------------------------
 #define OSTRAND_TEXT_BUFFER_SIZE 4096
 #define FILE_PATH_SIZE 1024  // a path buffer of the file and path operations: 1023 characters
+#define READ_LINE_SIZE 1024  // a line buffer of ReadLine: a longer line is cut there
+#define RELATIVE_PATH_SIZE 256  // a stored file's path below the data root
+#define FILE_NAME_SIZE 256  // a file name without its folder
 
 typedef struct T_OSTRAND_BASE {
     u32 default_memory_type;                    // the type that AllocMemType gives by default
     char text_buffer[OSTRAND_TEXT_BUFFER_SIZE];  // a shared buffer for formatting one message
-    char data_root[1024];                        // where MakePathFromSystem resolves, no trailing '/'
+    char data_root[FILE_PATH_SIZE];              // where MakePathFromSystem resolves, no trailing '/'
     int log_level;                               // myprintf prints levels up to this one
     u64 blocks_allocated;                        // live blocks, for leak checks in tests
     u64 size_mismatches;                         // FreeMem calls whose size didn't match
@@ -157,6 +160,12 @@ int IsAbsolutePath(const char *path);            // '/' first, or the drive form
 // --- Log -----------------------------------------------------------------------------------------
 // Level 0 errors, 3 information; printed on standard error when level <= the log level.
 void myprintf(int level, const char *format, ...) __attribute__((format(printf, 2, 3)));
+#define LOG_LINE_SIZE 1024  // a log line built in place; a longer one takes a block of its own
+// True when `condition` holds; else false, with an error line naming the file and line where it
+// did not. For what must hold but would otherwise fail silently: a fixed array that is full, a case
+// that cannot happen.
+#define QF_EXPECT(condition) \
+    ((condition) ? 1 : (myprintf(0, "%s:%d: expected %s", __FILE__, __LINE__, #condition), 0))
 
 // Sets the data root, creating it if needed; false when it can't be made or written.
 int SetDataRoot(const char *path);

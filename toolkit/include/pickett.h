@@ -1,5 +1,6 @@
 // Pickett: the file, font and colour selectors, and the test for a text file.
 #pragma once
+#include "brushel.h"
 #include "knobkit.h"
 
 typedef struct T_FILE_REQUESTER_INIT {
@@ -16,8 +17,8 @@ typedef struct T_FILE_REQUESTER_INIT {
 
 // The data of the file selector's ACT_REQUESTER_OK: the directory and the name.
 typedef struct T_FILE_REQUESTER_ANSWER {
-    char directory[1024];
-    char name[256];
+    char directory[FILE_PATH_SIZE];
+    char name[FILE_NAME_SIZE];
 } T_FILE_REQUESTER_ANSWER;
 
 t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init);
@@ -41,8 +42,8 @@ typedef struct T_FONTSEL {
     u32 item_code;
     void *user_data;
     char *initial_font;  // the name given at opening (own copy), or null
-    char directory[512];
-    char chosen[256];  // the file name picked, "" for none
+    char directory[FONT_PATH_SIZE];
+    char chosen[FILE_NAME_SIZE];  // the file name picked, "" for none
     t_List patterns;
 } T_FONTSEL;
 

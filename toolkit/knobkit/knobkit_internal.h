@@ -93,30 +93,8 @@ T_RPOS ComboView(t_gadget *combo);  // the inside where the children show, bars 
 i16 ComboInset(t_gadget *combo);
 
 // --- Rows of the gadget class table ---------------------------------------------------------------
-int SliderInit(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
-void DrawSliderGadget(t_gadget *gadget, int focused);
-u32 SliderMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
-u32 SliderKey(t_gadget *gadget, u16 key, u16 qualifiers);
-void SliderFree(t_gadget *gadget);
-
-int ScrollBarInit(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
-void DrawScrollBarGadget(t_gadget *gadget, int focused);
-u32 ScrollBarMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
-u32 ScrollBarKey(t_gadget *gadget, u16 key, u16 qualifiers);
-void ScrollBarFree(t_gadget *gadget);
-
-int ListBoxInit(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
-void DrawListBoxGadget(t_gadget *gadget, int focused);
-u32 ListBoxMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
-u32 ListBoxKey(t_gadget *gadget, u16 key, u16 qualifiers);
-
-int DropBoxInit(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
-void DrawDropBoxGadget(t_gadget *gadget, int focused);
-u32 DropBoxMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
-u32 DropBoxKey(t_gadget *gadget, u16 key, u16 qualifiers);
-void DropBoxFree(t_gadget *gadget);
-
-int ComboInit(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
-void DrawComboGadget(t_gadget *gadget, int focused);
-u32 ComboMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
-void ComboFree(t_gadget *gadget);
+T_GADGET_INIT SliderInit, ScrollBarInit, ListBoxInit, DropBoxInit, ComboInit;
+T_GADGET_DRAW DrawSliderGadget, DrawScrollBarGadget, DrawListBoxGadget, DrawDropBoxGadget, DrawComboGadget;
+T_GADGET_MOUSE SliderMouse, ScrollBarMouse, ListBoxMouse, DropBoxMouse, ComboMouse;
+T_GADGET_KEY SliderKey, ScrollBarKey, ListBoxKey, DropBoxKey;
+T_GADGET_FREE SliderFree, ScrollBarFree, DropBoxFree, ComboFree;

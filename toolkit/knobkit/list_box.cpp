@@ -93,14 +93,8 @@ static void DrawTreeBox(T_RPOS box, int open, u32 colour) {
 void DrawListBoxGadget(t_gadget *g, int focused) {
     T_LIST_DATA *d = Data(g);
     if (!d) return;
-    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
-    T_RPOS r = GadgetRect(g);
-    u32 flags = g->live_flags;
-    int disabled = (flags & GADGET_FLAGS_DISABLED) != 0;
-    u32 back = disabled ? rec->gadget_colour : (flags & GADGET_FLAGS_SOLID) ? g->back_colour : rec->field_colour;
-    DrawRectangle(r.x, r.y, r.w, r.h, back);
-    if (!(flags & GADGET_FLAGS_NO_BORDER))
-        DrawBevelBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour, rec->gadget_light_colour);
+    DrawFieldBackground(g, GadgetRect(g));
+    int disabled = (g->live_flags & GADGET_FLAGS_DISABLED) != 0;
     T_LIST_LAYOUT l;
     ListLayout(g, &l);
     T_RPOS saved;

@@ -90,8 +90,7 @@ u16 BorderHandleAt(t_Window *w, i16 x, i16 y) {
 }
 
 static T_RPOS ParentArea(t_Window *w) {
-    if (w->parent) return T_RPOS{w->parent->user_x, w->parent->user_y, w->parent->user_w,
-                                 w->parent->user_h};
+    if (w->parent) return UserArea(w->parent);
     return T_RPOS{0, 0, CURRENT_DISPLAY->width, CURRENT_DISPLAY->height};
 }
 
@@ -257,7 +256,7 @@ static void TitleBarPaint(t_Handler *handler) {
                      pressed ? rec->frame_light_colour : rec->frame_dark_colour);
         DrawTitleGlyph(b.part, r, 0x000000, (w->state_flags & WSF_MAXIMISED) != 0);
     }
-    char text[512];
+    char text[WINDOW_TITLE_SIZE];
     if (w->title_suffix && w->title_suffix[0])
         snprintf(text, sizeof(text), "%s - %s", w->name ? w->name : "", w->title_suffix);
     else

@@ -228,6 +228,16 @@ void RecalcGadgetPosition(t_Window *window, t_gadget *g, u32 flags, i16 dx, i16 
     if (g->parent_combo || g->type == GADGET_TYPE_COMBO) PlaceComboGadget(g);
 }
 
+void DrawFieldBackground(t_gadget *g, const T_RPOS &r) {
+    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
+    u32 flags = g->live_flags;
+    int disabled = (flags & GADGET_FLAGS_DISABLED) != 0;
+    u32 back = disabled ? rec->gadget_colour : (flags & GADGET_FLAGS_SOLID) ? g->back_colour : rec->field_colour;
+    DrawRectangle(r.x, r.y, r.w, r.h, back);
+    if (!(flags & GADGET_FLAGS_NO_BORDER))
+        DrawBevelBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour, rec->gadget_light_colour);
+}
+
 T_RPOS GadgetRect(t_gadget *g) {
     return T_RPOS{g->screen_x, g->screen_y, g->base_width, g->base_height};
 }
@@ -296,7 +306,7 @@ t_gadget *FindGadgetByItemCode(t_Window *window, u32 item_code) {
 t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y) {
     t_Gaget_Handler *gh = FindGadgetHandler(window);
     if (!gh) return NULL;
-    T_RPOS user = {window->user_x, window->user_y, window->user_w, window->user_h};
+    T_RPOS user = UserArea(window);
     if (!PointBoxColl(x, y, &user)) return NULL;
     for (t_Node *n = gh->gadget_list.last; n->prev; n = n->prev)
         if (t_gadget *g = HitGadget((t_gadget *)n, x, y)) return g;
@@ -409,7 +419,7 @@ void PaintGadgets(t_Window *window) {
     t_Gaget_Handler *gh = FindGadgetHandler(window);
     if (!gh) return;
     int dialog = FocusWindow() == window && DialogWindow(window);
-    T_RPOS user = {window->user_x, window->user_y, window->user_w, window->user_h};
+    T_RPOS user = UserArea(window);
     for (t_gadget *g = gh->first_gadget; g->next; g = g->next) {
         if (g->live_flags & GADGET_FLAGS_NO_DISPLAY) continue;
         T_RPOS r = GadgetRect(g);

@@ -177,9 +177,7 @@ void DrawStringGadget(t_gadget *g, int focused) {
     T_RPOS r = GadgetRect(g);
     u32 flags = g->live_flags;
     int disabled = (flags & GADGET_FLAGS_DISABLED) != 0;
-    u32 back = disabled ? rec->gadget_colour : (flags & GADGET_FLAGS_SOLID) ? g->back_colour : rec->field_colour;
-    DrawRectangle(r.x, r.y, r.w, r.h, back);
-    if (!(flags & GADGET_FLAGS_NO_BORDER)) DrawBevelBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour, rec->gadget_light_colour);
+    DrawFieldBackground(g, r);
     T_RPOS area = TextArea(g, &r), saved;
     // Upright, the text may use all but the border line, so that short fields keep descenders.
     i16 border = (flags & GADGET_FLAGS_NO_BORDER) ? 0 : 1;

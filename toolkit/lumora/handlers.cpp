@@ -35,8 +35,10 @@ void DelHandler(t_Handler *handler) {
 
 u32 SnapshotHandlers(t_Window *window, t_Handler **out, u32 max) {
     u32 n = 0;
-    for (t_Node *node = window->handlers.first; node->next && n < max; node = node->next)
+    for (t_Node *node = window->handlers.first; node->next; node = node->next) {
+        if (!QF_EXPECT(n < max)) break;
         out[n++] = (t_Handler *)node;
+    }
     return n;
 }
 

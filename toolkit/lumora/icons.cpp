@@ -7,8 +7,6 @@
 #define STANDARD_ICON_COUNT 20
 #define STANDARD_ICON_SIZE 16
 
-#define ICON_RGB(r, g, b) (0xFF000000u | ((u32)(b) << 16) | ((u32)(g) << 8) | (u32)(r))
-
 // The palette: a dark outline, light fills and a few signal colours.
 static const u32 ICON_OUTLINE = ICON_RGB(0x38, 0x3C, 0x44);
 static const u32 ICON_WHITE = ICON_RGB(0xFF, 0xFF, 0xFF);
@@ -73,16 +71,13 @@ static void DrawWindowGlyph(T_ICON_CANVAS *c)
 
 static void DrawFolder(T_ICON_CANVAS *c)
 {
-    IconFill(c, 1, 3, 6, 2, ICON_TAN);
-    IconFrame(c, 1, 3, 6, 2, ICON_OUTLINE);
-    IconFill(c, 1, 5, 14, 9, ICON_TAN);
-    IconFrame(c, 1, 5, 14, 9, ICON_OUTLINE);
+    IconBox(c, 1, 3, 6, 2, ICON_TAN, ICON_OUTLINE);
+    IconBox(c, 1, 5, 14, 9, ICON_TAN, ICON_OUTLINE);
 }
 
 static void DrawDocument(T_ICON_CANVAS *c)
 {
-    IconFill(c, 3, 1, 10, 14, ICON_WHITE);
-    IconFrame(c, 3, 1, 10, 14, ICON_OUTLINE);
+    IconBox(c, 3, 1, 10, 14, ICON_WHITE, ICON_OUTLINE);
     for (i32 row = 4; row < 13; row += 2)
         IconFill(c, 5, row, 6, 1, ICON_LIGHT);
 }
@@ -90,8 +85,7 @@ static void DrawDocument(T_ICON_CANVAS *c)
 // A floppy disk: a dark body with a notched corner, the metal shutter and a white label.
 static void DrawSave(T_ICON_CANVAS *c)
 {
-    IconFill(c, 1, 1, 14, 14, ICON_BLUE);
-    IconFrame(c, 1, 1, 14, 14, ICON_OUTLINE);
+    IconBox(c, 1, 1, 14, 14, ICON_BLUE, ICON_OUTLINE);
     IconPlot(c, 14, 1, 0);
     IconPlot(c, 13, 1, ICON_OUTLINE);
     IconPlot(c, 14, 2, ICON_OUTLINE);
@@ -103,10 +97,7 @@ static void DrawSave(T_ICON_CANVAS *c)
 }
 
 //  place  drawing
-static const struct {
-    u16 icon;
-    void (*draw)(T_ICON_CANVAS *canvas);
-} standard_icons[] = {
+static const T_ICON_DRAWING standard_icons[] = {
     {0, DrawInfo},       {1, DrawError},       {2, DrawQuestion}, {3, DrawWarning},
     {4, DrawTick},       {5, DrawWindowGlyph}, {6, DrawFolder},   {7, DrawDocument},
     {16, DrawSave},
@@ -115,13 +106,6 @@ static const struct {
 // Null, with the reason logged by Brushel, when the bank can't be made.
 T_TEXTURE_BANK *MakeStandardIconBank(void)
 {
-    T_TEXTURE_BANK *bank =
-        NewTextureBank("standard", STANDARD_ICON_COUNT, STANDARD_ICON_SIZE, STANDARD_ICON_SIZE);
-    if (!bank)
-        return NULL;
-    for (const auto &row : standard_icons) {
-        T_ICON_CANVAS canvas = IconCanvas(bank, row.icon);
-        row.draw(&canvas);
-    }
-    return bank;
+    return DrawIconBank("standard", STANDARD_ICON_COUNT, STANDARD_ICON_SIZE, standard_icons,
+                        sizeof standard_icons / sizeof *standard_icons);
 }

@@ -14,6 +14,8 @@ T_TEXTURE_BANK *MakeStandardIconBank(void);
 
 // Windows (window.cpp): creation from an init record, used by CreateObject; a popup for menus.
 t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init);
+// A window made while the input focus stays with the window that had it; null if it can't be made.
+t_Window *CreateWindowKeepingFocus(const char *name, T_WINDOWOBJINIT *init);
 // A popup (an open menu): a top-level window without frame at x, y, w, h, with WEX_POPUP set,
 // drawn above everything and hit first. It doesn't take the input focus; keys still reach its
 // handlers first. Remove it with RemoveWindow. Null only when memory runs out.
@@ -94,7 +96,7 @@ typedef struct T_POSTED_MESSAGE {
 
 // Handlers (handlers.cpp). Calls go through a snapshot of the list, each handler checked to be
 // still on it before its call, so a handler may delete handlers or windows while it runs.
-#define HANDLERS_MAX 64
+#define HANDLERS_MAX 64  // handlers of one window
 u32 SnapshotHandlers(t_Window *window, t_Handler **out, u32 max);
 int HandlerIsOn(t_Window *window, t_Handler *handler);
 void ForgetHandler(t_Handler *handler);  // drops every reference the toolkit holds to it
@@ -103,7 +105,29 @@ void ForgetHandler(t_Handler *handler);  // drops every reference the toolkit ho
 #define HOVER_DELAY_MS 600
 #define TOOLBAR_HOVER_MS 600
 
+// Dialogs (dialog.cpp): a window of a user area of user_w by user_h, centred on its live parent
+// (a child of it) or on the screen (top level), kept on the screen, in the dialog colour.
+typedef struct T_DIALOG_SPEC {
+    const char *title;
+    t_Window *parent;  // null, or no longer live: a top-level window
+    i16 user_w, user_h;
+    u32 flags, idcmp;  // WF_CHILD is set or cleared by the parent
+    T_MESSAGE_FN message;
+    // The handler that holds the dialog's record, a block of handler_size bytes.
+    T_HANDLER_INPUT input;
+    T_HANDLER_PAINT paint;
+    const char *handler_name;
+    u32 handler_size;
+} T_DIALOG_SPEC;
+// The frame's place and size in `init`, for a frame of frame_w by frame_h.
+void PlaceDialog(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h);
+t_Window *OpenDialogWindow(const T_DIALOG_SPEC *spec);  // the window alone; null if it can't be made
+// The dialog's handler block (its window at ->window); null, and no window, when either can't be
+// made.
+void *OpenDialog(const T_DIALOG_SPEC *spec);
+
 // Windows (window.cpp).
+#define WINDOW_TITLE_SIZE 512  // a title with its suffix, as the title bar shows it
 #define CASCADE_STEP 16  // pixels between cascade places, down and right
 #define CASCADE_STEPS 8  // places before the cascade starts again
 t_Window *FocusWindow(void);
@@ -116,7 +140,9 @@ int IsPopup(t_Window *window);
 // of everything its top-level window holds, toolbars too, and only the screen cuts it. Painted and
 // hit after the window tree, back to front in the tree's order.
 int IsFloating(t_Window *window);
-#define FLOATING_MAX 32
+#define FLOATING_MAX 32     // floating windows open at once
+#define POPUPS_MAX 32       // menus and popups open at once
+#define TOP_WINDOWS_MAX 64  // top-level windows told that the display closes
 // The live, open floating windows, back to front, into `out`; returns how many.
 u32 CollectFloatingWindows(t_Window **out, u32 max);
 void BreakPress(void);  // event 33 to the window holding the press, and the capture ends
@@ -147,16 +173,22 @@ void PaintScreen(const T_RPOS *area);
 int RectIntersect(T_RPOS *a, const T_RPOS *b);  // a becomes a ∩ b; false when empty
 
 // Gadgets (gadget_handler.cpp, gadget_classes.cpp).
-typedef void (*T_GADGET_DRAW_FN)(t_gadget *gadget, int focused);
+// The functions of a row of the class table, as types that also declare them.
+typedef void T_GADGET_DRAW(t_gadget *gadget, int focused);
 // Behaviour: the event against the gadget's rectangle changes its state and returns the mouse bit
 // to report (0: nothing to report).
-typedef u32 (*T_GADGET_MOUSE_FN)(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
+typedef u32 T_GADGET_MOUSE(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
 // A key given to the gadget: 0 not taken, else GADGET_KEY_TAKEN or'ed with a mouse bit to report.
-typedef u32 (*T_GADGET_KEY_FN)(t_gadget *gadget, u16 key, u16 qualifiers);
-typedef void (*T_GADGET_FREE_FN)(t_gadget *gadget);
+typedef u32 T_GADGET_KEY(t_gadget *gadget, u16 key, u16 qualifiers);
+typedef void T_GADGET_FREE(t_gadget *gadget);
 // The type's own belongings from the init record (class_data, a buffer); false when memory runs
 // out, and the gadget is then freed unmade.
-typedef int (*T_GADGET_INIT_FN)(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
+typedef int T_GADGET_INIT(t_gadget *gadget, const T_GADGETOBJECTINIT *init);
+typedef T_GADGET_DRAW *T_GADGET_DRAW_FN;
+typedef T_GADGET_MOUSE *T_GADGET_MOUSE_FN;
+typedef T_GADGET_KEY *T_GADGET_KEY_FN;
+typedef T_GADGET_FREE *T_GADGET_FREE_FN;
+typedef T_GADGET_INIT *T_GADGET_INIT_FN;
 #define GADGET_KEY_TAKEN 0x10000
 
 typedef struct T_GADGET_CLASS {
@@ -171,6 +203,9 @@ typedef struct T_GADGET_CLASS {
 } T_GADGET_CLASS;
 
 const T_GADGET_CLASS *GadgetClass(u16 type);
+// A field's ground: the field colour (the gadget's own when solid, grey when disabled) and its sunk
+// border unless it has none.
+void DrawFieldBackground(t_gadget *gadget, const T_RPOS &rect);
 T_RPOS GadgetRect(t_gadget *gadget);  // screen_x, screen_y, base_width, base_height
 int TextBearingType(u16 type);
 void PaintGadgets(t_Window *window);

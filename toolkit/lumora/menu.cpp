@@ -117,7 +117,7 @@ void SetDetachedMenuWidth(t_Window *window, t_Menu *menu)
             arrow = MENU_ARROW_ROOM;
         u32 key = MenuEntryKey(entry);
         if (key) {
-            char name[64];
+            char name[KEY_NAME_SIZE];
             i32 width = GetStringWidth(KeyName(key, name));
             if (width > widest_key)
                 widest_key = width;

@@ -147,7 +147,7 @@ static i32 FirstPickable(t_Menu *menu)
 t_Window *OpenMenuLevel(i32 level, t_Window *owner, T_MENU_HANDLER *bar, t_Menu *menu, i16 x, i16 y,
                         i32 highlight)
 {
-    if (!menu || level < 0 || level >= MENU_MAX_LEVELS || level > open_menus.depth)
+    if (!menu || level < 0 || !QF_EXPECT(level < MENU_MAX_LEVELS) || level > open_menus.depth)
         return NULL;
     CloseFromLevel(level);
     T_RPOS panel = {x, y, 0, 0};
@@ -498,7 +498,7 @@ static void DrawEntry(t_Menu *entry, const T_RPOS *panel, i16 y, int highlighted
         key_right = (i16)(right - MENU_ARROW_ROOM);
     }
     if (u32 key = MenuEntryKey(entry)) {
-        char name[64];
+        char name[KEY_NAME_SIZE];
         KeyName(key, name);
         DrawText((i16)(key_right - GetStringWidth(name) - 4), text_y, name, colour);
     }

@@ -65,6 +65,7 @@ static void WrapText(T_MSGBOX *box) {
         at += n + skip;
         if (at > length) break;
     }
+    QF_EXPECT(at > length);  // else the lines past MSGBOX_MAX_LINES are not shown
 }
 
 static T_MSGBOX *BoxOf(t_Window *window) { return (T_MSGBOX *)window->user_data; }
@@ -184,88 +185,88 @@ t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 s
     return NewMsgBoxLabels(parent, title, text, style, item_code, NULL);
 }
 
-t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style,
-                          u32 item_code, const char *const *labels) {
-    if (parent && !IsWindowLive(parent)) parent = NULL;
-    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
-    int question = (style & 0x0F) == 3;
-    u32 count = question ? 3 : 1;
-    T_MSGBOX_BUTTON buttons[3];
-    for (u32 i = 0; i < count; i++) {
-        buttons[i] = question ? question_buttons[i] : ok_buttons[i];
-        if (labels && labels[i]) buttons[i].label = labels[i];
-    }
-    u16 glyph = (style & 16) ? GLYPH_ERROR : (style & 64) ? GLYPH_INFO : (style & 32) ? GLYPH_QUESTION
-                                                                                    : GLYPH_NONE;
-    // Measure: the text's lines, the buttons' row, the glyph.
-    T_MSGBOX measure = {};
-    measure.text_size = (u32)strlen(text ? text : "") + 1;
-    measure.text = (char *)AllocMemC(measure.text_size);
-    memcpy(measure.text, text ? text : "", measure.text_size);
-    WrapText(&measure);
+// A box's size: its text's lines, its glyph, its buttons (all as wide as the widest).
+typedef struct T_MSGBOX_SIZE {
+    i16 user_w, user_h;
+    i16 button_w, button_h, row_w;  // a button, and the row of them
+} T_MSGBOX_SIZE;
+
+static T_MSGBOX_SIZE MeasureMsgBox(const T_MSGBOX *box) {
     SetActiveFont(NULL);
     SetFontStyle(0);
     i16 fh = (i16)GetActiveFontHeight();
     i16 text_w = 0;
-    for (u16 i = 0; i < measure.lines; i++) {
-        i16 lw = (i16)GetStringWidthN(measure.text + measure.line_start[i], measure.line_length[i]);
+    for (u16 i = 0; i < box->lines; i++) {
+        i16 lw = (i16)GetStringWidthN(box->text + box->line_start[i], box->line_length[i]);
         if (lw > text_w) text_w = lw;
     }
-    i16 button_w = MSGBOX_BUTTON_MIN_W, button_h = fh + 10;
-    for (u32 i = 0; i < count; i++) {
-        i16 bw = (i16)GetStringWidth(buttons[i].label) + 24;
-        if (bw > button_w) button_w = bw;
+    T_MSGBOX_SIZE size = {};
+    size.button_w = MSGBOX_BUTTON_MIN_W, size.button_h = fh + 10;
+    for (u32 i = 0; i < box->button_count; i++) {
+        i16 bw = (i16)GetStringWidth(box->buttons[i].label) + 24;
+        if (bw > size.button_w) size.button_w = bw;
     }
-    i16 row_w = (i16)(count * button_w + (count - 1) * MSGBOX_BUTTON_GAP);
-    i16 glyph_w = glyph != GLYPH_NONE ? MSGBOX_GLYPH + MSGBOX_PAD : 0;
-    i16 user_w = MSGBOX_PAD + glyph_w + text_w + MSGBOX_PAD;
-    if (user_w < row_w + 2 * MSGBOX_PAD) user_w = row_w + 2 * MSGBOX_PAD;
-    i16 body_h = measure.lines * fh;
-    if (glyph != GLYPH_NONE && body_h < MSGBOX_GLYPH) body_h = MSGBOX_GLYPH;
-    i16 user_h = MSGBOX_PAD + body_h + MSGBOX_PAD + button_h + MSGBOX_PAD;
-    i16 frame_w = user_w + 2 * rec->border_size, frame_h = user_h + 2 * rec->border_size + rec->title_height;
+    u32 count = box->button_count;
+    size.row_w = (i16)(count * size.button_w + (count - 1) * MSGBOX_BUTTON_GAP);
+    i16 glyph_w = box->glyph != GLYPH_NONE ? MSGBOX_GLYPH + MSGBOX_PAD : 0;
+    size.user_w = MSGBOX_PAD + glyph_w + text_w + MSGBOX_PAD;
+    if (size.user_w < size.row_w + 2 * MSGBOX_PAD) size.user_w = size.row_w + 2 * MSGBOX_PAD;
+    i16 body_h = box->lines * fh;
+    if (box->glyph != GLYPH_NONE && body_h < MSGBOX_GLYPH) body_h = MSGBOX_GLYPH;
+    size.user_h = MSGBOX_PAD + body_h + MSGBOX_PAD + size.button_h + MSGBOX_PAD;
+    return size;
+}
 
-    T_WINDOWOBJINIT init = {};
-    init.w = frame_w, init.h = frame_h;
-    if (parent) {  // centred on the parent's frame; the init place counts from its user area
-        init.x = parent->x + (parent->w - frame_w) / 2 - parent->user_x;
-        init.y = parent->y + (parent->h - frame_h) / 2 - parent->user_y;
-    } else {
-        init.x = (CURRENT_DISPLAY->width - frame_w) / 2;
-        init.y = (CURRENT_DISPLAY->height - frame_h) / 2;
-    }
-    init.flags = MSGBOX_FLAGS | (parent ? WF_CHILD : 0);
-    init.idcmp = IDCMP_TERMINATE;
-    init.message = MsgBoxMessage;
-    init.parent = parent;
-    t_Window *window = CreateWindowObject(title ? title : "", &init);
-    if (!window) {
-        FreeMem(measure.text, measure.text_size);
-        return NULL;
-    }
-    window->UserAreaColour = rec->dialog_colour;
-    T_MSGBOX *box = (T_MSGBOX *)NewHandler(&window->handlers, MsgBoxInput, MsgBoxPaint, "msgbox", 0,
-                                           sizeof(T_MSGBOX), window);
-    t_Handler head = box->head;
-    *box = measure;
-    box->head = head;
-    box->parent = parent, box->item_code = item_code;
-    memcpy(box->buttons, buttons, sizeof(buttons));
-    box->button_count = count, box->glyph = glyph;
-    window->user_data = box;
-
+// The buttons in a row centred at the bottom; item codes count them from 1; the first has the focus.
+static void AddMsgBoxButtons(t_Window *window, const T_MSGBOX *box, const T_MSGBOX_SIZE &size) {
     t_Gaget_Handler *gh = NewGadgetHandler(window);
     T_GADGETOBJECTINIT gi = {};
     gi.type = GADGET_TYPE_BUTTON;
-    gi.base_width = button_w, gi.base_height = button_h;
+    gi.base_width = size.button_w, gi.base_height = size.button_h;
     gi.action = ACT_LMOUSE_UP;
-    gi.y = user_h - MSGBOX_PAD - button_h;
-    for (u32 i = 0; i < count; i++) {
-        gi.x = (user_w - row_w) / 2 + (i16)(i * (button_w + MSGBOX_BUTTON_GAP));
+    gi.y = size.user_h - MSGBOX_PAD - size.button_h;
+    for (u32 i = 0; i < box->button_count; i++) {
+        gi.x = (size.user_w - size.row_w) / 2 + (i16)(i * (size.button_w + MSGBOX_BUTTON_GAP));
         gi.item_code = i + 1;
-        CreateObject(&gh->head, buttons[i].label, &gi);
+        CreateObject(&gh->head, box->buttons[i].label, &gi);
     }
     gh->current_gadget = gh->first_gadget;
+}
+
+t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style,
+                          u32 item_code, const char *const *labels) {
+    if (parent && !IsWindowLive(parent)) parent = NULL;
+    // The box's record, made before its window so that the window can be sized to it.
+    T_MSGBOX measure = {};
+    int question = (style & 0x0F) == 3;
+    measure.button_count = question ? 3 : 1;
+    for (u32 i = 0; i < measure.button_count; i++) {
+        measure.buttons[i] = question ? question_buttons[i] : ok_buttons[i];
+        if (labels && labels[i]) measure.buttons[i].label = labels[i];
+    }
+    measure.glyph = (style & 16) ? GLYPH_ERROR : (style & 64) ? GLYPH_INFO : (style & 32) ? GLYPH_QUESTION
+                                                                                        : GLYPH_NONE;
+    measure.parent = parent, measure.item_code = item_code;
+    measure.text_size = (u32)strlen(text ? text : "") + 1;
+    measure.text = (char *)AllocMemC(measure.text_size);
+    memcpy(measure.text, text ? text : "", measure.text_size);
+    WrapText(&measure);
+    T_MSGBOX_SIZE size = MeasureMsgBox(&measure);
+
+    const T_DIALOG_SPEC spec = {title,       parent,      size.user_w, size.user_h, MSGBOX_FLAGS | WF_CHILD,
+                                IDCMP_TERMINATE, MsgBoxMessage, MsgBoxInput, MsgBoxPaint, "msgbox",
+                                sizeof(T_MSGBOX)};
+    T_MSGBOX *box = (T_MSGBOX *)OpenDialog(&spec);
+    if (!box) {
+        FreeMem(measure.text, measure.text_size);
+        return NULL;
+    }
+    t_Handler head = box->head;
+    *box = measure;
+    box->head = head;
+    t_Window *window = head.window;
+    window->user_data = box;
+    AddMsgBoxButtons(window, box, size);
     return window;
 }
 

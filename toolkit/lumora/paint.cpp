@@ -27,7 +27,7 @@ static void Clip(const T_RPOS &r) { ClipInsideWindow(r.x, r.y, r.x + r.w, r.y + 
 // in the fill. That keeps a repaint from filling the screen three times over (the desktop, the
 // main window, a page). `lumora_state.paint_every_background` turns it off, for tests that compare.
 
-#define HOLES_MAX 32
+#define HOLES_MAX 32  // windows whose frames a background is painted round
 
 // Whether a window covers all of its frame (as far as its clip lets it show) when it is painted.
 static int CoversItsFrame(t_Window *w) {
@@ -64,9 +64,10 @@ static void FillAround(T_RPOS area, u32 colour, const T_RPOS *holes, int count) 
 static int CollectHoles(t_List *list, const T_RPOS &user, const T_RPOS &clip, T_RPOS *holes) {
     int count = 0;
     if (lumora_state.paint_every_background) return 0;
-    for (t_Node *n = list->first; n->next && count < HOLES_MAX; n = n->next) {
+    for (t_Node *n = list->first; n->next; n = n->next) {
         t_Window *c = (t_Window *)n;
         if (!CoversItsFrame(c)) continue;
+        if (!QF_EXPECT(count < HOLES_MAX)) break;  // the rest is painted under, as without holes
         T_RPOS frame = {c->x, c->y, c->w, c->h};
         if (RectIntersect(&frame, (c->flags & WF_CLIP_PARENT) ? &user : &clip)) holes[count++] = frame;
     }
@@ -76,7 +77,7 @@ static int CollectHoles(t_List *list, const T_RPOS &user, const T_RPOS &clip, T_
 static void PaintWindow(t_Window *w, T_RPOS clip) {
     if (!IsWindowLive(w) || w->state != WINDOW_STATE_OPEN) return;
     T_RPOS frame = {w->x, w->y, w->w, w->h};
-    T_RPOS user = {w->user_x, w->user_y, w->user_w, w->user_h};
+    T_RPOS user = UserArea(w);
     int frame_visible = RectIntersect(&frame, &clip);
     int user_visible = RectIntersect(&user, &clip);
     if (frame_visible) {
@@ -91,7 +92,7 @@ static void PaintWindow(t_Window *w, T_RPOS clip) {
                 PaintWindowBitmap(w);
             } else {
                 T_RPOS holes[HOLES_MAX];
-                T_RPOS whole_user = {w->user_x, w->user_y, w->user_w, w->user_h};
+                T_RPOS whole_user = UserArea(w);
                 FillAround(user, w->UserAreaColour, holes, CollectHoles(&w->children, whole_user, clip, holes));
             }
         }

@@ -54,14 +54,11 @@ T_PROGRESS_BAR *NewProgressBar(const char *title, u32 steps)
     init.h = (i16)(PROGRESS_USER_HEIGHT + DISPLAY_RECORD->title_height + 2 * DISPLAY_RECORD->border_size);
     init.x = (i16)((CURRENT_DISPLAY->width - init.w) / 2);
     init.y = (i16)((CURRENT_DISPLAY->height - init.h) / 2);
-    t_Window *focus = FocusWindow();
-    t_Window *window = CreateWindowObject(title ? title : "", &init);
+    t_Window *window = CreateWindowKeepingFocus(title ? title : "", &init);  // the work goes on where it was
     if (!window) {
         myprintf(0, "NewProgressBar: the window of \"%s\" could not be made\n", title ? title : "");
         return NULL;
     }
-    if (IsWindowLive(focus))  // the work goes on where it was
-        ISetActiveWindow(focus);
     T_PROGRESS_BAR *bar = (T_PROGRESS_BAR *)AllocMemC(sizeof(T_PROGRESS_BAR));
     bar->window = window;
     bar->steps = steps;

@@ -53,7 +53,7 @@ static t_Window *MinimisedAt(t_List *list, i16 x, i16 y, T_RPOS clip) {
 static t_Window *HitOne(t_Window *w, i16 x, i16 y, T_RPOS clip, t_Window **minimised) {
     if (!IsWindowLive(w) || IsPopup(w) || w->state != WINDOW_STATE_OPEN || (w->flags & WF_NO_MOUSE))
         return NULL;
-    T_RPOS user = {w->user_x, w->user_y, w->user_w, w->user_h};
+    T_RPOS user = UserArea(w);
     RectIntersect(&user, &clip);
     if ((*minimised = MinimisedAt(&w->children, x, y, user))) return NULL;
     for (t_Node *c = w->children.last; c->prev; c = c->prev) {
@@ -220,16 +220,24 @@ static void RouteMove(i16 x, i16 y) {
     CallMouseMoveHooks();
 }
 
+// An event for the open popups' handlers, the top one first, until one takes it. The popups are
+// taken first, since a handler may close them.
+static int OfferToPopups(u32 event, void *data) {
+    t_Window *popups[POPUPS_MAX];
+    u32 n = 0;
+    for (t_Node *p = TopLevel()->last; p->prev; p = p->prev)
+        if (IsWindowLive((t_Window *)p) && IsPopup((t_Window *)p)) {
+            if (!QF_EXPECT(n < POPUPS_MAX)) break;
+            popups[n++] = (t_Window *)p;
+        }
+    for (u32 i = 0; i < n; i++)
+        if (IsWindowLive(popups[i]) && OfferToHandlers(popups[i], event, data, AnyKind)) return 1;
+    return 0;
+}
+
 // While a popup is open, a press outside every popup goes first to the popups' handlers.
 static int OfferOutside(T_MOUSE_MSG *m) {
-    t_Window *popups[32];
-    u32 n = 0;
-    for (t_Node *p = TopLevel()->last; p->prev && n < 32; p = p->prev)
-        if (IsWindowLive((t_Window *)p) && IsPopup((t_Window *)p)) popups[n++] = (t_Window *)p;
-    for (u32 i = 0; i < n; i++)
-        if (IsWindowLive(popups[i]) && OfferToHandlers(popups[i], HANDLER_EVENT_OUTSIDE, m, AnyKind))
-            return 1;
-    return 0;
+    return OfferToPopups(HANDLER_EVENT_OUTSIDE, m);
 }
 
 static int IsWithinWindow(t_Window *w, t_Window *ancestor) {
@@ -349,13 +357,7 @@ static void RouteKey(u16 key, u16 qualifiers) {
             return;
         }
     }
-    t_Window *popups[32];
-    u32 n = 0;
-    for (t_Node *p = TopLevel()->last; p->prev && n < 32; p = p->prev)
-        if (IsWindowLive((t_Window *)p) && IsPopup((t_Window *)p)) popups[n++] = (t_Window *)p;
-    for (u32 i = 0; i < n; i++)
-        if (IsWindowLive(popups[i]) && OfferToHandlers(popups[i], HANDLER_EVENT_KEY, &km, AnyKind))
-            return;
+    if (OfferToPopups(HANDLER_EVENT_KEY, &km)) return;
     focus = FocusWindow();
     if (!IsWindowLive(focus)) return;
     if (OfferToHandlers(focus, HANDLER_EVENT_KEY, &km, AnyKind) || !IsWindowLive(focus)) return;
@@ -403,7 +405,7 @@ static void RouteDrop(const char *path) {
         myprintf(3, "A dropped file found no window to take it: %s\n", path);
         return;
     }
-    char directory[1024], name[1024];
+    char directory[FILE_PATH_SIZE], name[FILE_PATH_SIZE];
     XGetPath(directory, path);
     StripPath(name, path);
     T_DROPPED_FILE file = {directory, name};
@@ -411,9 +413,10 @@ static void RouteDrop(const char *path) {
 }
 
 static void RouteQuit(void) {
-    t_Window *windows[64];
+    t_Window *windows[TOP_WINDOWS_MAX];
     u32 n = 0;
-    for (t_Node *w = TopLevel()->first; w->next && n < 64; w = w->next) windows[n++] = (t_Window *)w;
+    for (t_Node *w = TopLevel()->first; w->next && QF_EXPECT(n < TOP_WINDOWS_MAX); w = w->next)
+        windows[n++] = (t_Window *)w;
     for (u32 i = 0; i < n; i++) DeliverMessage(windows[i], 0, ACT_TERMINATE, NULL);
 }
 

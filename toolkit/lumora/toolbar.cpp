@@ -183,14 +183,11 @@ T_TOOLBAR_HANDLER *NewToolBar(t_Window *window, const char *name)
     init.idcmp = IDCMP_TERMINATE;
     init.message = ToolBarMessage;
     init.parent = window;
-    t_Window *focus = FocusWindow();
-    t_Window *bar_window = CreateWindowObject(name, &init);
+    t_Window *bar_window = CreateWindowKeepingFocus(name, &init);  // a toolbar never takes the focus
     if (!bar_window) {
         myprintf(0, "NewToolBar: the window of %s could not be made\n", name ? name : "a toolbar");
         return NULL;
     }
-    if (IsWindowLive(focus))  // a toolbar never keeps the input focus
-        ISetActiveWindow(focus);
     T_TOOLBAR_HANDLER *toolbar = (T_TOOLBAR_HANDLER *)AllocMemC(sizeof(T_TOOLBAR_HANDLER));
     toolbar->window = bar_window;
     toolbar->owner = window;

@@ -89,7 +89,7 @@ int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_roo
     InitList(&st->bitmaps, "bitmaps");
     AttachScreen();
 
-    char font_dir[1024];
+    char font_dir[FILE_PATH_SIZE];
     snprintf(font_dir, sizeof(font_dir), "%s", MakePathFromSystem("System\\Fonts"));
     if (!InitFonts(font_dir)) myprintf(0, "OpenToolkit: no system font could be read\n");
 

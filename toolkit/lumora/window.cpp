@@ -31,7 +31,7 @@ static void CollectFloating(t_List *list, t_Window **out, u32 max, u32 *count) {
     for (t_Node *n = list->first; n->next; n = n->next) {
         t_Window *w = (t_Window *)n;
         if (!IsWindowLive(w) || w->state != WINDOW_STATE_OPEN || IsPopup(w)) continue;
-        if (IsFloating(w) && *count < max) out[(*count)++] = w;
+        if (IsFloating(w) && QF_EXPECT(*count < max)) out[(*count)++] = w;
         CollectFloating(&w->children, out, max, count);
     }
 }
@@ -187,6 +187,13 @@ t_Window *CreateWindowObject(const char *name, T_WINDOWOBJINIT *init) {
     if (w->flags & WF_OPEN_FULLSCREEN) ToggleMaximise(w);
     ISetActiveWindow(w);
     return w;
+}
+
+t_Window *CreateWindowKeepingFocus(const char *name, T_WINDOWOBJINIT *init) {
+    t_Window *focus = FocusWindow();
+    t_Window *window = CreateWindowObject(name, init);
+    if (window && IsWindowLive(focus)) ISetActiveWindow(focus);
+    return window;
 }
 
 t_Window *CreatePopupWindow(i16 x, i16 y, i16 w, i16 h, T_MESSAGE_FN message) {
@@ -379,6 +386,10 @@ void RecalcUserSize(t_Window *window) {
     if (gh)
         for (t_gadget *g = gh->first_gadget; g->next; g = g->next)
             RecalcGadgetPosition(window, g, 0, 0, 0);
+}
+
+T_RPOS UserArea(const t_Window *window) {
+    return T_RPOS{window->user_x, window->user_y, window->user_w, window->user_h};
 }
 
 t_Window *FindWindowByName(t_Window *parent, const char *name) {

@@ -30,7 +30,7 @@ static T_RESOURCE *OpenBitmap(const char *name) {
             ((T_RESOURCE *)n)->use_count++;
             return (T_RESOURCE *)n;
         }
-    char path[1024];
+    char path[FILE_PATH_SIZE];
     if (IsAbsolutePath(name))
         snprintf(path, sizeof(path), "%s", name);
     else

@@ -70,7 +70,7 @@ const char *MarshalryStorePath(const char *folder, const char *name, const char 
                                int make_folder) {
     if (make_folder && !MakeEntireDirectory(MakePathFromSystem(folder)))
         return NULL;
-    char relative[256];
+    char relative[RELATIVE_PATH_SIZE];
     int prefix = snprintf(relative, sizeof(relative), "%s/", folder);
     snprintf(relative + prefix, sizeof(relative) - (size_t)prefix, "%s%s", name ? name : "",
              extension);

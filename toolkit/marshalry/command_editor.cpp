@@ -43,7 +43,7 @@ static void FillList(T_KEY_EDITOR *e) {
     T_GADGETOBJECTINIT gi = {};
     gi.parent_gadget = e->list;
     for (T_APP_COMMAND *c = (T_APP_COMMAND *)e->app->commands.first; c->next; c = c->next) {
-        char line[KEYED_LINE_SIZE], key[32];
+        char line[KEYED_LINE_SIZE], key[KEY_NAME_SIZE];
         KeyName(c->key, key);
         snprintf(line, sizeof line, "%s: %s%s%s", c->group, c->name, key[0] ? "\t" : "", key);
         CreateObject(&e->list_gadget->handler->head, line, &gi);
@@ -66,7 +66,7 @@ static void TakeKey(t_Window *window, u16 key) {
     T_KEY_EDITOR *e = EditorOf(window);
     T_APP_COMMAND *holder = FindAppCommandByKey(e->app, key);
     if (holder && holder != e->picked) {
-        char name[32], text[KEYED_LINE_SIZE];
+        char name[KEY_NAME_SIZE], text[KEYED_LINE_SIZE];
         snprintf(text, sizeof text, "The key %s is already used by %s.", KeyName(key, name),
                  holder->name);
         NewMsgBox(window, "Keyboard", text, 16, 0);
@@ -148,31 +148,12 @@ static u32 KeyEditorInput(t_Handler *handler, u32 event, void *data) {
 
 t_Window *OpenApplicationCmdEditWindow(t_Window *parent, T_APPLICATION *app) {
     if (!app) return NULL;
-    if (parent && !IsWindowLive(parent)) parent = NULL;
-    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
-    T_WINDOWOBJINIT wi = {};
-    wi.w = KEYED_USER_W + 2 * rec->border_size;
-    wi.h = KEYED_USER_H + 2 * rec->border_size + rec->title_height;
-    i16 x = parent ? parent->x + (parent->w - wi.w) / 2 : (CURRENT_DISPLAY->width - wi.w) / 2;
-    i16 y = parent ? parent->y + (parent->h - wi.h) / 2 : (CURRENT_DISPLAY->height - wi.h) / 2;
-    if (x < 0) x = 0;
-    if (y < 0) y = 0;
-    wi.x = parent ? x - parent->user_x : x;  // a child's place counts from the parent's user area
-    wi.y = parent ? y - parent->user_y : y;
-    wi.flags = parent ? KEYED_FLAGS : KEYED_FLAGS & ~WF_CHILD;
-    wi.idcmp = IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE;
-    wi.message = KeyEditorMessage;
-    wi.parent = parent;
-    t_Window *window =
-        (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, "Keyboard", &wi);
-    if (!window) return NULL;
-    window->UserAreaColour = rec->dialog_colour;
-    T_KEY_EDITOR *e = (T_KEY_EDITOR *)NewHandler(&window->handlers, KeyEditorInput, NULL,
-                                                 "key editor", 0, sizeof(T_KEY_EDITOR), window);
-    if (!e) {
-        RemoveWindow(window);
-        return NULL;
-    }
+    const T_DIALOG_SPEC spec = {"Keyboard",     parent, KEYED_USER_W, KEYED_USER_H,
+                                KEYED_FLAGS,    IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, KeyEditorMessage,
+                                KeyEditorInput, NULL,   "key editor", sizeof(T_KEY_EDITOR)};
+    T_KEY_EDITOR *e = (T_KEY_EDITOR *)OpenDialog(&spec);
+    if (!e) return NULL;
+    t_Window *window = e->head.window;
     window->user_data = e;
     e->app = app;
     t_Gaget_Handler *gh = NewGadgetHandler(window);

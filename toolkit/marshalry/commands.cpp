@@ -62,7 +62,7 @@ static void LoadKeyStore(T_APPLICATION *app) {
     char *text = LoadStoreText(path, &size, &app->broken_stores, STORE_KEYS);
     if (!text)
         return;
-    char line[1024];
+    char line[READ_LINE_SIZE];
     u32 used, line_number = 0;
     for (const char *at = text; (used = ReadLine(line, at, text + size)) > 0; at += used) {
         u32 item_code, key;

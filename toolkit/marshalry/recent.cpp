@@ -56,7 +56,7 @@ static void LoadRecentFiles(T_APPLICATION *app, T_RECENT_TYPE *type) {
     char *text = LoadStoreText(path, &size, &app->broken_stores, STORE_RECENT);
     if (!text)
         return;
-    char line[1024];
+    char line[READ_LINE_SIZE];
     u32 used, line_number = 0;
     for (const char *at = text; (used = ReadLine(line, at, text + size)) > 0; at += used) {
         line_number++;

@@ -62,7 +62,7 @@ void ReadToolConfig(T_TOOL_SETUP *setup, void *config) {
     enum { MAX_PLACES = 64 };
     T_RPOS places[MAX_PLACES];
     u16 known[MAX_PLACES] = {};
-    char line[1024];
+    char line[READ_LINE_SIZE];
     u32 used, line_number = 0;
     int garbage = 0;
     for (const char *at = text; !garbage && (used = ReadLine(line, at, text + size)) > 0;

@@ -12,7 +12,7 @@
 
 #include "ostrand_internal.h"
 
-#define READLINE_MAX 1023  // the callers' line buffers are 1024 bytes
+#define READLINE_MAX (READ_LINE_SIZE - 1)  // the callers' line buffers are READ_LINE_SIZE bytes
 #define TEMP_SUFFIX ".tmp"  // the temporary file of a save is ".<name>.tmp" beside the target
 
 static u32 last_load_size;

@@ -9,7 +9,7 @@
 void myprintf(int level, const char *format, ...) {
     if (level > _OstrandBase->log_level || !format)
         return;
-    char buffer[1024];
+    char buffer[LOG_LINE_SIZE];
     va_list args;
     va_start(args, format);
     int length = vsnprintf(buffer, sizeof(buffer), format, args);

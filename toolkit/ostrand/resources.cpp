@@ -45,7 +45,7 @@ static u32 GetU32(const u8 *at) {
 
 // The store file of a resource; separators in the name become '_'.
 static const char *StorePath(const char *name) {
-    char relative[256];
+    char relative[RELATIVE_PATH_SIZE];
     snprintf(relative, sizeof(relative), STORE_FOLDER "/%s" STORE_EXTENSION, name);
     for (char *c = relative + sizeof(STORE_FOLDER); *c; c++)
         if (*c == '/' || *c == '\\')

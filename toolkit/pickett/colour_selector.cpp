@@ -200,7 +200,7 @@ static void DropColour(T_COLOUR_SELECTOR *s, i16 x, i16 y) {
             DropColourOnGadget(target, g, &colour);
         return;
     }
-    T_RPOS user = {target->user_x, target->user_y, target->user_w, target->user_h};
+    T_RPOS user = UserArea(target);
     if (PointBoxColl(x, y, &user)) DeliverMessage(target, COLSEL_DROP_ITEM, ACT_RECEIVE_OBJECT, &colour);
 }
 
@@ -329,16 +329,12 @@ t_Window *AddColourSelector(T_COLOURSEL_INIT *init) {
     t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
     i16 rh = SelectorRowHeight(), pad = SELECTOR_PAD, gap = SELECTOR_GAP;
     i16 user_h = pad + COLSEL_SWATCH_H + gap + COLSEL_CHANNELS * (rh + gap) + COLSEL_GROUP_GAP + gap + rh + pad;
-    t_Window *window = OpenSelectorWindow(init->title, parent, COLSEL_USER_W, user_h, COLSEL_FLAGS,
-                                          IDCMP_TERMINATE, ColourSelectorMessage);
-    if (!window) return NULL;
-    T_COLOUR_SELECTOR *s =
-        (T_COLOUR_SELECTOR *)NewHandler(&window->handlers, ColourSelectorInput, ColourSelectorPaint,
-                                        "colour selector", 0, sizeof(T_COLOUR_SELECTOR), window);
-    if (!s) {
-        RemoveWindow(window);
-        return NULL;
-    }
+    const T_DIALOG_SPEC spec = {init->title,         parent,              COLSEL_USER_W,     user_h,
+                                COLSEL_FLAGS,        IDCMP_TERMINATE,     ColourSelectorMessage,
+                                ColourSelectorInput, ColourSelectorPaint, "colour selector", sizeof(T_COLOUR_SELECTOR)};
+    T_COLOUR_SELECTOR *s = (T_COLOUR_SELECTOR *)OpenDialog(&spec);
+    if (!s) return NULL;
+    t_Window *window = s->head.window;
     window->user_data = &s->sel;
     s->sel = T_COLOURSEL{window, init->rgba, init->hsia, init->item_code, init->user_data};
     s->swatch = T_RPOS{pad, pad, (i16)(COLSEL_USER_W - 2 * pad), COLSEL_SWATCH_H};

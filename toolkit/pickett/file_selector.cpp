@@ -210,16 +210,12 @@ static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data) {
 t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init) {
     if (!init) return NULL;
     t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
-    t_Window *window = OpenSelectorWindow(init->title, parent, FILESEL_USER_W, FILESEL_USER_H, FILESEL_FLAGS,
-                                          IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FileSelectorMessage);
-    if (!window) return NULL;
-    T_FILE_SELECTOR *s =
-        (T_FILE_SELECTOR *)NewHandler(&window->handlers, FileSelectorInput, NULL, "file selector",
-                                      0, sizeof(T_FILE_SELECTOR), window);
-    if (!s) {
-        RemoveWindow(window);
-        return NULL;
-    }
+    const T_DIALOG_SPEC spec = {init->title,       parent,          FILESEL_USER_W,  FILESEL_USER_H,
+                                FILESEL_FLAGS,     IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FileSelectorMessage,
+                                FileSelectorInput, NULL,            "file selector", sizeof(T_FILE_SELECTOR)};
+    T_FILE_SELECTOR *s = (T_FILE_SELECTOR *)OpenDialog(&spec);
+    if (!s) return NULL;
+    t_Window *window = s->head.window;
     window->user_data = s;
     s->parent = parent;
     s->item_code = init->item_code;

@@ -182,34 +182,6 @@ int SplitTypedName(T_FILE_REQUESTER_ANSWER *answer, const char *folder, const ch
 
 // --- Placing and answering -----------------------------------------------------------------------
 
-void PlaceSelector(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h) {
-    i16 sw = CURRENT_DISPLAY->width, sh = CURRENT_DISPLAY->height;
-    i16 x = parent ? parent->x + (parent->w - frame_w) / 2 : (sw - frame_w) / 2;
-    i16 y = parent ? parent->y + (parent->h - frame_h) / 2 : (sh - frame_h) / 2;
-    if (x + frame_w > sw) x = sw - frame_w;
-    if (y + frame_h > sh) y = sh - frame_h;
-    if (x < 0) x = 0;
-    if (y < 0) y = 0;
-    init->w = frame_w, init->h = frame_h;
-    init->x = parent ? x - parent->user_x : x;
-    init->y = parent ? y - parent->user_y : y;
-}
-
-t_Window *OpenSelectorWindow(const char *title, t_Window *parent, i16 user_w, i16 user_h, u32 flags,
-                             u32 idcmp, T_MESSAGE_FN message) {
-    parent = IsWindowLive(parent) ? parent : NULL;
-    T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
-    T_WINDOWOBJINIT wi = {};
-    PlaceSelector(&wi, parent, user_w + 2 * rec->border_size, user_h + 2 * rec->border_size + rec->title_height);
-    wi.flags = parent ? flags : flags & ~WF_CHILD;
-    wi.idcmp = idcmp;
-    wi.message = message;
-    wi.parent = parent;
-    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, title ? title : "", &wi);
-    if (window) window->UserAreaColour = rec->dialog_colour;
-    return window;
-}
-
 u32 SelectorKeyAnswer(t_Window *window, t_gadget *cancel, u16 key) {
     if (key == KEY_ESCAPE || (key == KEY_RETURN && GetCurrentGadget(window) == cancel)) return ACT_REQUESTER_CANCEL;
     return key == KEY_RETURN ? ACT_REQUESTER_OK : 0;

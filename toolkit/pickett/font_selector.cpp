@@ -223,16 +223,12 @@ static u32 FontSelectorInput(t_Handler *handler, u32 event, void *data) {
 t_Window *NewFontSelector(T_FONTSEL_INIT *init) {
     if (!init) return NULL;
     t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
-    t_Window *window = OpenSelectorWindow(init->title, parent, FONTSEL_USER_W, FONTSEL_USER_H, FONTSEL_FLAGS,
-                                          IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FontSelectorMessage);
-    if (!window) return NULL;
-    T_FONT_SELECTOR *s =
-        (T_FONT_SELECTOR *)NewHandler(&window->handlers, FontSelectorInput, FontSelectorPaint,
-                                      "font selector", 0, sizeof(T_FONT_SELECTOR), window);
-    if (!s) {
-        RemoveWindow(window);
-        return NULL;
-    }
+    const T_DIALOG_SPEC spec = {init->title,       parent,            FONTSEL_USER_W,  FONTSEL_USER_H,
+                                FONTSEL_FLAGS,     IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FontSelectorMessage,
+                                FontSelectorInput, FontSelectorPaint, "font selector", sizeof(T_FONT_SELECTOR)};
+    T_FONT_SELECTOR *s = (T_FONT_SELECTOR *)OpenDialog(&spec);
+    if (!s) return NULL;
+    t_Window *window = s->head.window;
     window->user_data = &s->sel;
     s->sel.window = window;
     s->sel.parent = parent;

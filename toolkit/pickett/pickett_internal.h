@@ -1,6 +1,7 @@
 // What the selectors of Pickett share and no user of the toolkit sees: reading a folder for a
 // selector's list, wildcard patterns, and the path steps of the file selector.
 #pragma once
+#include "lumora/lumora_internal.h"
 #include "toolkit.h"
 
 #define PICKETT_PATH_SIZE 1024  // the paths the selectors keep and build
@@ -41,13 +42,7 @@ char *JoinPath(char *dest, u32 size, const char *folder, const char *name);
 // was.
 int SplitTypedName(T_FILE_REQUESTER_ANSWER *answer, const char *folder, const char *typed);
 
-// Where a selector opens: centred on the parent's frame (or the screen), kept on the screen; the
-// result counts from the parent's user area, as a T_WINDOWOBJINIT wants it.
-void PlaceSelector(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h);
-// A selector's window, placed by PlaceSelector for a user area of user_w by user_h, in the dialog
-// colour; without a live parent it is a top-level window. Null when the toolkit can't make it.
-t_Window *OpenSelectorWindow(const char *title, t_Window *parent, i16 user_w, i16 user_h, u32 flags,
-                             u32 idcmp, T_MESSAGE_FN message);
+// A selector opens as a dialog (OpenDialog), centred on its parent and kept on the screen.
 // The answer a key gives in a selector: Escape, or Enter on the Cancel button, cancels; Enter
 // elsewhere is OK; any other key gives 0.
 u32 SelectorKeyAnswer(t_Window *window, t_gadget *cancel, u16 key);

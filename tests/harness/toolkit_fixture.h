@@ -1,5 +1,5 @@
-// Input for the toolkit's own tests: a headless toolkit in a temporary data root, synthetic
-// presses, moves, keys and typing, and turns of the loop.
+// The toolkit's own suites' fixture: a headless toolkit in a temporary data root, windows and
+// gadgets made through the toolkit's handlers, and the messages a window was given.
 #pragma once
 #include <gtest/gtest.h>
 
@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "lumora/lumora_internal.h"
+#include "tests/harness/input.h"
 
 // A headless screen of 800 by 600 in a fresh data root for each test.
 class LumoraTest : public ::testing::Test {
@@ -16,17 +17,6 @@ class LumoraTest : public ::testing::Test {
     std::string data_root;
     u64 blocks_at_start;  // every block the toolkit took is given back at close
 };
-
-void Turn(int turns = 1);  // turns of the loop; each advances the virtual clock by a frame
-void Move(i16 x, i16 y, u16 qualifiers = 0);
-void Press(i16 x, i16 y, u16 button = 1, u16 qualifiers = 0);
-void Release(i16 x, i16 y, u16 button = 1, u16 qualifiers = 0);
-// Press and release in one turn, then a pause long enough that the next press is no double click.
-void Click(i16 x, i16 y, u16 button = 1, u16 qualifiers = 0);
-void DoubleClick(i16 x, i16 y);               // two quick clicks in one turn, then the pause
-void Drag(i16 x1, i16 y1, i16 x2, i16 y2);  // press, two moves, release, one turn
-void Key(u16 key, u16 qualifiers = 0);      // pushed and taken in one turn
-void TypeText(const char *text);
 
 // What a window's message function was given.
 struct RECORDED_MESSAGE {

@@ -1,2 +1,0 @@
-// The Lumora suite's headless input helpers, built into this suite as well.
-#include "lumora/lumora_input.cpp"
