@@ -26,11 +26,6 @@ static struct {
     i16 pastes;        // the offsets taken there so far
 } copied;
 
-static int IsMarked(const t_gadget *gadget)
-{
-    return (gadget->live_flags & GADGET_MARK_SELECTED) != 0;
-}
-
 // The marked gadgets in list order, or the current gadget when none is marked.
 static std::vector<t_gadget *> GadgetsToCopy(t_Window *page)
 {
@@ -39,7 +34,7 @@ static std::vector<t_gadget *> GadgetsToCopy(t_Window *page)
     if (!handler)
         return gadgets;
     for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
-        if (IsMarked(g))
+        if (IsGadgetMarked(g))
             gadgets.push_back(g);
     if (gadgets.empty() && handler->current_gadget)
         for (t_gadget *g = handler->first_gadget; g->next; g = g->next)

@@ -55,16 +55,6 @@ void TellMainWindow(t_Window *window, u32 item_code)
         SendWindowMessage(window->parent, item_code, ACT_MENU_OPEN, NULL);
 }
 
-static T_WINEDIT_HANDLER *PageRecord(t_Window *window)
-{
-    return IsPageWindow(window) ? (T_WINEDIT_HANDLER *)window->user_data : NULL;
-}
-
-static int IsMarked(const t_gadget *gadget)
-{
-    return (gadget->live_flags & GADGET_MARK_SELECTED) != 0;
-}
-
 static void SnapshotAll(t_Window *window)
 {
     t_gadget *first = FirstPageGadget(window);
@@ -75,7 +65,7 @@ static void SnapshotAll(t_Window *window)
 void SnapshotGeometry(void *node)
 {
     t_gadget *gadget = (t_gadget *)node;
-    if (!IsMarked(gadget))
+    if (!IsGadgetMarked(gadget))
         return;
     gadget->prev_x = gadget->pos_x;
     gadget->prev_y = gadget->pos_y;
@@ -102,13 +92,13 @@ void ToggleStyleFlag(t_Window *window, u32 bit)
     MarkCurrentIfNothingMarked(window);
     t_gadget *first_marked = NULL;
     for (t_gadget *g = handler->first_gadget; g->next && !first_marked; g = g->next)
-        if (IsMarked(g))
+        if (IsGadgetMarked(g))
             first_marked = g;
     if (!first_marked)
         return;
     int clear = (first_marked->live_flags & bit) != 0;
     for (t_gadget *g = first_marked; g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         if (clear) {
             g->live_flags &= ~bit;
@@ -375,7 +365,7 @@ static u32 PressOnGadget(T_WINEDIT_HANDLER *record, t_Window *window, t_gadget *
     }
     // With no qualifier the gadget becomes the selection, unless it belongs to a larger one.
     if ((msg->keyboard_flags & QUAL_MARK_KEEP) == 0 &&
-        (!IsMarked(gadget) || CountMarkedGadgets(gadget) == 1)) {
+        (!IsGadgetMarked(gadget) || CountMarkedGadgets(gadget) == 1)) {
         ClearAllMarkedGadgets(gadget);
         gadget->live_flags |= GADGET_MARK_SELECTED;
     }
@@ -384,7 +374,7 @@ static u32 PressOnGadget(T_WINEDIT_HANDLER *record, t_Window *window, t_gadget *
     record->drag_last_y = record->drag_start_y;
     record->edit_state &= ~EDIT_DRAGGING;
     for (t_gadget *g = (t_gadget *)FindFirstNode((t_Node *)gadget); g->next; g = g->next)
-        if (IsMarked(g))
+        if (IsGadgetMarked(g))
             g->live_flags |= GADGET_MARK_DRAG;
     window->mouse_move_fn = GadgetDragMove;
     window->mouse_move_data = gadget;
@@ -420,7 +410,7 @@ static u32 ReleaseOnGadget(T_WINEDIT_HANDLER *record, t_Window *window, t_gadget
     record->edit_state &= ~EDIT_DRAGGING;
     RecalcUserSize(window);
     for (t_gadget *g = (t_gadget *)FindFirstNode((t_Node *)gadget); g->next; g = g->next)
-        if (IsMarked(g))
+        if (IsGadgetMarked(g))
             g->live_flags &= ~GADGET_MARK_DRAG;
     record->drag_gadget = NULL;
     record->drag_handle = HANDLE_NONE;
@@ -430,7 +420,7 @@ static u32 ReleaseOnGadget(T_WINEDIT_HANDLER *record, t_Window *window, t_gadget
 
 u32 GadgetEditAction(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg)
 {
-    T_WINEDIT_HANDLER *record = PageRecord(window);
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     if (!record || !gadget || !msg)
         return 0;
     if (msg->keyboard_flags & QUAL_GADGET_KEY)
@@ -455,7 +445,7 @@ u32 GadgetEditAction(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg)
 void GadgetDragMove(t_Window *window, void *gadget)
 {
     (void)gadget;
-    T_WINEDIT_HANDLER *record = PageRecord(window);
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     if (!record)
         return;
     if (!(record->edit_state & EDIT_DRAGGING)) {
@@ -476,7 +466,7 @@ void GadgetDragMove(t_Window *window, void *gadget)
     // step, and the marks round them, they are all that the step changes.
     i32 left = INT16_MAX, top = INT16_MAX, right = INT16_MIN, bottom = INT16_MIN;
     for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         left = g->screen_x < left ? g->screen_x : left;
         top = g->screen_y < top ? g->screen_y : top;

@@ -22,21 +22,11 @@
 #define GEOMETRY_FLAG_ALIGN 1  // and for the alignment and equal-size items
 #define FONT_NAME_SIZE 256     // a font's file name
 
-static int IsMarked(const t_gadget *gadget)
-{
-    return (gadget->live_flags & GADGET_MARK_SELECTED) != 0;
-}
-
 static void ClearMarks(t_Window *window)
 {
     t_gadget *first = FirstPageGadget(window);
     if (first)
         ClearAllMarkedGadgets(first);
-}
-
-static T_WINEDIT_HANDLER *PageRecord(t_Window *window)
-{
-    return IsPageWindow(window) ? (T_WINEDIT_HANDLER *)window->user_data : NULL;
 }
 
 void MarkCurrentIfNothingMarked(t_Window *window)
@@ -65,11 +55,11 @@ void DeleteMarkedGadgets(t_Window *window)
 {
     MarkCurrentIfNothingMarked(window);
     t_Gaget_Handler *handler = FindGadgetHandler(window);
-    T_WINEDIT_HANDLER *record = PageRecord(window);
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     if (handler) {
         for (t_gadget *g = handler->first_gadget; g->next;) {
             t_gadget *next = g->next;
-            if (IsMarked(g)) {
+            if (IsGadgetMarked(g)) {
                 CloseGadgetDialogs(window, g);
                 ForgetGadgetItemCode(window, g);
                 if (record)
@@ -89,7 +79,7 @@ void CentreMarkedGadgets(t_Window *window, u32 direction)
     MarkCurrentIfNothingMarked(window);
     u32 count = 0;
     for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         count++;
         if (direction == CENTRE_HORIZONTAL)
@@ -129,7 +119,7 @@ static u32 SizeMarkedOnly(t_Window *window)
 {
     u32 sized = 0;
     for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         if (GadgetKindHas(g->type, KIND_SIZES_TO_CONTENTS)) {
             SizeGadgetToContents(window, g);
@@ -162,7 +152,7 @@ static i32 AlignMarkedOnly(t_Window *window, u32 edge)
     i16 x = current->pos_x, y = current->pos_y;
     i32 count = 0;
     for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         count++;
         if (edge == ALIGN_LEFT_EDGES)
@@ -183,7 +173,7 @@ static i32 SameSizeMarkedOnly(t_Window *window)
     i16 w = current->pos_width, h = current->pos_height;
     i32 count = 0;
     for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         count++;
         g->pos_width = g->base_width = w;
@@ -224,7 +214,7 @@ void ApplyFontToMarked(t_Window *window, t_Window *selector)
     if (font)
         FreeFont(font);  // the gadgets hold the font through their resources
     for (t_gadget *g = FirstPageGadget(window); g && g->next; g = g->next) {
-        if (!IsMarked(g) || !name[0])
+        if (!IsGadgetMarked(g) || !name[0])
             continue;  // no font picked: the gadget keeps its own
         if (g->font)
             RemoveResource(g->font);
@@ -235,7 +225,7 @@ void ApplyFontToMarked(t_Window *window, t_Window *selector)
 
 void ApplyGadgetMenuCommand(t_Window *window, u32 item_code)
 {
-    T_WINEDIT_HANDLER *record = PageRecord(window);
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     t_gadget *first = FirstPageGadget(window);
     if (!record || !first)
         return;
@@ -284,7 +274,7 @@ static i16 LeftInUserArea(t_Window *window, const t_gadget *g)
 static void NoteMoves(t_Window *window, t_gadget *first)
 {
     RecalcUserSize(window);
-    if (T_WINEDIT_HANDLER *record = PageRecord(window))
+    if (T_WINEDIT_HANDLER *record = PageRecordOf(window))
         AddGeometryUndo(record, first, GEOMETRY_FLAG_SIZE);
     window->state_flags |= WSF_MODIFIED;
 }
@@ -296,7 +286,7 @@ void FlipMarkedGadgets(t_Window *window)
         return;
     i32 left = 0x7FFF, right = -0x8000;
     for (t_gadget *g = first; g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         i32 x = LeftInUserArea(window, g);
         if (x < left)
@@ -306,7 +296,7 @@ void FlipMarkedGadgets(t_Window *window)
     }
     ApplyFuncToList((t_Node *)first, SnapshotGeometry);
     for (t_gadget *g = first; g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         i32 mirrored = left + right - (LeftInUserArea(window, g) + g->base_width);
         g->pos_x = (i16)((g->live_flags & GADGET_FLAGS_FROM_RIGHT) ? window->user_w - mirrored - g->base_width
@@ -322,7 +312,7 @@ int NudgeMarkedGadgets(t_Window *window, i16 dx, i16 dy)
         return 0;
     ApplyFuncToList((t_Node *)first, SnapshotGeometry);
     for (t_gadget *g = first; g->next; g = g->next) {
-        if (!IsMarked(g))
+        if (!IsGadgetMarked(g))
             continue;
         g->pos_x = (i16)(g->live_flags & GADGET_FLAGS_FROM_RIGHT ? g->pos_x - dx : g->pos_x + dx);
         g->pos_y = (i16)(g->live_flags & GADGET_FLAGS_FROM_BOTTOM ? g->pos_y - dy : g->pos_y + dy);
@@ -333,14 +323,13 @@ int NudgeMarkedGadgets(t_Window *window, i16 dx, i16 dy)
 
 // --- Item codes ----------------------------------------------------------------------------------
 
-#define TAB_FIRST_MARK 0x80000000u  // on tab[0] of the first gadget of the tab order
 
 // A tab link to the gadget that held `code` now holds the gadget's new code; a link that named no
 // gadget stays as it was.
 static u32 RelinkedTab(const std::unordered_map<u32, u32> &renumbered, u32 link)
 {
-    std::unordered_map<u32, u32>::const_iterator found = renumbered.find(link & ~TAB_FIRST_MARK);
-    return found == renumbered.end() ? link : found->second | (link & TAB_FIRST_MARK);
+    std::unordered_map<u32, u32>::const_iterator found = renumbered.find(link & ~TAB_LINK_FIRST);
+    return found == renumbered.end() ? link : found->second | (link & TAB_LINK_FIRST);
 }
 
 void ReorderItemCodes(t_Window *window)

@@ -18,7 +18,6 @@
 
 #define PREVIEW_HANDLER_NAME "preview"
 #define PREVIEW_FLAGS (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_IN_FRONT | WF_DEPENDANT)
-#define TAB_FIRST_MARK 0x80000000u  // on tab[0] of the first gadget of the tab order
 
 // The preview's handler: keys first. `page` names the page it was made from, for comparing only.
 typedef struct T_PREVIEW {
@@ -44,7 +43,7 @@ static t_gadget *AlongTabOrder(t_Window *window, t_gadget *from, int backwards)
 {
     u32 guard = PageGadgetCount(window) + 1;
     for (t_gadget *g = from; g && guard; guard--) {
-        u32 code = (backwards ? g->tab[0] : g->tab[1]) & ~TAB_FIRST_MARK;
+        u32 code = (backwards ? g->tab[0] : g->tab[1]) & ~TAB_LINK_FIRST;
         g = code ? FindGadgetByCode(window, code) : NULL;
         if (g && TakesFocus(g))
             return g;
@@ -57,7 +56,7 @@ static t_gadget *FirstInTabOrder(t_Window *window)
 {
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     for (t_gadget *g = handler ? handler->first_gadget : NULL; g && g->next; g = g->next)
-        if (g->tab[0] & TAB_FIRST_MARK)
+        if (g->tab[0] & TAB_LINK_FIRST)
             return TakesFocus(g) ? g : AlongTabOrder(window, g, 0);
     return NULL;
 }

@@ -9,7 +9,6 @@
 
 #define TAB_TEXT_NO_CODE "X"    // shown by a gadget without an item code
 #define TAB_BOX_PADDING 4       // the box is the text and this much more each way
-#define TAB_LINK_FIRST 0x80000000u  // tab[0] of the chain's first gadget
 #define TAB_LINE_BEFORE 0xFF    // red
 #define TAB_LINE_AFTER 0xFF00   // green
 

@@ -26,18 +26,6 @@
 #define NEW_GADGET_MAX 100  // the value range of a gadget made with a tool
 #define NEW_GADGET_STEP 1
 
-// True when `gadget` is on the window's gadget list; compares addresses only.
-static int GadgetIsOnPage(t_Window *window, const t_gadget *gadget)
-{
-    t_Gaget_Handler *handler = gadget && window ? FindGadgetHandler(window) : NULL;
-    if (!handler)
-        return 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
-        if (g == gadget)
-            return 1;
-    return 0;
-}
-
 // The page's own pointers leave a gadget that goes.
 static void ForgetInPage(t_Window *window, const t_gadget *gadget)
 {

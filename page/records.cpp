@@ -18,6 +18,22 @@ int IsPageWindow(t_Window *window)
     return record->tag[0] == 'W' && record->tag[1] == 'E' && record->tag[2] == 'H';
 }
 
+T_WINEDIT_HANDLER *PageRecordOf(t_Window *window)
+{
+    return window && IsPageWindow(window) ? (T_WINEDIT_HANDLER *)window->user_data : NULL;
+}
+
+int GadgetIsOnPage(t_Window *window, const t_gadget *gadget)
+{
+    t_Gaget_Handler *handler = gadget && window ? FindGadgetHandler(window) : NULL;
+    if (!handler)
+        return 0;
+    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
+        if (g == gadget)
+            return 1;
+    return 0;
+}
+
 int NothingMarked(t_gadget *gadget)
 {
     if (!gadget)

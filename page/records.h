@@ -76,6 +76,11 @@ static_assert(sizeof(T_EDITOR_CONFIG) == 548, "the stored settings block is 548 
 #define CONFIG_OPTIMISE 1
 #define CONFIG_TYPE_ORDER 2
 #define CONFIG_BACKUPS 4
+// What a new settings block holds, and what a save uses when the module has none.
+#define CONFIG_DEFAULT_FLAGS (CONFIG_OPTIMISE | CONFIG_TYPE_ORDER | CONFIG_BACKUPS)
+
+// On tab[0] of the first gadget of the tab order; the rest of tab[0] and tab[1] are item codes.
+#define TAB_LINK_FIRST 0x80000000u
 
 // Module-wide state.
 extern T_EDITOR_CONFIG *editor_config;  // moves at exit: read through this pointer at each use
@@ -85,6 +90,16 @@ extern t_Menu gadget_context_menu;      // "Multiple Modify"
 // A child of the main window is a page when it is not dependant, has a user_data, and that
 // record's tag begins with "WEH".
 int IsPageWindow(t_Window *window);
+// The page record of a page window; null for any other window.
+T_WINEDIT_HANDLER *PageRecordOf(t_Window *window);
+// True when `gadget` is marked (selected) on its page.
+static inline int IsGadgetMarked(const t_gadget *gadget)
+{
+    return (gadget->live_flags & GADGET_MARK_SELECTED) != 0;
+}
+// True when `gadget` is still on the window's gadget list (a dialog's gadget may have gone while it
+// stood); compares addresses only.
+int GadgetIsOnPage(t_Window *window, const t_gadget *gadget);
 // Walks the list from its first node, clearing each drag mark; false at the first selected
 // gadget, true at the tail. Null gives false.
 int NothingMarked(t_gadget *gadget);

@@ -18,11 +18,6 @@ static const T_DIALOG_FRAME message_frame = {
 #define ROW_X 8
 #define ROW_WIDTH 32
 
-static T_WINEDIT_HANDLER *PageRecordOf(t_Window *window)
-{
-    return (T_WINEDIT_HANDLER *)window->user_data;
-}
-
 t_Window *OpenMessageControl(t_Window *page)
 {
     if (!page || !IsPageWindow(page))

@@ -18,7 +18,7 @@ static void SetConfigDefaults(T_EDITOR_CONFIG *config)
     strncpy(config->last_path, MakePathFromSystem("Projects\\QfFiles"), sizeof(config->last_path) - 1);
     strcpy(config->backup_path, "Backup");
     config->size = EDITOR_CONFIG_SIZE;
-    config->flags = CONFIG_OPTIMISE | CONFIG_TYPE_ORDER | CONFIG_BACKUPS;
+    config->flags = CONFIG_DEFAULT_FLAGS;
     config->open_count = 0;
 }
 

@@ -23,6 +23,13 @@ static inline const char *ReadingSource(const T_READING *reading)
     return reading->source ? reading->source : "";
 }
 
+// Sets a line's byte in the line map: the reader didn't take the line.
+static inline void MarkForeign(T_READING *reading, u32 index)
+{
+    if (reading->line_map && index < reading->lines_total)
+        reading->line_map[index] = 1;
+}
+
 // What a WINDOW block said, gathered until the window is made.
 typedef struct T_WINDOW_READ {
     T_WINDOWOBJINIT init;  // the bitmap points into `bitmap`, or is null

@@ -42,7 +42,7 @@ static int RepairCodesAndNumberTabs(t_Window *page)
             SetGadgetItemCode(page, g, NextFreeItemCodeOf(page));
             changed = 1;
         }
-        if (!head && (g->tab[0] & SRC_TAB_FIRST))
+        if (!head && (g->tab[0] & TAB_LINK_FIRST))
             head = g;
         if (!AddItemCodeOf(&seen, g->item_code, g)) {
             myprintf(0, "No memory to repair the item codes of %s\n", page->name);

@@ -5,13 +5,6 @@
 #include "source/open_page.h"
 #include "source/source_format.h"
 
-// Sets a line's byte in the line map: the reader didn't take it.
-static void MarkForeign(T_READING *reading, u32 index)
-{
-    if (reading->line_map && index < reading->lines_total)
-        reading->line_map[index] = 1;
-}
-
 // The first word of `words` that stands in the line decides: its bit, unless it is set already.
 typedef struct T_DECLARATION_WORD {
     const char *word;

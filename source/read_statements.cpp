@@ -17,12 +17,6 @@ static T_GADGETOBJECTINIT gadget_init;
 static char hover_buffer[READER_HOVER_SIZE];
 static char font_buffer[READER_NAME_SIZE];
 
-static void MarkForeign(T_READING *reading, u32 index)
-{
-    if (reading->line_map && index < reading->lines_total)
-        reading->line_map[index] = 1;
-}
-
 int LineHasWord(const char *line, const char *word)
 {
     return line[0] != '\0' && strstr(line, word) != NULL;

@@ -9,8 +9,6 @@
 #include "source/source_format.h"
 #include "source/source_writer.h"
 
-// What a save uses when the module has no settings block: the defaults of a new one.
-static const u32 default_save_settings = CONFIG_OPTIMISE | CONFIG_TYPE_ORDER | CONFIG_BACKUPS;
 
 void SaveMessageFunction(u32 idcmp, const char *plain_name, t_Gaget_Handler *gadget_handler)
 {
@@ -108,7 +106,7 @@ static void TellSaveError(t_Window *window, const char *format, const char *deta
 
 int SavePage(t_Window *window, const char *path)
 {
-    u32 settings = editor_config ? editor_config->flags : default_save_settings;
+    u32 settings = editor_config ? editor_config->flags : CONFIG_DEFAULT_FLAGS;
     if (!editor_config)
         myprintf(0, "SavePage: no settings block; saving %s with the default settings", path);
 

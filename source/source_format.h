@@ -86,7 +86,6 @@
 #define SRC_RETURN_WIN "\treturn(win);\n"
 
 // --- Tab links ---------------------------------------------------------------------------------
-#define SRC_TAB_FIRST 0x80000000u  // on tab[0] of the first gadget of the tab order
 
 // --- What a save tells the user ----------------------------------------------------------------
 #define SRC_SAVE_BAR_TITLE "Saving page"

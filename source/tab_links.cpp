@@ -86,7 +86,7 @@ void BuildTabLinks(t_Window *window)
             }
             if (!before)  // a gap in the numbers, or index 0
                 before = first_highest;
-            g->tab[0] = before->item_code | (number == 1 ? SRC_TAB_FIRST : 0);
+            g->tab[0] = before->item_code | (number == 1 ? TAB_LINK_FIRST : 0);
             const T_LINK_ENTRY *after = Member(&index, entries, number + 1);
             if (!after)
                 after = Member(&index, entries, 1);

@@ -27,7 +27,7 @@ std::string LargePageFile(u32 count)
     char block[512];
     for (u32 i = 0; i < count; i++) {
         u32 code = i % 7 == 6 ? i / 3 + 1 : i % 11 == 10 ? 0 : i + 1;
-        u32 before = i == 0 ? SRC_TAB_FIRST | (count / 2) : i;  // the head is gadget 0
+        u32 before = i == 0 ? TAB_LINK_FIRST | (count / 2) : i;  // the head is gadget 0
         u32 after = i < count / 2 ? i + 2 : (i + 3) % count + 1;  // a chain, then a ring of its own
         if (i % 97 == 50)
             after = 999999;  // a link to no gadget
@@ -67,7 +67,7 @@ void ReferenceTabOrder(std::vector<t_gadget *> &gadgets)
 {
     t_gadget *head = NULL;
     for (t_gadget *g : gadgets)
-        if (!head && (g->tab[0] & SRC_TAB_FIRST))
+        if (!head && (g->tab[0] & TAB_LINK_FIRST))
             head = g;
     if (!head)
         return;

@@ -16,7 +16,7 @@ struct TAB_CASE {
 
 TEST_F(SourceTest, TabLinksTable)
 {
-    const u32 first = SRC_TAB_FIRST;
+    const u32 first = TAB_LINK_FIRST;
     const TAB_CASE cases[] = {
         {"a ring", {{10, 3, 30, 20}, {20, 1, first | 10, 30}, {30, 2, 20, 10}}},
         {"duplicates: the first in list order is found",
