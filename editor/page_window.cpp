@@ -27,6 +27,12 @@ static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY |
 
 T_PAGE_HOST page_host;
 
+void ConnectEditor(void)
+{
+    editor_hooks.make_page_window = CreatePageWindow;
+    editor_hooks.gadget_action = GadgetEditAction;
+}
+
 t_Window *CreatePageWindow(t_Window *parent, char *name, u32 flags, i16 x1, i16 y1, i16 x2, i16 y2)
 {
     i16 x = x1 < x2 ? x1 : x2;

@@ -5,7 +5,6 @@
 #include <stdio.h>
 #include <string.h>
 
-#include "editor/mouse_editing.h"
 
 #define TEXT_BUFFER_SIZE 256
 #define CREATED_MARK GADGET_MARK_CREATED
@@ -304,7 +303,7 @@ t_gadget *CreateGadgetByTool(t_Window *window, i16 tool, T_GADGETOBJECTINIT *cal
     if (!gadget)
         return NULL;
     AttachTextBuffer(gadget, row, init.data);
-    gadget->action_fn = GadgetEditAction;
+    gadget->action_fn = editor_hooks.gadget_action;
     if (row->traits & KIND_CLICKABLE)
         gadget->live_flags &= ~GADGET_FLAGS_PASSIVE;
 

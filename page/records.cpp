@@ -8,6 +8,7 @@
 T_EDITOR_CONFIG *editor_config;
 T_RESOURCE *config_resource;
 t_Menu gadget_context_menu;
+T_EDITOR_HOOKS editor_hooks;
 
 int IsPageWindow(t_Window *window)
 {

@@ -79,6 +79,20 @@ static_assert(sizeof(T_EDITOR_CONFIG) == 548, "the stored settings block is 548 
 // What a new settings block holds, and what a save uses when the module has none.
 #define CONFIG_DEFAULT_FLAGS (CONFIG_OPTIMISE | CONFIG_TYPE_ORDER | CONFIG_BACKUPS)
 
+// The smallest page: a window below it is no page (a box drawn smaller makes none).
+#define PAGE_MIN_WIDTH 32
+#define PAGE_MIN_HEIGHT 12
+
+// What the layers below the editor call of it, given by the editor when the module starts
+// (ConnectEditor): they stand below it and don't call it by name.
+typedef struct T_EDITOR_HOOKS {
+    // Makes a page window from the box x1, y1 to x2, y2 of the parent (the reader opens pages so).
+    t_Window *(*make_page_window)(t_Window *parent, char *name, u32 flags, i16 x1, i16 y1, i16 x2, i16 y2);
+    // The action function of every gadget on a page: the catalogue hangs it on what it makes.
+    T_ACTION_FN gadget_action;
+} T_EDITOR_HOOKS;
+extern T_EDITOR_HOOKS editor_hooks;
+
 // On tab[0] of the first gadget of the tab order; the rest of tab[0] and tab[1] are item codes.
 #define TAB_LINK_FIRST 0x80000000u
 

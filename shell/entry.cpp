@@ -63,6 +63,7 @@ extern "C" __attribute__((visibility("default"))) t_Window *Dll_OpenQuillformWin
     AddRecentFileType(application, RECENT_FILE_TYPE, 6);
     RegisterCommands(application);
     FillPageHost(&page_host);
+    ConnectEditor();
 
     // The main window.
     T_WINDOWOBJINIT init;

@@ -4,7 +4,6 @@
 #include <stdlib.h>
 #include <string.h>
 
-#include "editor/page_window.h"
 #include "page/catalogue.h"
 #include "source/name_tables.h"
 #include "source/open_page.h"
@@ -241,8 +240,10 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
         return position;
     }
     i16 k = (i16)(parent->cascade_index * 16);
-    t_Window *page = CreatePageWindow(parent, name, window.init.flags, k, k, (i16)(k + window.init.w),
-                                      (i16)(k + window.init.h));
+    if (!editor_hooks.make_page_window)
+        return position;
+    t_Window *page = editor_hooks.make_page_window(parent, name, window.init.flags, k, k, (i16)(k + window.init.w),
+                                                   (i16)(k + window.init.h));
     if (!page)
         return position;
     page->idcmp = window.init.idcmp;
