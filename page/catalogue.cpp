@@ -228,7 +228,7 @@ static void *KindData(const T_CATALOGUE_ROW *row)
     }
 }
 
-// Steps 1-4: the creation record of the kind, from the caller's arguments and the row.
+// The creation record of the kind, from the caller's arguments and the row.
 static void FillCreationRecord(T_GADGETOBJECTINIT *init, const T_GADGET_TOOL_ARGS *args,
                                const T_CATALOGUE_ROW *row)
 {
@@ -267,7 +267,7 @@ static void FillCreationRecord(T_GADGETOBJECTINIT *init, const T_GADGET_TOOL_ARG
     init->data = KindData(row);
 }
 
-// Steps 6-8: the text buffer, which the gadget owns and frees.
+// The text buffer, which the gadget owns and frees.
 static void AttachTextBuffer(t_gadget *gadget, const T_CATALOGUE_ROW *row, void *data)
 {
     if (row->traits & KIND_TEXT_FROM_FILE) {  // its own buffer is its name
@@ -293,7 +293,7 @@ t_gadget *CreateGadgetByTool(t_Window *window, i16 tool, T_GADGETOBJECTINIT *cal
     T_GADGETOBJECTINIT init;
     FillCreationRecord(&init, &args, row);
 
-    // Step 5: the toolkit's object; for a kind with sample entries, the object that holds them.
+    // The toolkit's object; for a kind with sample entries, the object that holds them.
     void *object = CreateObject(&args.gadget_handler->head, row->object_text, &init);
     t_gadget *gadget = (t_gadget *)object;
     if (row->entry_count) {
@@ -307,7 +307,7 @@ t_gadget *CreateGadgetByTool(t_Window *window, i16 tool, T_GADGETOBJECTINIT *cal
     if (row->traits & KIND_CLICKABLE)
         gadget->live_flags &= ~GADGET_FLAGS_PASSIVE;
 
-    // Step 9: the design fields. The new gadget enters the page's set of codes with 0, which
+    // The design fields. The new gadget enters the page's set of codes with 0, which
     // counts for no code.
     gadget->item_code = 0;
     AddGadgetItemCode(window, gadget);
