@@ -78,9 +78,13 @@ static T_HSIA flat_hsia;
 
 static T_COLOUR_DATA flat_colour = {&flat_rgba, &flat_hsia, 5};
 
+#define SAMPLE_TEXT_SIZE 64                  // a sample entry's text
+#define SAMPLE_LEAF_FORMAT "Leaf %d Entry %d"  // the tree's leaves under each branch
+
 // The texture and scene records: zeroed blocks; the texture's sixth 32-bit word is 16.
-static u32 texture_record[8] = {0, 0, 0, 0, 0, 16, 0, 0};
-static u32 scene_record[8];
+#define KIND_RECORD_WORDS 8
+static u32 texture_record[KIND_RECORD_WORDS] = {0, 0, 0, 0, 0, 16, 0, 0};
+static u32 scene_record[KIND_RECORD_WORDS];
 
 static void FreeTextBuffer(void *any, t_gadget *gadget)
 {
@@ -157,12 +161,12 @@ u32 NextFreeItemCode(t_gadget *first)
 // Three levels of branches under the tree's entry list, the first level in the row's format.
 static void AddSampleBranches(t_List *list, const T_CATALOGUE_ROW *row)
 {
-    char text[64];
+    char text[SAMPLE_TEXT_SIZE];
     for (int branch = 0; branch < row->entry_count; branch++) {
         snprintf(text, sizeof(text), row->entry_format, branch);
         T_LIST_ENTRY *b = NewBranch(list, NULL, text, 0);
         for (int leaf = 0; leaf < row->entry_count; leaf++) {
-            snprintf(text, sizeof(text), "Leaf %d Entry %d", branch, leaf);
+            snprintf(text, sizeof(text), SAMPLE_LEAF_FORMAT, branch, leaf);
             T_LIST_ENTRY *l = NewBranch(&b->children, NULL, text, 0);
             for (int sub = 0; sub < row->entry_count; sub++) {
                 snprintf(text, sizeof(text), "Subleaf %d Entry %d", leaf, sub);
@@ -181,7 +185,7 @@ static void AddSampleEntries(t_Gaget_Handler *handler, T_GADGETOBJECTINIT *init,
         AddSampleBranches(&((T_LIST_DATA *)holder)->entries, row);
         return;
     }
-    char text[64];
+    char text[SAMPLE_TEXT_SIZE];
     init->parent_gadget = holder;
     for (int i = 0; i < row->entry_count; i++) {
         snprintf(text, sizeof(text), row->entry_format, i);

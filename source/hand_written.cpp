@@ -94,7 +94,7 @@ u32 CountHandWrittenLines(const T_WINEDIT_HANDLER *record, const char *path, u32
         return 0;  // a file that is gone holds nothing a save could drop
     u32 size = GetLoadFileSize();
     const char *end = data + size;
-    char line[1024];  // ReadLine gives at most 1023 characters
+    char line[READ_LINE_SIZE];
     u32 count = 0, index = 0;
     for (const char *at = data; index < record->lines_total; index++) {
         u32 used = ReadLine(line, at, end);

@@ -4,9 +4,10 @@
 #pragma once
 #include "page/records.h"
 
-#define READER_LINE_SIZE 1024  // a line holds at most 1023 characters
+#define READER_LINE_SIZE READ_LINE_SIZE  // a longer line is cut by ReadLine
 #define READER_NAME_SIZE 128   // window and gadget names, bitmap and font names
 #define READER_HOVER_SIZE 256
+#define READER_TOKEN_SIZE 256  // a word of a name list; a longer one is cut and matches nothing
 
 // The reading record, one for each file, handed down through all levels of the reader.
 typedef struct T_READING {
@@ -84,6 +85,7 @@ void BeginGadgetBlocks(void);
 int LineHasWord(const char *line, const char *word);
 const char *ValueText(const char *line);
 u32 FieldValue(const char *line, int n);
+// The next word of a name list into `token` (READER_TOKEN_SIZE bytes), up to a '|' or ';'.
 const char *NextNameToken(const char *text, char *token);
 u32 ReadNameList(const char *line, const T_VAL2STRING *table);
 

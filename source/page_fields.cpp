@@ -117,6 +117,7 @@ static T_FIELD_INDEX MakeIndex(const T_PAGE_FIELD *table, const char *prefix)
         index.tails[index.count] = prefixed ? row->word + index.prefix_length : NULL;
         index.tail_lengths[index.count++] = prefixed ? (u8)(length - index.prefix_length) : 0;
     }
+    QF_EXPECT(index.count < FIELD_INDEX_MAX);  // a full index would leave rows unread
     return index;
 }
 

@@ -47,7 +47,7 @@ const char *NextNameToken(const char *text, char *token)
 {
     u32 length = 0;
     while (*text && *text != '|' && *text != ';') {
-        if (length < 255)
+        if (length < READER_TOKEN_SIZE - 1)
             token[length++] = *text;
         text++;
     }
@@ -61,7 +61,7 @@ u32 ReadNameList(const char *line, const T_VAL2STRING *table)
     if (!equals)
         return 0;
     u32 value = 0;
-    char token[256];
+    char token[READER_TOKEN_SIZE];
     const char *at = equals + 1;
     while (*at) {
         at = NextNameToken(at, token);

@@ -9,6 +9,8 @@
 #include "source/source_format.h"
 #include "source/source_writer.h"
 
+#define SAVE_MESSAGE_SIZE 1024  // a message box's text about a save: a path and a reason
+
 
 void SaveMessageFunction(u32 idcmp, const char *plain_name, t_Gaget_Handler *gadget_handler)
 {
@@ -99,7 +101,7 @@ static void OrderGadgetsByType(t_Gaget_Handler *gadget_handler)
 // A message box on the page about a save, with a text made of `format` and `detail`.
 static void TellSaveError(t_Window *window, const char *format, const char *detail)
 {
-    char message[1024];
+    char message[SAVE_MESSAGE_SIZE];
     snprintf(message, sizeof(message), format, detail);
     NewMsgBox(window, SRC_SAVE_ERROR_TITLE, message, SRC_SAVE_ERROR_STYLE, SRC_SAVE_ERROR_ITEM_CODE);
 }
@@ -169,7 +171,7 @@ int SavePage(t_Window *window, const char *path)
     // moved into place.
     if (FinishSaveFile())
         return 1;
-    char message[1024];
+    char message[SAVE_MESSAGE_SIZE];
     snprintf(message, sizeof(message), SRC_SAVE_ERROR_WRITE, path, SaveFileError());
     myprintf(0, "%s", message);
     NewMsgBox(window, SRC_SAVE_ERROR_TITLE, message, SRC_SAVE_ERROR_STYLE, SRC_SAVE_ERROR_ITEM_CODE);
