@@ -156,22 +156,36 @@ int ParseGadgetLine(const char *line, T_GADGETOBJECTINIT *init, T_GADGET_BLOCK *
     return 1;
 }
 
-const char *ReadGadgetsFromFile(t_Window *window, const char *position, const char *end, T_READING *reading)
+// The lines of a block up to its end marker: the line of its creation call (`create_call`, or
+// CreateObject) gives `name`; `parse` takes each other line into `into`, and a line it doesn't take
+// is marked foreign.
+static const char *ReadBlockLines(const char *position, const char *end, T_READING *reading,
+                                  const char *create_call, char *name, void *into,
+                                  int (*parse)(const char *line, void *into))
 {
-    T_GADGET_BLOCK block;
-    memset(&block, 0, sizeof(block));
-    u32 marker_line = reading->lines_read;  // the block's start marker, counted by the caller
     char line[READER_LINE_SIZE];
     while (u32 used = ReadLine(line, position, end)) {
         position += used;
         reading->lines_read++;
         if (LineHasWord(line, SRC_WORD_END))
             break;
-        if (LineHasWord(line, SRC_WORD_CREATE_GADGET) || LineHasWord(line, SRC_WORD_CREATE_OBJECT))
-            ReadNameLine(line, block.name);
-        else if (!ParseGadgetLine(line, &gadget_init, &block))
+        if (LineHasWord(line, create_call) || LineHasWord(line, SRC_WORD_CREATE_OBJECT))
+            ReadNameLine(line, name);
+        else if (!parse(line, into))
             MarkForeign(reading, reading->lines_read - 1);
     }
+    return position;
+}
+
+const char *ReadGadgetsFromFile(t_Window *window, const char *position, const char *end, T_READING *reading)
+{
+    T_GADGET_BLOCK block;
+    memset(&block, 0, sizeof(block));
+    u32 marker_line = reading->lines_read;  // the block's start marker, counted by the caller
+    position = ReadBlockLines(position, end, reading, SRC_WORD_CREATE_GADGET, block.name, &block,
+                              [](const char *line, void *into) {
+                                  return ParseGadgetLine(line, &gadget_init, (T_GADGET_BLOCK *)into);
+                              });
     i16 tool = ToolOfType((u16)gadget_init.type, gadget_init.flags);
     if (!tool)
         return position;
@@ -187,22 +201,8 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
     if (gadget->live_flags & GADGET_FLAGS_ICON)  // the icon chosen in the gadget's bank
         gadget->icon = gadget_init.icon;
     // The font stays from block to block, as the writer's optimised form counts on.
-    switch (gadget->type) {
-    case GADGET_TYPE_BUTTON:
-    case GADGET_TYPE_CHECK_BOX:
-    case GADGET_TYPE_TEXT:
-    case GADGET_TYPE_GROUP:
-    case GADGET_TYPE_RADIOBUTTON:
-    case GADGET_TYPE_COLOUR_FLAT:
-    case GADGET_TYPE_USER:
-    case GADGET_TYPE_TEXTURE:
-    case GADGET_TYPE_SCENE:  // the types with a text buffer take the name from the file
-        if (gadget->user_data)
-            memcpy(gadget->user_data, block.name, strlen(block.name) + 1);
-        break;
-    default:
-        break;
-    }
+    if (GadgetKindHas(gadget->type, KIND_TEXT_FROM_FILE) && gadget->user_data)
+        memcpy(gadget->user_data, block.name, strlen(block.name) + 1);  // its text buffer
     return position;
 }
 
@@ -219,17 +219,8 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
     window.colour = 0xFFFFFFFF;
     u32 marker_line = reading->lines_read;  // the WINDOW marker, counted by the caller
     char name[READER_NAME_SIZE] = "";
-    char line[READER_LINE_SIZE];
-    while (u32 used = ReadLine(line, position, end)) {
-        position += used;
-        reading->lines_read++;
-        if (LineHasWord(line, SRC_WORD_END))
-            break;
-        if (LineHasWord(line, SRC_WORD_CREATE_WINDOW) || LineHasWord(line, SRC_WORD_CREATE_OBJECT))
-            ReadNameLine(line, name);
-        else if (!ParseWindowLine(line, &window))
-            MarkForeign(reading, reading->lines_read - 1);
-    }
+    position = ReadBlockLines(position, end, reading, SRC_WORD_CREATE_WINDOW, name, &window,
+                              [](const char *line, void *into) { return ParseWindowLine(line, (T_WINDOW_READ *)into); });
 
     // Only the size comes from the file; the place comes from the parent's cascade. A size that
     // is no page's (zero, negative, below the smallest page) makes no window, which the opening
@@ -252,6 +243,7 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
     SetWindowBitmap(page, window.init.bitmap);
     reading->window = page;
 
+    char line[READER_LINE_SIZE];
     while (u32 used = ReadLine(line, position, end)) {
         position += used;
         reading->lines_read++;
