@@ -36,16 +36,17 @@ t_Window *CreatePageWindow(t_Window *parent, char *name, u32 flags, i16 x1, i16 
     if (w < PAGE_MIN_WIDTH || h < PAGE_MIN_HEIGHT)
         return NULL;
 
-    T_WINDOWOBJINIT init;
-    memset(&init, 0, sizeof(init));
-    init.x = x;
-    init.y = y;
-    init.w = w;
-    init.h = h;
-    init.flags = flags | WF_CHILD | WF_CLIP_PARENT;
-    init.idcmp = PAGE_IDCMP;
-    init.message = PageMessage;
-    init.parent = parent;
+    T_WINDOWOBJINIT init = {.x = x,
+                            .y = y,
+                            .w = w,
+                            .h = h,
+                            .flags = flags | WF_CHILD | WF_CLIP_PARENT,
+                            .idcmp = PAGE_IDCMP,
+                            .icon = 0,
+                            .icon_bank = NULL,
+                            .bitmap = NULL,
+                            .message = PageMessage,
+                            .parent = parent};
     t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, name, &init);
     if (!window)
         return NULL;
@@ -84,7 +85,7 @@ static void OpenQuery(t_Window *window, T_WINEDIT_HANDLER *record)
         return;
     char *text = _OstrandBase->text_buffer;
     snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_QUERY_UNSAVED, window->name);
-    t_Window *box = NewMsgBox(window, TXT_QUERY_TITLE, text, 35, PAGE_ITEM_QUERY);
+    t_Window *box = NewMsgBox(window, TXT_QUERY_TITLE, text, MSGBOX_QUESTION, PAGE_ITEM_QUERY);
     if (box)
         box->icon_bank = NULL;
     record->query_state = PAGE_QUERY_OPEN;
@@ -161,7 +162,7 @@ void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, cons
     init.parent = parent;
     init.item_code = item_code;
     init.title = title;
-    init.fourth_word = 1;
+    init.single_file = 1;
     init.ok_text = ok_text;
     init.cancel_text = TXT_CANCEL_BUTTON;
     init.path = path;
@@ -238,7 +239,7 @@ int AskBeforeDroppingLines(t_Window *window, T_WINEDIT_HANDLER *record, const ch
     snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_LINES_QUESTION, name, count, count == 1 ? "" : "s",
              count == 1 ? "" : "s", list);
     static const char *const labels[] = {TXT_LINES_SAVE, TXT_LINES_SAVE_AS, TXT_CANCEL_BUTTON};
-    t_Window *box = NewMsgBoxLabels(window, TXT_LINES_TITLE, text, 35, PAGE_ITEM_LINES, labels);
+    t_Window *box = NewMsgBoxLabels(window, TXT_LINES_TITLE, text, MSGBOX_QUESTION, PAGE_ITEM_LINES, labels);
     if (box)
         box->icon_bank = NULL;
     return 1;
@@ -271,7 +272,7 @@ static void FinishSaveAs(t_Window *window, T_WINEDIT_HANDLER *record, const T_FI
         (!ExtensionExists(path) && strlen(path) + 4 >= sizeof(path))) {
         char *text = _OstrandBase->text_buffer;
         snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_PATH_TOO_LONG, answer->name);
-        NewMsgBox(window, TXT_ERROR_TITLE, text, 16, PAGE_ITEM_MESSAGE);
+        NewMsgBox(window, TXT_ERROR_TITLE, text, MSGBOX_ERROR, PAGE_ITEM_MESSAGE);
         PageSaveEnded(window, record, SAVE_DOCUMENT_FAILED, 1);
         return;
     }

@@ -119,7 +119,7 @@ static void OpenSettings(t_Window *main_window)
 
 static void ShowAbout(t_Window *main_window)
 {
-    t_Window *box = NewMsgBox(main_window, TXT_ABOUT_TITLE, TXT_ABOUT_TEXT, 64, ITEM_MAIN_MESSAGE_BOX);
+    t_Window *box = NewMsgBox(main_window, TXT_ABOUT_TITLE, TXT_ABOUT_TEXT, MSGBOX_INFO, ITEM_MAIN_MESSAGE_BOX);
     if (box) {
         box->icon_bank = NULL;
         SetMessageBoxIcon(box, main_window->icon_bank, 0);
