@@ -20,7 +20,6 @@
 #define STYLE_MASK 3
 #define GEOMETRY_FLAG_SIZE 0   // the flag of AddGeometryUndo for "Size to contents"
 #define GEOMETRY_FLAG_ALIGN 1  // and for the alignment and equal-size items
-#define FONT_NAME_SIZE 256     // a font's file name
 #define MATCH_SIZE 2           // beside ALIGN_LEFT_EDGES and ALIGN_TOP_EDGES: the current gadget's size
 
 static void ClearMarks(t_Window *window)

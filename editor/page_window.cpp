@@ -19,6 +19,11 @@
 #include "source/texts.h"
 
 #define LINES_SHOWN 5  // line numbers that the question before a save over hand-written lines names
+#define LINE_NUMBER_SIZE 12  // one of them in the list, with its comma
+#define FONTS_FOLDER "System\\Fonts"  // below the data root: the fonts the selector lists
+#define SOURCE_EXTENSION ".cpp"  // given to a page file named without one
+#define RESIZE_START_WIDTH 64  // "Resize to contents" grows the window from this size
+#define RESIZE_START_HEIGHT 32
 
 // The mask of Quillform's own page window: exactly the messages that PageMessage answers.
 static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE |
@@ -115,7 +120,7 @@ static u16 WaitForQuery(t_Window *window, T_WINEDIT_HANDLER *record)
 // was given up). A clean page goes at once.
 static void ClosePage(t_Window *window)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     if (!(window->state_flags & WSF_MODIFIED)) {
         RemovePage(window, 1);
         return;
@@ -130,7 +135,7 @@ static void ClosePage(t_Window *window)
 
 int AskToSavePage(t_Window *window)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     ISetActiveWindow(window);  // the page that asks comes to the front, restored if minimised
     OpenQuery(window, record);  // or takes over the close query that stands
     record->query_for_exit = 1;
@@ -228,7 +233,7 @@ int AskBeforeDroppingLines(t_Window *window, T_WINEDIT_HANDLER *record, const ch
         record->lines_checked = 1;
         return 0;
     }
-    char list[LINES_SHOWN * 12 + 8] = "";
+    char list[LINES_SHOWN * LINE_NUMBER_SIZE + sizeof(", ...")] = "";
     for (u32 i = 0; i < count && i < LINES_SHOWN; i++)
         snprintf(list + strlen(list), sizeof(list) - strlen(list), "%s%u", i ? ", " : "", numbers[i]);
     if (count > LINES_SHOWN)
@@ -277,7 +282,7 @@ static void FinishSaveAs(t_Window *window, T_WINEDIT_HANDLER *record, const T_FI
         return;
     }
     if (!ExtensionExists(path))
-        strcat(path, ".cpp");
+        strcat(path, SOURCE_EXTENSION);
     if (AskBeforeDroppingLines(window, record, path))
         return;
     if (WriteDocument(window, record, path, 1) == SAVE_DOCUMENT_WRITTEN)
@@ -289,34 +294,22 @@ static void OpenFontSelector(t_Window *window)
 {
     t_gadget *gadget = GetCurrentGadget(window);
     t_List patterns;
-    InitList(&patterns, "dum");
-    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, "*.fnt");
-    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, "*.*");
+    InitList(&patterns, "font patterns");
+    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, TXT_FONT_PATTERN);
+    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, TXT_ALL_FILES_PATTERN);
     T_FONTSEL_INIT init;
     memset(&init, 0, sizeof(init));
     init.parent = window;
     init.item_code = PAGE_ITEM_FONT;
     init.title = TXT_FONT_TITLE;
-    init.path = MakePathFromSystem("System\\Fonts");
-    init.default_pattern = "*.*";
+    init.path = MakePathFromSystem(FONTS_FOLDER);
+    init.default_pattern = TXT_ALL_FILES_PATTERN;
     init.button_text = TXT_OPEN_BUTTON;
     init.patterns = &patterns;
     init.initial_font = gadget && gadget->font ? gadget->font->name : NULL;
     init.user_data = gadget;
     NewFontSelector(&init);
     EmptyList(&patterns, FONT_PATTERN_NODE_SIZE);
-}
-
-// Whether `gadget` is still one of the page's gadgets (it may have gone while a selector was up).
-static int IsPageGadget(t_Window *window, t_gadget *gadget)
-{
-    t_Gaget_Handler *handler = FindGadgetHandler(window);
-    if (!handler || !gadget)
-        return 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
-        if (g == gadget)
-            return 1;
-    return 0;
 }
 
 static void SetGadgetFont(t_gadget *gadget, const char *name)
@@ -332,7 +325,7 @@ static void PreviewFont(t_Window *window, t_Window *selector)
     T_FONT *font = LoadFontFromSelector(selector, 0);
     if (!font)
         return;
-    char name[256];
+    char name[FONT_NAME_SIZE];
     snprintf(name, sizeof(name), "%s", font->name);
     FreeFont(font);
     if (t_gadget *gadget = GetCurrentGadget(window))
@@ -346,7 +339,7 @@ static void CancelFont(t_Window *window, t_Window *selector)
     if (!record)
         return;
     t_gadget *gadget = (t_gadget *)record->user_data;
-    if (!IsPageGadget(window, gadget))
+    if (!GadgetIsOnPage(window, gadget))  // it may have gone while the selector was up
         return;
     if (!record->initial_font) {
         SetGadgetFont(gadget, NULL);
@@ -354,7 +347,7 @@ static void CancelFont(t_Window *window, t_Window *selector)
     }
     if (gadget->font && strcmp(record->initial_font, gadget->font->name) == 0)
         return;
-    char name[256];
+    char name[FONT_NAME_SIZE];
     snprintf(name, sizeof(name), "%s", record->initial_font);
     SetGadgetFont(gadget, name);
 }
@@ -396,8 +389,8 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
         PasteFromClipboard(window);
         break;
     case PAGE_MENU_RESIZE_TO_CONTENTS:  // from a small window, grown around the gadgets
-        window->w = 64;
-        window->h = 32;
+        window->w = RESIZE_START_WIDTH;
+        window->h = RESIZE_START_HEIGHT;
         RecalcUserSize(window);
         ResizeWindowToContents(window);
         window->state_flags |= WSF_MODIFIED;
@@ -409,7 +402,7 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
 
 u32 PageMessage(t_Window *window, u32 item_code, u32 msg, void *data)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     switch (msg) {
     case ACT_GAIN_CONTEXT:  // this page becomes the active one
         if (page_host.set_active_page)

@@ -21,4 +21,6 @@
 #define TXT_CANCEL_BUTTON "Cancel"
 #define TXT_SOURCE_PATTERN "*.cpp"
 #define TXT_FONT_TITLE "Choose font"
+#define TXT_FONT_PATTERN "*.fnt"
+#define TXT_ALL_FILES_PATTERN "*.*"
 #define TXT_PREVIEW_TITLE "%s (preview)"  // the page's name

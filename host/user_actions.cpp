@@ -27,6 +27,9 @@ static T_INPUT_EVENT Event(u16 kind, i16 x, i16 y, u16 button, u16 key, u16 qual
 static void AddBatch(T_USER_BATCHES *out, const T_INPUT_EVENT &first, const T_INPUT_EVENT *second,
                      u32 advance_ms)
 {
+    const u32 capacity = sizeof(out->batches) / sizeof(out->batches[0]);
+    if (!QF_EXPECT(out->count < capacity))  // an action makes no more batches than a drag
+        return;
     T_INPUT_BATCH *batch = &out->batches[out->count++];
     batch->events[0] = first;
     batch->count = 1;

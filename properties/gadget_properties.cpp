@@ -31,6 +31,9 @@
 #define FLAG_BIT_CURSOR GADGET_FLAGS_CURSOR
 #define FLAG_BIT_ICON GADGET_FLAGS_ICON
 #define ITEM_OF_BIT(index) ((index) + 1)
+#define FLAG_BITS 32            // the bits of a gadget's flags word that may have a row
+#define LAST_FLAG_ROW_BIT 25    // GADGET_FLAGS_FROM_BOTTOM, the highest bit with a row
+#define CURSOR_FIELD_MAX 30     // characters of the cursor's number field
 #define TYPE_BIT(type) (1u << (type))
 
 // The rows above the flag rows. Which text a control edits:
@@ -191,7 +194,7 @@ static void AddCursorField(t_Gaget_Handler *handler, T_GADGET_PROPERTIES *record
     init.x = (i16)(box->base_width + SECOND_CONTROL_GAP);
     init.y = y;
     init.base_width = (i16)(3 * row_h);
-    init.max = 30;
+    init.max = CURSOR_FIELD_MAX;
     init.item_code = PROP_ITEM_CURSOR;
     init.action = ACT_LMOUSE_UP;
     init.flags = box->class_data ? 0 : GADGET_FLAGS_DISABLED;
@@ -263,7 +266,7 @@ void BuildGadgetProperties(t_Gaget_Handler *handler, T_GADGET_PROPERTIES *record
         y = (i16)(y + row_h);
     }
 
-    for (u32 index = 0; index < 32; index++) {
+    for (u32 index = 0; index < FLAG_BITS; index++) {
         u32 bit = 1u << index;
         if (!(record->row_mask & bit))
             continue;
@@ -436,7 +439,7 @@ static void ControlReported(t_Window *window, T_GADGET_PROPERTIES *record, u32 i
         OpenActionEditor(page);
         break;
     default:
-        if (item_code >= ITEM_OF_BIT(0) && item_code <= ITEM_OF_BIT(25) && control)
+        if (item_code >= ITEM_OF_BIT(0) && item_code <= ITEM_OF_BIT(LAST_FLAG_ROW_BIT) && control)
             FlagRowChanged(window, record, item_code, control);
         break;
     }

@@ -44,7 +44,7 @@ static void AddRow(t_List *entries, const char *text)
 
 void FillSourceFileInfo(t_Window *page, t_List *entries)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(page);
     const char *path = record->file_name.text ? record->file_name.text : "";
     char row[INFO_LINE_SIZE];
     snprintf(row, sizeof(row), TXT_INFO_PATH, path);
@@ -99,7 +99,7 @@ t_Window *OpenSourceFileInfo(t_Window *page)
     if (!window)
         return NULL;
     t_Gaget_Handler *handler = FindGadgetHandler(window);
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(page);
     char file_name[FILE_PATH_SIZE];
     StripPath(file_name, record->file_name.text ? record->file_name.text : "");
     char label[FILE_PATH_SIZE + 32];

@@ -135,7 +135,9 @@ extern T_LUMORA_BASE *_LumoraBase;
                          // one is open, a press outside it goes first to its handlers as event
                          // HANDLER_EVENT_OUTSIDE, and a nonzero answer takes the press
 
-// The data of ACT_RECEIVE_OBJECT with item code 2: a file dropped from the desktop.
+// The data of ACT_RECEIVE_OBJECT with item code DROPPED_FILE_ITEM_CODE: a file dropped from the
+// desktop.
+#define DROPPED_FILE_ITEM_CODE 2
 typedef struct T_DROPPED_FILE {
     char *directory;  // without a trailing separator
     char *name;       // the file name
