@@ -7,6 +7,7 @@
 
 #include "editor/clipboard.h"
 #include "editor/menu_rows.h"
+#include "editor/texts.h"
 
 // clang-format off
 //  what                  label                    item code                      shortcut
@@ -50,7 +51,7 @@ void BuildGadgetContextMenu(T_MENU_HANDLER *handler)
     // run's entries still here.
     if (gadget_context_menu.items.first && !LIST_EMPTY(&gadget_context_menu.items))
         EmptyList(&gadget_context_menu.items, sizeof(t_Menu));
-    InitContextMenu(&gadget_context_menu, "Multiple Modify");
+    InitContextMenu(&gadget_context_menu, TXT_GADGET_MENU);
     gadget_context_menu.menu_item_code = GADGET_MENU_CODE;
     gadget_context_menu.menu_flags = MENU_FLAG_NOTIFY_OPEN;
     AddMenuRows(handler, &gadget_context_menu, gadget_menu_table,
@@ -59,7 +60,7 @@ void BuildGadgetContextMenu(T_MENU_HANDLER *handler)
 
 void BuildPageContextMenu(T_WINEDIT_HANDLER *record)
 {
-    InitContextMenu(&record->context_menu, "WindowBase");
+    InitContextMenu(&record->context_menu, TXT_PAGE_MENU);
     // The entries are made through a menu handler of their own, on a list of nothing, which goes
     // when they are made.
     t_List scratch;
