@@ -123,7 +123,7 @@ u32 PasteGadgets(t_Window *page)
         return 0;
     }
     std::string held = text;  // the clipboard's text may change while the gadgets are made
-    T_PASTE paste = {page, (T_WINEDIT_HANDLER *)page->user_data, 0, 0};
+    T_PASTE paste = {page, PageRecordOf(page), 0, 0};
     if (copied.page == page && copied.text == held) {
         copied.pastes++;
         paste.offset = (i16)(PASTE_OFFSET * (copied.pastes > 0 ? copied.pastes : 0));

@@ -6,55 +6,43 @@
 #include <string.h>
 
 #include "editor/clipboard.h"
-
-typedef struct T_CONTEXT_MENU_ROW {
-    u16 kind;  // MENU_KIND_ENTRY or MENU_KIND_SEPARATOR
-    const char *label;
-    u32 item_code;
-    u8 shortcut;
-} T_CONTEXT_MENU_ROW;
+#include "editor/menu_rows.h"
+#include "editor/texts.h"
 
 // clang-format off
-//  kind                  label                    item code                      shortcut
-static const T_CONTEXT_MENU_ROW gadget_menu_table[] = {
-    {MENU_KIND_ENTRY,     "Cut",                   GADGET_MENU_CUT,               'X'},
-    {MENU_KIND_ENTRY,     "Copy",                  GADGET_MENU_COPY,              'C'},
-    {MENU_KIND_ENTRY,     "Paste",                 GADGET_MENU_PASTE,             'V'},
-    {MENU_KIND_SEPARATOR, "",                      0,                             0},
-    {MENU_KIND_ENTRY,     "Size to contents",      GADGET_MENU_SIZE_TO_CONTENTS,  'z'},
-    {MENU_KIND_ENTRY,     "Align left edges",      GADGET_MENU_ALIGN_LEFT,        'l'},
-    {MENU_KIND_ENTRY,     "Align top edges",       GADGET_MENU_ALIGN_TOP,         't'},
-    {MENU_KIND_ENTRY,     "Apply same dimensions", GADGET_MENU_SAME_SIZE,         's'},
-    {MENU_KIND_SEPARATOR, "",                      0,                             0},
-    {MENU_KIND_ENTRY,     "Properties",            GADGET_MENU_PROPERTIES,        'P'},
-    {MENU_KIND_ENTRY,     "Actions...",            PAGE_MENU_ACTIONS,             'A'},
-    {MENU_KIND_ENTRY,     "Choose Font...",        PAGE_MENU_CHOOSE_FONT,         'F'},
-    {MENU_KIND_ENTRY,     "Delete...",             PAGE_MENU_DELETE,              'D'},
-    {MENU_KIND_SEPARATOR, "",                      0,                             0},
-    {MENU_KIND_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,   'W'},
+//  what                  label                    item code                      shortcut
+static const T_MENU_ROW gadget_menu_table[] = {
+    {MENU_ROW_ENTRY,     "Cut",                   GADGET_MENU_CUT,               'X'},
+    {MENU_ROW_ENTRY,     "Copy",                  GADGET_MENU_COPY,              'C'},
+    {MENU_ROW_ENTRY,     "Paste",                 GADGET_MENU_PASTE,             'V'},
+    {MENU_ROW_SEPARATOR, "",                      0,                             0},
+    {MENU_ROW_ENTRY,     "Size to contents",      GADGET_MENU_SIZE_TO_CONTENTS,  'z'},
+    {MENU_ROW_ENTRY,     "Align left edges",      GADGET_MENU_ALIGN_LEFT,        'l'},
+    {MENU_ROW_ENTRY,     "Align top edges",       GADGET_MENU_ALIGN_TOP,         't'},
+    {MENU_ROW_ENTRY,     "Apply same dimensions", GADGET_MENU_SAME_SIZE,         's'},
+    {MENU_ROW_SEPARATOR, "",                      0,                             0},
+    {MENU_ROW_ENTRY,     "Properties",            GADGET_MENU_PROPERTIES,        'P'},
+    {MENU_ROW_ENTRY,     "Actions...",            PAGE_MENU_ACTIONS,             'A'},
+    {MENU_ROW_ENTRY,     "Choose Font...",        PAGE_MENU_CHOOSE_FONT,         'F'},
+    {MENU_ROW_ENTRY,     "Delete...",             PAGE_MENU_DELETE,              'D'},
+    {MENU_ROW_SEPARATOR, "",                      0,                             0},
+    {MENU_ROW_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,   'W'},
 };
 
 // The page background's menu.
-static const T_CONTEXT_MENU_ROW page_menu_table[] = {
-    {MENU_KIND_ENTRY,     "Resize to contents",    PAGE_MENU_RESIZE_TO_CONTENTS,  'R'},
-    {MENU_KIND_ENTRY,     "Delete",                PAGE_MENU_DELETE,              'D'},
-    {MENU_KIND_SEPARATOR, "",                      0,                             0},
-    {MENU_KIND_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,   'W'},
+static const T_MENU_ROW page_menu_table[] = {
+    {MENU_ROW_ENTRY,     "Resize to contents",    PAGE_MENU_RESIZE_TO_CONTENTS,  'R'},
+    {MENU_ROW_ENTRY,     "Delete",                PAGE_MENU_DELETE,              'D'},
+    {MENU_ROW_SEPARATOR, "",                      0,                             0},
+    {MENU_ROW_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,   'W'},
 };
 // clang-format on
 
 // Makes the rows' entries in `menu` through the menu handler.
-static void AddMenuRows(T_MENU_HANDLER *handler, t_Menu *menu, const T_CONTEXT_MENU_ROW *rows, u32 count)
+static void AddMenuRows(T_MENU_HANDLER *handler, t_Menu *menu, const T_MENU_ROW *rows, u32 count)
 {
-    T_MENUOBJECTINIT init;
-    memset(&init, 0, sizeof(init));
-    init.parent_list = &menu->items;
-    for (u32 i = 0; i < count; i++) {
-        init.kind = rows[i].kind;
-        init.item_code = rows[i].item_code;
-        init.shortcut = rows[i].shortcut;
-        CreateObject(&handler->head, rows[i].label, &init);
-    }
+    const T_MENU_BUILD build = {handler, &menu->items, NULL, NULL};
+    BuildMenuRows(&build, rows, count);
 }
 
 void BuildGadgetContextMenu(T_MENU_HANDLER *handler)
@@ -63,7 +51,7 @@ void BuildGadgetContextMenu(T_MENU_HANDLER *handler)
     // run's entries still here.
     if (gadget_context_menu.items.first && !LIST_EMPTY(&gadget_context_menu.items))
         EmptyList(&gadget_context_menu.items, sizeof(t_Menu));
-    InitContextMenu(&gadget_context_menu, "Multiple Modify");
+    InitContextMenu(&gadget_context_menu, TXT_GADGET_MENU);
     gadget_context_menu.menu_item_code = GADGET_MENU_CODE;
     gadget_context_menu.menu_flags = MENU_FLAG_NOTIFY_OPEN;
     AddMenuRows(handler, &gadget_context_menu, gadget_menu_table,
@@ -72,7 +60,7 @@ void BuildGadgetContextMenu(T_MENU_HANDLER *handler)
 
 void BuildPageContextMenu(T_WINEDIT_HANDLER *record)
 {
-    InitContextMenu(&record->context_menu, "WindowBase");
+    InitContextMenu(&record->context_menu, TXT_PAGE_MENU);
     // The entries are made through a menu handler of their own, on a list of nothing, which goes
     // when they are made.
     t_List scratch;
@@ -105,19 +93,8 @@ void GreyClipboardEntries(t_Menu *menu, u32 cut_code, t_Window *page)
 void GreyGadgetMenu(t_Window *page)
 {
     GreyClipboardEntries(&gadget_context_menu, GADGET_MENU_CUT, page);
-    t_Menu *align_left = FindMenuByItemCode(&gadget_context_menu, GADGET_MENU_ALIGN_LEFT);
-    if (!align_left)
-        return;
     t_Gaget_Handler *handler = FindGadgetHandler(page);
     int nothing = handler ? NothingMarked(handler->first_gadget) : 1;
-    // "Align left edges" and the entry that follows it, "Align top edges".
-    t_Menu *entries[2] = {align_left, align_left->next && align_left->next->next ? align_left->next : NULL};
-    for (t_Menu *entry : entries) {
-        if (!entry)
-            continue;
-        if (nothing)
-            entry->menu_flags |= MENU_FLAG_GREY;
-        else
-            entry->menu_flags &= ~MENU_FLAG_GREY;
-    }
+    SetMenuEntryGrey(&gadget_context_menu, GADGET_MENU_ALIGN_LEFT, nothing);
+    SetMenuEntryGrey(&gadget_context_menu, GADGET_MENU_ALIGN_TOP, nothing);
 }

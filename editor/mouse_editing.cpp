@@ -30,8 +30,8 @@ t_gadget *FirstPageGadget(t_Window *window)
 
 void LimitMouseToUserArea(t_Window *window)
 {
-    T_RPOS limits = {window->user_x, window->user_y, (i16)(window->user_x + window->user_w),
-                     (i16)(window->user_y + window->user_h)};
+    T_RPOS area = UserArea(window);
+    T_RPOS limits = {area.x, area.y, (i16)(area.x + area.w), (i16)(area.y + area.h)};
     NormArea(&limits);
     SetMouseLimits(&limits);
 }
@@ -170,7 +170,7 @@ static u32 BackgroundMouse(T_WINEDIT_HANDLER *record, t_Window *window, const T_
             }
         }
     }
-    T_RPOS area = {window->user_x, window->user_y, window->user_w, window->user_h};
+    T_RPOS area = UserArea(window);
     if (!PointBoxColl(msg->x, msg->y, &area))
         return 0;
     if (msg->mouse_action & ACT_LMOUSE_DOWN) {  // a rubber band begins

@@ -20,13 +20,25 @@
 #define STYLE_MASK 3
 #define GEOMETRY_FLAG_SIZE 0   // the flag of AddGeometryUndo for "Size to contents"
 #define GEOMETRY_FLAG_ALIGN 1  // and for the alignment and equal-size items
-#define FONT_NAME_SIZE 256     // a font's file name
+#define MATCH_SIZE 2           // beside ALIGN_LEFT_EDGES and ALIGN_TOP_EDGES: the current gadget's size
 
 static void ClearMarks(t_Window *window)
 {
     t_gadget *first = FirstPageGadget(window);
     if (first)
         ClearAllMarkedGadgets(first);
+}
+
+// Clears the marks and notes the change after an operation on `count` marked gadgets; -1 (no
+// current gadget to take from) changed nothing, the marks neither.
+static void FinishMarkedOperation(t_Window *window, i32 count)
+{
+    if (count < 0)
+        return;
+    ClearMarks(window);
+    RecalcUserSize(window);
+    if (count > 0)
+        window->state_flags |= WSF_MODIFIED;
 }
 
 void MarkCurrentIfNothingMarked(t_Window *window)
@@ -87,10 +99,7 @@ void CentreMarkedGadgets(t_Window *window, u32 direction)
         else
             g->pos_y = (i16)(window->user_h / 2 - g->base_height / 2);
     }
-    ClearMarks(window);
-    RecalcUserSize(window);
-    if (count)
-        window->state_flags |= WSF_MODIFIED;
+    FinishMarkedOperation(window, (i32)count);
 }
 
 void SizeGadgetToContents(t_Window *window, t_gadget *gadget)
@@ -134,73 +143,44 @@ static u32 SizeMarkedOnly(t_Window *window)
 void SizeMarkedToContents(t_Window *window)
 {
     MarkCurrentIfNothingMarked(window);
-    u32 sized = SizeMarkedOnly(window);
-    ClearMarks(window);
-    RecalcUserSize(window);
-    if (sized)
-        window->state_flags |= WSF_MODIFIED;
+    FinishMarkedOperation(window, (i32)SizeMarkedOnly(window));
 }
 
-// The marked gadgets take the current gadget's left or top edge; the marks stay. Returns the
-// number of marked gadgets, or -1 without a current gadget.
-static i32 AlignMarkedOnly(t_Window *window, u32 edge)
+// The marked gadgets take the current gadget's left edge (ALIGN_LEFT_EDGES), top edge
+// (ALIGN_TOP_EDGES) or size (MATCH_SIZE); the marks stay. Returns the number of marked gadgets, or
+// -1 without a current gadget.
+static i32 MatchCurrentGadget(t_Window *window, u32 what)
 {
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     t_gadget *current = handler ? handler->current_gadget : NULL;
     if (!current)
         return -1;
-    i16 x = current->pos_x, y = current->pos_y;
+    const T_RPOS model = {current->pos_x, current->pos_y, current->pos_width, current->pos_height};
     i32 count = 0;
     for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
         if (!IsGadgetMarked(g))
             continue;
         count++;
-        if (edge == ALIGN_LEFT_EDGES)
-            g->pos_x = x;
-        else if (edge == ALIGN_TOP_EDGES)
-            g->pos_y = y;
+        if (what == ALIGN_LEFT_EDGES) {
+            g->pos_x = model.x;
+        } else if (what == ALIGN_TOP_EDGES) {
+            g->pos_y = model.y;
+        } else if (what == MATCH_SIZE) {
+            g->pos_width = g->base_width = model.w;
+            g->pos_height = g->base_height = model.h;
+        }
     }
     return count;
-}
-
-// The marked gadgets take the current gadget's size; the marks stay. As AlignMarkedOnly.
-static i32 SameSizeMarkedOnly(t_Window *window)
-{
-    t_Gaget_Handler *handler = FindGadgetHandler(window);
-    t_gadget *current = handler ? handler->current_gadget : NULL;
-    if (!current)
-        return -1;
-    i16 w = current->pos_width, h = current->pos_height;
-    i32 count = 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-        if (!IsGadgetMarked(g))
-            continue;
-        count++;
-        g->pos_width = g->base_width = w;
-        g->pos_height = g->base_height = h;
-    }
-    return count;
-}
-
-// Clears the marks and notes the change after an alignment or equal-size operation.
-static void FinishMarkedOperation(t_Window *window, i32 count)
-{
-    if (count < 0)
-        return;  // no current gadget: nothing changed, the marks neither
-    ClearMarks(window);
-    RecalcUserSize(window);
-    if (count > 0)
-        window->state_flags |= WSF_MODIFIED;
 }
 
 void AlignMarkedGadgets(t_Window *window, u32 edge)
 {
-    FinishMarkedOperation(window, AlignMarkedOnly(window, edge));
+    FinishMarkedOperation(window, MatchCurrentGadget(window, edge));
 }
 
 void SameSizeMarkedGadgets(t_Window *window)
 {
-    FinishMarkedOperation(window, SameSizeMarkedOnly(window));
+    FinishMarkedOperation(window, MatchCurrentGadget(window, MATCH_SIZE));
 }
 
 void ApplyFontToMarked(t_Window *window, t_Window *selector)
@@ -242,13 +222,13 @@ void ApplyGadgetMenuCommand(t_Window *window, u32 item_code)
         flag = GEOMETRY_FLAG_SIZE;
         break;
     case GADGET_MENU_ALIGN_LEFT:
-        changed = AlignMarkedOnly(window, ALIGN_LEFT_EDGES);
+        changed = MatchCurrentGadget(window, ALIGN_LEFT_EDGES);
         break;
     case GADGET_MENU_ALIGN_TOP:
-        changed = AlignMarkedOnly(window, ALIGN_TOP_EDGES);
+        changed = MatchCurrentGadget(window, ALIGN_TOP_EDGES);
         break;
     case GADGET_MENU_SAME_SIZE:
-        changed = SameSizeMarkedOnly(window);
+        changed = MatchCurrentGadget(window, MATCH_SIZE);
         break;
     default:
         return;
@@ -284,7 +264,7 @@ void FlipMarkedGadgets(t_Window *window)
     t_gadget *first = FirstPageGadget(window);
     if (!first || !first->next || !CountMarkedGadgets(first))
         return;
-    i32 left = 0x7FFF, right = -0x8000;
+    i32 left = INT16_MAX, right = INT16_MIN;
     for (t_gadget *g = first; g->next; g = g->next) {
         if (!IsGadgetMarked(g))
             continue;
@@ -322,7 +302,6 @@ int NudgeMarkedGadgets(t_Window *window, i16 dx, i16 dy)
 }
 
 // --- Item codes ----------------------------------------------------------------------------------
-
 
 // A tab link to the gadget that held `code` now holds the gadget's new code; a link that named no
 // gadget stays as it was.

@@ -8,6 +8,7 @@
 #define CENTRE_VERTICAL 0x800
 #define ALIGN_LEFT_EDGES 3
 #define ALIGN_TOP_EDGES 1
+#define FONT_NAME_SIZE 256  // a font's file name
 
 // If nothing is marked, the current gadget (when there is one) is marked: commands then act on it.
 void MarkCurrentIfNothingMarked(t_Window *window);

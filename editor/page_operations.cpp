@@ -43,7 +43,7 @@ void InvertGadgetSelection(t_Window *page)
 
 void EnterTabOrder(t_Window *page)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(page);
     record->edit_state |= EDIT_TAB_ORDER;
     record->tab_next = 1;
     t_Gaget_Handler *handler = FindGadgetHandler(page);
@@ -61,7 +61,7 @@ void EnterTabOrder(t_Window *page)
 // Takes one step back or forth in the page's history.
 static void StepHistory(t_Window *page, int forward)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(page);
     if (forward)
         Redo(&record->undo);
     else

@@ -9,8 +9,6 @@
 #define FRAME_SELECTED 0xFFFFFF       // selection mark alone
 #define FRAME_SELECTED_DRAG 0xFF00FF  // selection and drag mark
 #define FRAME_DRAG 0xFFFF00           // drag mark alone
-#define DASH_STEPS 32                 // dash_phase counts 0 to 31
-#define DASH_DIVISOR 8                // the drawn phase is dash_phase / 8
 #define SLIDER_MARK_ALONG 8           // a resized slider's mark along the slider
 #define SLIDER_MARK_INSET 4           // and across it, the slider's width less this
 
@@ -65,10 +63,18 @@ u16 HandleBox(const t_gadget *gadget, u32 order, T_RPOS *box, u16 *image)
     return row->handle;
 }
 
-static void ClipToUserArea(t_Window *window)
+void ClipToUserArea(t_Window *window)
 {
-    ClipInsideWindow(window->user_x, window->user_y, (i16)(window->user_x + window->user_w),
-                     (i16)(window->user_y + window->user_h));
+    T_RPOS area = UserArea(window);
+    ClipInsideWindow(area.x, area.y, (i16)(area.x + area.w), (i16)(area.y + area.h));
+}
+
+void DrawBandToMouse(t_Window *window, i16 x1, i16 y1, i16 *x2, i16 *y2, u16 phase)
+{
+    *x2 = (i16)(window->mouse_x - window->user_x);
+    *y2 = (i16)(window->mouse_y - window->user_y);
+    DrawDottedBox((i16)(window->user_x + x1), (i16)(window->user_y + y1), (i16)(*x2 - x1), (i16)(*y2 - y1),
+                  DISPLAY_RECORD->rubber_box_colour, phase);
 }
 
 void DrawGadgetFrame(void *node, void *phase)
@@ -162,11 +168,8 @@ void ApplyHandleResize(t_Window *window, t_gadget *gadget, u16 handle)
 // The band's far corner follows the mouse, and the gadgets inside the normalised area are marked.
 static void PaintRubberBand(T_WINEDIT_HANDLER *record, t_Window *window, t_gadget *first)
 {
-    record->rubber_x2 = (i16)(window->mouse_x - window->user_x);
-    record->rubber_y2 = (i16)(window->mouse_y - window->user_y);
-    DrawDottedBox((i16)(window->user_x + record->rubber_x1), (i16)(window->user_y + record->rubber_y1),
-                  (i16)(record->rubber_x2 - record->rubber_x1), (i16)(record->rubber_y2 - record->rubber_y1),
-                  DISPLAY_RECORD->rubber_box_colour, (u16)(record->dash_phase / DASH_DIVISOR));
+    DrawBandToMouse(window, record->rubber_x1, record->rubber_y1, &record->rubber_x2, &record->rubber_y2,
+                    (u16)(record->dash_phase / DASH_DIVISOR));
     i16 x1 = record->rubber_x1, x2 = record->rubber_x2, y1 = record->rubber_y1, y2 = record->rubber_y2;
     T_RPOS area = {(i16)((x1 < x2 ? x1 : x2) + window->user_x), (i16)((y1 < y2 ? y1 : y2) + window->user_y),
                    (i16)(x1 < x2 ? x2 - x1 : x1 - x2), (i16)(y1 < y2 ? y2 - y1 : y1 - y2)};

@@ -5,6 +5,8 @@
 
 #define HANDLE_COUNT 8
 #define HANDLE_MIN_SIZE 16  // the smallest gadget a handle resize leaves
+#define DASH_STEPS 32       // a rubber band's dash phase counts 0 to 31
+#define DASH_DIVISOR 8      // the drawn phase is the dash phase / 8
 
 // The window whose gadgets are being painted: the draw functions given to ApplyFuncToListData get
 // one value only, so DrawTabNumber reads the window from here.
@@ -21,6 +23,12 @@ void DrawHandles(t_Window *window, t_gadget *gadget, u32 colour);
 // One step of a handle resize: the side or corner of `handle` goes to the mouse, and the page is
 // modified. Handle 0 does nothing.
 void ApplyHandleResize(t_Window *window, t_gadget *gadget, u16 handle);
+
+// Clips drawing to the window's user area.
+void ClipToUserArea(t_Window *window);
+// A rubber band from (x1, y1) to the mouse, both relative to the user area: the far corner
+// (*x2, *y2) follows the mouse, and the band is drawn dotted in the drawn phase `phase`.
+void DrawBandToMouse(t_Window *window, i16 x1, i16 y1, i16 *x2, i16 *y2, u16 phase);
 
 // The box of the size handle tried in place `order` (0 to 7) of the hit test, absolute. Returns
 // the handle's number and gives its mouse image in `image` when that isn't null.

@@ -19,6 +19,11 @@
 #include "source/texts.h"
 
 #define LINES_SHOWN 5  // line numbers that the question before a save over hand-written lines names
+#define LINE_NUMBER_SIZE 12  // one of them in the list, with its comma
+#define FONTS_FOLDER "System\\Fonts"  // below the data root: the fonts the selector lists
+#define SOURCE_EXTENSION ".cpp"  // given to a page file named without one
+#define RESIZE_START_WIDTH 64  // "Resize to contents" grows the window from this size
+#define RESIZE_START_HEIGHT 32
 
 // The mask of Quillform's own page window: exactly the messages that PageMessage answers.
 static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE |
@@ -42,16 +47,17 @@ t_Window *CreatePageWindow(t_Window *parent, char *name, u32 flags, i16 x1, i16 
     if (w < PAGE_MIN_WIDTH || h < PAGE_MIN_HEIGHT)
         return NULL;
 
-    T_WINDOWOBJINIT init;
-    memset(&init, 0, sizeof(init));
-    init.x = x;
-    init.y = y;
-    init.w = w;
-    init.h = h;
-    init.flags = flags | WF_CHILD | WF_CLIP_PARENT;
-    init.idcmp = PAGE_IDCMP;
-    init.message = PageMessage;
-    init.parent = parent;
+    T_WINDOWOBJINIT init = {.x = x,
+                            .y = y,
+                            .w = w,
+                            .h = h,
+                            .flags = flags | WF_CHILD | WF_CLIP_PARENT,
+                            .idcmp = PAGE_IDCMP,
+                            .icon = 0,
+                            .icon_bank = NULL,
+                            .bitmap = NULL,
+                            .message = PageMessage,
+                            .parent = parent};
     t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, name, &init);
     if (!window)
         return NULL;
@@ -90,7 +96,7 @@ static void OpenQuery(t_Window *window, T_WINEDIT_HANDLER *record)
         return;
     char *text = _OstrandBase->text_buffer;
     snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_QUERY_UNSAVED, window->name);
-    t_Window *box = NewMsgBox(window, TXT_QUERY_TITLE, text, 35, PAGE_ITEM_QUERY);
+    t_Window *box = NewMsgBox(window, TXT_QUERY_TITLE, text, MSGBOX_QUESTION, PAGE_ITEM_QUERY);
     if (box)
         box->icon_bank = NULL;
     record->query_state = PAGE_QUERY_OPEN;
@@ -120,7 +126,7 @@ static u16 WaitForQuery(t_Window *window, T_WINEDIT_HANDLER *record)
 // was given up). A clean page goes at once.
 static void ClosePage(t_Window *window)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     if (!(window->state_flags & WSF_MODIFIED)) {
         RemovePage(window, 1);
         return;
@@ -135,7 +141,7 @@ static void ClosePage(t_Window *window)
 
 int AskToSavePage(t_Window *window)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     ISetActiveWindow(window);  // the page that asks comes to the front, restored if minimised
     OpenQuery(window, record);  // or takes over the close query that stands
     record->query_for_exit = 1;
@@ -167,7 +173,7 @@ void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, cons
     init.parent = parent;
     init.item_code = item_code;
     init.title = title;
-    init.fourth_word = 1;
+    init.single_file = 1;
     init.ok_text = ok_text;
     init.cancel_text = TXT_CANCEL_BUTTON;
     init.path = path;
@@ -233,7 +239,7 @@ int AskBeforeDroppingLines(t_Window *window, T_WINEDIT_HANDLER *record, const ch
         record->lines_checked = 1;
         return 0;
     }
-    char list[LINES_SHOWN * 12 + 8] = "";
+    char list[LINES_SHOWN * LINE_NUMBER_SIZE + sizeof(", ...")] = "";
     for (u32 i = 0; i < count && i < LINES_SHOWN; i++)
         snprintf(list + strlen(list), sizeof(list) - strlen(list), "%s%u", i ? ", " : "", numbers[i]);
     if (count > LINES_SHOWN)
@@ -244,7 +250,7 @@ int AskBeforeDroppingLines(t_Window *window, T_WINEDIT_HANDLER *record, const ch
     snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_LINES_QUESTION, name, count, count == 1 ? "" : "s",
              count == 1 ? "" : "s", list);
     static const char *const labels[] = {TXT_LINES_SAVE, TXT_LINES_SAVE_AS, TXT_CANCEL_BUTTON};
-    t_Window *box = NewMsgBoxLabels(window, TXT_LINES_TITLE, text, 35, PAGE_ITEM_LINES, labels);
+    t_Window *box = NewMsgBoxLabels(window, TXT_LINES_TITLE, text, MSGBOX_QUESTION, PAGE_ITEM_LINES, labels);
     if (box)
         box->icon_bank = NULL;
     return 1;
@@ -277,12 +283,12 @@ static void FinishSaveAs(t_Window *window, T_WINEDIT_HANDLER *record, const T_FI
         (!ExtensionExists(path) && strlen(path) + 4 >= sizeof(path))) {
         char *text = _OstrandBase->text_buffer;
         snprintf(text, OSTRAND_TEXT_BUFFER_SIZE, TXT_PATH_TOO_LONG, answer->name);
-        NewMsgBox(window, TXT_ERROR_TITLE, text, 16, PAGE_ITEM_MESSAGE);
+        NewMsgBox(window, TXT_ERROR_TITLE, text, MSGBOX_ERROR, PAGE_ITEM_MESSAGE);
         PageSaveEnded(window, record, SAVE_DOCUMENT_FAILED, 1);
         return;
     }
     if (!ExtensionExists(path))
-        strcat(path, ".cpp");
+        strcat(path, SOURCE_EXTENSION);
     if (AskBeforeDroppingLines(window, record, path))
         return;
     if (WriteDocument(window, record, path, 1) == SAVE_DOCUMENT_WRITTEN)
@@ -294,34 +300,22 @@ static void OpenFontSelector(t_Window *window)
 {
     t_gadget *gadget = GetCurrentGadget(window);
     t_List patterns;
-    InitList(&patterns, "dum");
-    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, "*.fnt");
-    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, "*.*");
+    InitList(&patterns, "font patterns");
+    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, TXT_FONT_PATTERN);
+    NewTail(&patterns, FONT_PATTERN_NODE_SIZE, TXT_ALL_FILES_PATTERN);
     T_FONTSEL_INIT init;
     memset(&init, 0, sizeof(init));
     init.parent = window;
     init.item_code = PAGE_ITEM_FONT;
     init.title = TXT_FONT_TITLE;
-    init.path = MakePathFromSystem("System\\Fonts");
-    init.default_pattern = "*.*";
+    init.path = MakePathFromSystem(FONTS_FOLDER);
+    init.default_pattern = TXT_ALL_FILES_PATTERN;
     init.button_text = TXT_OPEN_BUTTON;
     init.patterns = &patterns;
     init.initial_font = gadget && gadget->font ? gadget->font->name : NULL;
     init.user_data = gadget;
     NewFontSelector(&init);
     EmptyList(&patterns, FONT_PATTERN_NODE_SIZE);
-}
-
-// Whether `gadget` is still one of the page's gadgets (it may have gone while a selector was up).
-static int IsPageGadget(t_Window *window, t_gadget *gadget)
-{
-    t_Gaget_Handler *handler = FindGadgetHandler(window);
-    if (!handler || !gadget)
-        return 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next)
-        if (g == gadget)
-            return 1;
-    return 0;
 }
 
 static void SetGadgetFont(t_gadget *gadget, const char *name)
@@ -337,7 +331,7 @@ static void PreviewFont(t_Window *window, t_Window *selector)
     T_FONT *font = LoadFontFromSelector(selector, 0);
     if (!font)
         return;
-    char name[256];
+    char name[FONT_NAME_SIZE];
     snprintf(name, sizeof(name), "%s", font->name);
     FreeFont(font);
     if (t_gadget *gadget = GetCurrentGadget(window))
@@ -351,7 +345,7 @@ static void CancelFont(t_Window *window, t_Window *selector)
     if (!record)
         return;
     t_gadget *gadget = (t_gadget *)record->user_data;
-    if (!IsPageGadget(window, gadget))
+    if (!GadgetIsOnPage(window, gadget))  // it may have gone while the selector was up
         return;
     if (!record->initial_font) {
         SetGadgetFont(gadget, NULL);
@@ -359,7 +353,7 @@ static void CancelFont(t_Window *window, t_Window *selector)
     }
     if (gadget->font && strcmp(record->initial_font, gadget->font->name) == 0)
         return;
-    char name[256];
+    char name[FONT_NAME_SIZE];
     snprintf(name, sizeof(name), "%s", record->initial_font);
     SetGadgetFont(gadget, name);
 }
@@ -401,8 +395,8 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
         PasteFromClipboard(window);
         break;
     case PAGE_MENU_RESIZE_TO_CONTENTS:  // from a small window, grown around the gadgets
-        window->w = 64;
-        window->h = 32;
+        window->w = RESIZE_START_WIDTH;
+        window->h = RESIZE_START_HEIGHT;
         RecalcUserSize(window);
         ResizeWindowToContents(window);
         window->state_flags |= WSF_MODIFIED;
@@ -414,7 +408,7 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
 
 u32 PageMessage(t_Window *window, u32 item_code, u32 msg, void *data)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)window->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     switch (msg) {
     case ACT_GAIN_CONTEXT:  // this page becomes the active one
         if (page_host.set_active_page)

@@ -21,4 +21,9 @@
 #define TXT_CANCEL_BUTTON "Cancel"
 #define TXT_SOURCE_PATTERN "*.cpp"
 #define TXT_FONT_TITLE "Choose font"
+#define TXT_FONT_PATTERN "*.fnt"
+#define TXT_ALL_FILES_PATTERN "*.*"
+// The context menus' names: a gadget's, and the page background's.
+#define TXT_GADGET_MENU "Multiple Modify"
+#define TXT_PAGE_MENU "WindowBase"
 #define TXT_PREVIEW_TITLE "%s (preview)"  // the page's name

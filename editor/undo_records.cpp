@@ -13,12 +13,12 @@
 //   later gadget that happens to get the same address is never taken for it.
 #include "editor/undo_records.h"
 
-#include <unordered_map>
-
-#include "editor/page_commands.h"
-
 #include <string.h>
 
+#include <unordered_map>
+
+#include "editor/mouse_editing.h"
+#include "editor/page_commands.h"
 #include "page/catalogue.h"
 #include "source/gadget_blocks.h"
 #include "source/open_page.h"
@@ -29,12 +29,12 @@
 // The page's own pointers leave a gadget that goes.
 static void ForgetInPage(t_Window *window, const t_gadget *gadget)
 {
-    T_WINEDIT_HANDLER *record = IsPageWindow(window) ? (T_WINEDIT_HANDLER *)window->user_data : NULL;
+    T_WINEDIT_HANDLER *record = PageRecordOf(window);
     if (!record)
         return;
     if (record->drag_gadget == gadget) {
         record->drag_gadget = NULL;
-        record->drag_handle = 0;
+        record->drag_handle = HANDLE_NONE;
     }
     if (record->handle_gadget == gadget)
         record->handle_gadget = NULL;
@@ -178,7 +178,7 @@ void AddGeometryUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget, u32 flag)
     T_CREATIONS creations;
     CollectCreations(record, &creations);
     for (t_gadget *g = (t_gadget *)FindFirstNode((t_Node *)gadget); g->next; g = g->next) {
-        if (!(g->live_flags & GADGET_MARK_SELECTED))
+        if (!IsGadgetMarked(g))
             continue;
         int same_size = g->base_width == g->prev_width && g->base_height == g->prev_height;
         T_UNDO_NODE *node = AddUndoNode(&record->undo, RedoGeometry, UndoGeometry, NULL, sizeof(T_GEOMETRY_UNDO),
@@ -186,14 +186,8 @@ void AddGeometryUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget, u32 flag)
         if (!node)
             return;
         T_GEOMETRY_UNDO *data = (T_GEOMETRY_UNDO *)node->data;
-        data->after_x = g->x;
-        data->after_y = g->y;
-        data->after_width = g->base_width;
-        data->after_height = g->base_height;
-        data->before_x = g->prev_x;
-        data->before_y = g->prev_y;
-        data->before_width = g->prev_width;
-        data->before_height = g->prev_height;
+        data->after = T_RPOS{g->x, g->y, g->base_width, g->base_height};
+        data->before = T_RPOS{g->prev_x, g->prev_y, g->prev_width, g->prev_height};
         data->window = record->head.window;
         data->gadget = g;
         T_CREATIONS::const_iterator found = creations.find(g);
@@ -201,15 +195,15 @@ void AddGeometryUndo(T_WINEDIT_HANDLER *record, t_gadget *gadget, u32 flag)
     }
 }
 
-static void ApplyGeometry(T_GEOMETRY_UNDO *data, i16 x, i16 y, i16 w, i16 h)
+static void ApplyGeometry(T_GEOMETRY_UNDO *data, const T_RPOS &box)
 {
     t_gadget *gadget = data->origin ? data->origin->gadget : data->gadget;
     if (!GadgetIsOnPage(data->window, gadget))
         return;
-    gadget->pos_x = x;
-    gadget->pos_y = y;
-    gadget->pos_width = gadget->base_width = w;
-    gadget->pos_height = gadget->base_height = h;
+    gadget->pos_x = box.x;
+    gadget->pos_y = box.y;
+    gadget->pos_width = gadget->base_width = box.w;
+    gadget->pos_height = gadget->base_height = box.h;
     RecalcGadgetPosition(data->window, gadget, gadget->live_flags, 0, 0);
     CURRENT_DISPLAY->window_class->refresh_request = 1;
 }
@@ -217,13 +211,13 @@ static void ApplyGeometry(T_GEOMETRY_UNDO *data, i16 x, i16 y, i16 w, i16 h)
 void UndoGeometry(void *block)
 {
     T_GEOMETRY_UNDO *data = (T_GEOMETRY_UNDO *)block;
-    ApplyGeometry(data, data->before_x, data->before_y, data->before_width, data->before_height);
+    ApplyGeometry(data, data->before);
 }
 
 void RedoGeometry(void *block)
 {
     T_GEOMETRY_UNDO *data = (T_GEOMETRY_UNDO *)block;
-    ApplyGeometry(data, data->after_x, data->after_y, data->after_width, data->after_height);
+    ApplyGeometry(data, data->after);
 }
 
 void ForgetGadgetInHistory(T_WINEDIT_HANDLER *record, t_gadget *gadget)

@@ -20,8 +20,7 @@ typedef struct T_CREATE_UNDO {
 typedef struct T_GEOMETRY_UNDO {
     t_gadget *gadget;  // the gadget, when it wasn't made by a record still on the list
     t_Window *window;  // the page window
-    i16 after_x, after_y, after_width, after_height;
-    i16 before_x, before_y, before_width, before_height;
+    T_RPOS after, before;  // x, y, base width and base height after and before the change
     T_CREATE_UNDO *origin;  // the "Create gadget" record that made the gadget, or null
 } T_GEOMETRY_UNDO;
 

@@ -35,7 +35,6 @@
 typedef t_Window *(*T_OPEN_FN)(T_CREATE_APPLICATION *);
 
 #define MAIN_WINDOW_MARGIN 16
-#define DROP_ITEM_CODE 2  // ACT_RECEIVE_OBJECT's item code for a file dropped from the desktop
 
 #ifndef QF_VERSION
 #error "QF_VERSION comes from the project's version in CMakeLists.txt"
@@ -220,7 +219,7 @@ static void OpenFiles(t_Window *main_window, const T_HOST_OPTIONS *options)
         XGetPath(directory, path);
         StripPath(name, path);
         T_DROPPED_FILE dropped = {directory, name};
-        SendWindowMessage(main_window, DROP_ITEM_CODE, ACT_RECEIVE_OBJECT, &dropped);
+        SendWindowMessage(main_window, DROPPED_FILE_ITEM_CODE, ACT_RECEIVE_OBJECT, &dropped);
     }
 }
 

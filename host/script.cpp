@@ -12,34 +12,61 @@
 
 #define TOOLBAR_WINDOW_NAME "qftoolbar"  // the name the editor gives its toolbar
 
+#define NO_USER_ACTION 0xFFFF  // a step that is no person's action of its own
+#define LEFT_BUTTON 1
+#define RIGHT_BUTTON 3
+#define SCRIPT_LINE_SIZE 1024  // the longest line a script may hold, with its end
+#define SCRIPT_FIRST_STEPS 32  // the steps' first block; it doubles as it fills
+
+// What follows a script's word.
+enum {
+    FOLLOWS_NUMBERS,       // the numbers alone
+    FOLLOWS_TEXT,          // the rest of the line
+    FOLLOWS_NAME_NUMBERS,  // a quoted name, then the numbers
+    FOLLOWS_NAME,          // a quoted name
+    FOLLOWS_NAME_TEXT,     // a quoted name, then the rest of the line
+};
+
 typedef struct T_SCRIPT_WORD {
     const char *word;
     u16 verb;
     u16 numbers;  // how many numbers follow
-    u16 text;     // 1: a text follows (the rest of the line); 2: a quoted name, then a number;
-                  // 3: a quoted name; 4: a quoted name, then a text
+    u16 follows;  // FOLLOWS_
+    u16 action;   // the user action the step plays, or NO_USER_ACTION
+    u16 button;   // the action's button
 } T_SCRIPT_WORD;
 
-//  word               verb                   numbers text
+// clang-format off
+//  word                 verb                      numbers  follows               action             button
 static const T_SCRIPT_WORD script_words[] = {
-    {"move", SCRIPT_MOVE, 2, 0},
-    {"press", SCRIPT_PRESS, 2, 0},
-    {"release", SCRIPT_RELEASE, 2, 0},
-    {"click", SCRIPT_CLICK, 2, 0},
-    {"dclick", SCRIPT_DCLICK, 2, 0},
-    {"rclick", SCRIPT_RCLICK, 2, 0},
-    {"drag", SCRIPT_DRAG, 4, 0},
-    {"key", SCRIPT_KEY, 0, 1},
-    {"type", SCRIPT_TYPE, 0, 1},
-    {"turns", SCRIPT_TURNS, 1, 0},
-    {"screenshot", SCRIPT_SCREENSHOT, 0, 1},
-    {"click-gadget", SCRIPT_CLICK_GADGET, 1, 2},
-    {"click-tool", SCRIPT_CLICK_TOOL, 1, 0},
-    {"expect-window", SCRIPT_EXPECT_WINDOW, 0, 3},
-    {"expect-no-window", SCRIPT_EXPECT_NO_WINDOW, 0, 3},
-    {"expect-window-at", SCRIPT_EXPECT_WINDOW_AT, 2, 3},
-    {"expect-file-has", SCRIPT_EXPECT_FILE_HAS, 0, 4},
+    {"move",             SCRIPT_MOVE,              2, FOLLOWS_NUMBERS,      USER_MOVE,         LEFT_BUTTON},
+    {"press",            SCRIPT_PRESS,             2, FOLLOWS_NUMBERS,      USER_PRESS,        LEFT_BUTTON},
+    {"release",          SCRIPT_RELEASE,           2, FOLLOWS_NUMBERS,      USER_RELEASE,      LEFT_BUTTON},
+    {"click",            SCRIPT_CLICK,             2, FOLLOWS_NUMBERS,      USER_CLICK,        LEFT_BUTTON},
+    {"dclick",           SCRIPT_DCLICK,            2, FOLLOWS_NUMBERS,      USER_DOUBLE_CLICK, LEFT_BUTTON},
+    {"rclick",           SCRIPT_RCLICK,            2, FOLLOWS_NUMBERS,      USER_CLICK,        RIGHT_BUTTON},
+    {"drag",             SCRIPT_DRAG,              4, FOLLOWS_NUMBERS,      USER_DRAG,         LEFT_BUTTON},
+    {"key",              SCRIPT_KEY,               0, FOLLOWS_TEXT,         USER_KEY,          LEFT_BUTTON},
+    {"type",             SCRIPT_TYPE,              0, FOLLOWS_TEXT,         USER_TYPE,         LEFT_BUTTON},
+    {"turns",            SCRIPT_TURNS,             1, FOLLOWS_NUMBERS,      NO_USER_ACTION,    0},
+    {"screenshot",       SCRIPT_SCREENSHOT,        0, FOLLOWS_TEXT,         NO_USER_ACTION,    0},
+    {"click-gadget",     SCRIPT_CLICK_GADGET,      1, FOLLOWS_NAME_NUMBERS, NO_USER_ACTION,    0},
+    {"click-tool",       SCRIPT_CLICK_TOOL,        1, FOLLOWS_NUMBERS,      NO_USER_ACTION,    0},
+    {"expect-window",    SCRIPT_EXPECT_WINDOW,     0, FOLLOWS_NAME,         NO_USER_ACTION,    0},
+    {"expect-no-window", SCRIPT_EXPECT_NO_WINDOW,  0, FOLLOWS_NAME,         NO_USER_ACTION,    0},
+    {"expect-window-at", SCRIPT_EXPECT_WINDOW_AT,  2, FOLLOWS_NAME_NUMBERS, NO_USER_ACTION,    0},
+    {"expect-file-has",  SCRIPT_EXPECT_FILE_HAS,   0, FOLLOWS_NAME_TEXT,    NO_USER_ACTION,    0},
 };
+// clang-format on
+
+// The row of a step's verb.
+static const T_SCRIPT_WORD *WordOfVerb(u16 verb)
+{
+    for (const T_SCRIPT_WORD &w : script_words)
+        if (w.verb == verb)
+            return &w;
+    return NULL;
+}
 
 // Reads a whole number; false when the text holds none.
 static int ReadNumber(const char **at, i32 *value)
@@ -104,16 +131,15 @@ static int ParseLine(T_SCRIPT_STEP *step, const char *line)
         if (strcmp(word, w.word) != 0)
             continue;
         step->verb = w.verb;
-        if (w.text >= 2) {
-            if (!ReadQuoted(&at, step->text, sizeof(step->text)))
-                return 0;
-        }
+        int quoted = w.follows == FOLLOWS_NAME_NUMBERS || w.follows == FOLLOWS_NAME || w.follows == FOLLOWS_NAME_TEXT;
+        if (quoted && !ReadQuoted(&at, step->text, sizeof(step->text)))
+            return 0;
         for (u16 i = 0; i < w.numbers; i++)
             if (!ReadNumber(&at, &step->numbers[i]))
                 return 0;
-        if (w.text == 4)
+        if (w.follows == FOLLOWS_NAME_TEXT)
             return ReadRest(at, step->detail, sizeof(step->detail));
-        if (w.text == 1) {
+        if (w.follows == FOLLOWS_TEXT) {
             if (!ReadRest(at, step->text, sizeof(step->text)))
                 return 0;
             if (w.verb == SCRIPT_KEY)
@@ -125,6 +151,31 @@ static int ParseLine(T_SCRIPT_STEP *step, const char *line)
     return 0;
 }
 
+// Drops the steps read so far when a line can't be read; false.
+static int DropSteps(T_SCRIPT *script, u32 capacity)
+{
+    if (script->steps)
+        FreeMem(script->steps, capacity * (u32)sizeof(T_SCRIPT_STEP));
+    script->steps = NULL;
+    script->count = 0;
+    return 0;
+}
+
+// Makes room for one more step.
+static void GrowSteps(T_SCRIPT *script, u32 *capacity)
+{
+    if (script->count < *capacity)
+        return;
+    u32 grown = *capacity ? *capacity * 2 : SCRIPT_FIRST_STEPS;
+    T_SCRIPT_STEP *steps = (T_SCRIPT_STEP *)AllocMemC(grown * (u32)sizeof(T_SCRIPT_STEP));
+    if (script->steps) {
+        memcpy(steps, script->steps, script->count * sizeof(T_SCRIPT_STEP));
+        FreeMem(script->steps, *capacity * (u32)sizeof(T_SCRIPT_STEP));
+    }
+    script->steps = steps;
+    *capacity = grown;
+}
+
 int ParseScript(T_SCRIPT *script, const char *name, const char *text)
 {
     memset(script, 0, sizeof(*script));
@@ -134,15 +185,11 @@ int ParseScript(T_SCRIPT *script, const char *name, const char *text)
     while (*at) {
         const char *end = strchr(at, '\n');
         size_t length = end ? (size_t)(end - at) : strlen(at);
-        char line[1024];
+        char line[SCRIPT_LINE_SIZE];
         line_number++;
         if (length >= sizeof(line)) {
             snprintf(script->error, sizeof(script->error), "%.200s:%u: the line is too long", name, line_number);
-            if (script->steps)
-                FreeMem(script->steps, capacity * (u32)sizeof(T_SCRIPT_STEP));
-            script->steps = NULL;
-            script->count = 0;
-            return 0;
+            return DropSteps(script, capacity);
         }
         memcpy(line, at, length);
         line[length] = '\0';
@@ -154,25 +201,13 @@ int ParseScript(T_SCRIPT *script, const char *name, const char *text)
             start++;
         if (*start == '\0' || *start == '#')
             continue;
-        if (script->count == capacity) {
-            u32 grown = capacity ? capacity * 2 : 32;
-            T_SCRIPT_STEP *steps = (T_SCRIPT_STEP *)AllocMemC(grown * (u32)sizeof(T_SCRIPT_STEP));
-            if (script->steps) {
-                memcpy(steps, script->steps, script->count * sizeof(T_SCRIPT_STEP));
-                FreeMem(script->steps, capacity * (u32)sizeof(T_SCRIPT_STEP));
-            }
-            script->steps = steps;
-            capacity = grown;
-        }
+        GrowSteps(script, &capacity);
         T_SCRIPT_STEP *step = &script->steps[script->count];
         memset(step, 0, sizeof(*step));
         step->line = line_number;
         if (!ParseLine(step, start)) {
             snprintf(script->error, sizeof(script->error), "%.200s:%u: cannot read \"%.300s\"", name, line_number, start);
-            FreeMem(script->steps, capacity * (u32)sizeof(T_SCRIPT_STEP));
-            script->steps = NULL;
-            script->count = 0;
-            return 0;
+            return DropSteps(script, capacity);
         }
         script->count++;
     }
@@ -339,42 +374,20 @@ static int StartStep(T_PLAYER *p)
     p->batches.count = 0;
     p->batch = 0;
     const i32 *n = step->numbers;
-    const i16 x = (i16)n[0], y = (i16)n[1];
-    T_USER_ACTION action = UserAction(USER_MOVE, x, y);
-    char reason[400];
-    switch (step->verb) {
-    case SCRIPT_MOVE:
-        break;
-    case SCRIPT_PRESS:
-        action.kind = USER_PRESS;
-        break;
-    case SCRIPT_RELEASE:
-        action.kind = USER_RELEASE;
-        break;
-    case SCRIPT_CLICK:
-        action.kind = USER_CLICK;
-        break;
-    case SCRIPT_DCLICK:
-        action.kind = USER_DOUBLE_CLICK;
-        break;
-    case SCRIPT_RCLICK:
-        action.kind = USER_CLICK;
-        action.button = 3;
-        break;
-    case SCRIPT_DRAG:
-        action.kind = USER_DRAG;
-        action.x2 = (i16)n[2];
+    const T_SCRIPT_WORD *word = WordOfVerb(step->verb);
+    if (word && word->action != NO_USER_ACTION) {  // a person's action: the table says which
+        T_USER_ACTION action = UserAction(word->action, (i16)n[0], (i16)n[1]);
+        action.button = word->button;
+        action.x2 = (i16)n[2];  // a drag's end
         action.y2 = (i16)n[3];
-        break;
-    case SCRIPT_KEY:
-        action.kind = USER_KEY;
         action.key = step->key;
         action.qualifiers = step->qualifiers;
-        break;
-    case SCRIPT_TYPE:
-        action.kind = USER_TYPE;
         action.text = step->text;
-        break;
+        UserActionBatches(&action, &p->batches);
+        return 1;
+    }
+    char reason[400];
+    switch (step->verb) {
     case SCRIPT_TURNS:
         p->turns = (u32)(n[0] > 0 ? n[0] : 0);
         return 1;
@@ -402,8 +415,6 @@ static int StartStep(T_PLAYER *p)
             Fail(p, reason);
         return p->state == PLAYER_PLAYING;
     }
-    UserActionBatches(&action, &p->batches);
-    return 1;
 }
 
 // What stands in front when the script stops inside a wait: the window with the focus.

@@ -19,21 +19,17 @@ static void TurnUntilTaken(void)
 
 static T_INPUT_EVENT Event(u16 kind, i16 x, i16 y, u16 button, u16 key, u16 qualifiers)
 {
-    T_INPUT_EVENT event;
-    memset(&event, 0, sizeof(event));
-    event.kind = kind;
-    event.x = x;
-    event.y = y;
-    event.button = button;
-    event.key = key;
-    event.qualifiers = qualifiers;
-    return event;
+    return T_INPUT_EVENT{
+        .kind = kind, .x = x, .y = y, .button = button, .wheel = 0, .key = key, .qualifiers = qualifiers, .text = ""};
 }
 
 // Adds a batch of one or two events; the time goes on by `advance_ms` once it has been taken.
 static void AddBatch(T_USER_BATCHES *out, const T_INPUT_EVENT &first, const T_INPUT_EVENT *second,
                      u32 advance_ms)
 {
+    const u32 capacity = sizeof(out->batches) / sizeof(out->batches[0]);
+    if (!QF_EXPECT(out->count < capacity))  // an action makes no more batches than a drag
+        return;
     T_INPUT_BATCH *batch = &out->batches[out->count++];
     batch->events[0] = first;
     batch->count = 1;
@@ -103,13 +99,15 @@ void UserActionBatches(const T_USER_ACTION *action, T_USER_BATCHES *out)
 
 T_USER_ACTION UserAction(u16 kind, i16 x, i16 y)
 {
-    T_USER_ACTION action;
-    memset(&action, 0, sizeof(action));
-    action.kind = kind;
-    action.x1 = x;
-    action.y1 = y;
-    action.button = 1;
-    return action;
+    return T_USER_ACTION{.kind = kind,
+                         .x1 = x,
+                         .y1 = y,
+                         .x2 = 0,
+                         .y2 = 0,
+                         .button = 1,
+                         .key = 0,
+                         .qualifiers = 0,
+                         .text = NULL};
 }
 
 // Plays an action here and now: each batch queued, the loop turned until it is taken.

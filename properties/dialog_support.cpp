@@ -13,17 +13,17 @@ typedef struct T_RECORD_KEEPER {
 
 t_Window *OpenDialogWindow(t_Window *page, const T_DIALOG_FRAME *frame, T_TEXTURE_BANK *icon_bank)
 {
-    T_WINDOWOBJINIT init = {};
-    init.x = frame->x;
-    init.y = frame->y;
-    init.w = frame->w;
-    init.h = frame->h;
-    init.flags = frame->flags;
-    init.idcmp = frame->idcmp;
-    init.icon = frame->icon;
-    init.icon_bank = icon_bank;
-    init.message = frame->message;
-    init.parent = page;
+    T_WINDOWOBJINIT init = {.x = frame->x,
+                            .y = frame->y,
+                            .w = frame->w,
+                            .h = frame->h,
+                            .flags = frame->flags,
+                            .idcmp = frame->idcmp,
+                            .icon = frame->icon,
+                            .icon_bank = icon_bank,
+                            .bitmap = NULL,
+                            .message = frame->message,
+                            .parent = page};
     t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, frame->title, &init);
     if (window && !NewGadgetHandler(window)) {
         RemoveWindow(window);
@@ -32,33 +32,31 @@ t_Window *OpenDialogWindow(t_Window *page, const T_DIALOG_FRAME *frame, T_TEXTUR
     return window;
 }
 
-t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
-                          i16 width, i16 height, u32 flags, u32 action)
+T_GADGETOBJECTINIT DialogGadgetInit(u16 type, u32 item_code, T_RPOS rect, u32 flags, u32 action)
 {
     T_GADGETOBJECTINIT init = {};
     init.type = type;
-    init.item_code = item_code;
-    init.x = x;
-    init.y = y;
-    init.base_width = width;
-    init.base_height = height;
-    init.flags = flags;
-    init.action = action;
-    return (t_gadget *)CreateObject(&handler->head, text, &init);
-}
-
-int AddDialogCombo(t_Window *dialog, u32 item_code, T_RPOS rect, u32 flags, T_TEXTURE_BANK *icon_bank, void **list,
-                   t_gadget **gadget)
-{
-    T_GADGETOBJECTINIT init = {};
-    init.type = GADGET_TYPE_COMBO;
     init.item_code = item_code;
     init.x = rect.x;
     init.y = rect.y;
     init.base_width = rect.w;
     init.base_height = rect.h;
     init.flags = flags;
-    init.action = ACT_LMOUSE_UP;
+    init.action = action;
+    return init;
+}
+
+t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
+                          i16 width, i16 height, u32 flags, u32 action)
+{
+    T_GADGETOBJECTINIT init = DialogGadgetInit(type, item_code, T_RPOS{x, y, width, height}, flags, action);
+    return (t_gadget *)CreateObject(&handler->head, text, &init);
+}
+
+int AddDialogCombo(t_Window *dialog, u32 item_code, T_RPOS rect, u32 flags, T_TEXTURE_BANK *icon_bank, void **list,
+                   t_gadget **gadget)
+{
+    T_GADGETOBJECTINIT init = DialogGadgetInit(GADGET_TYPE_COMBO, item_code, rect, flags, ACT_LMOUSE_UP);
     init.icon_bank = icon_bank;
     *list = CreateObject(&FindGadgetHandler(dialog)->head, "Combo", &init);
     *gadget = FindGadgetByItemCode(dialog, item_code);

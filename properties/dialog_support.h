@@ -17,6 +17,8 @@ typedef struct T_DIALOG_FRAME {
 // made (nothing is left open then).
 t_Window *OpenDialogWindow(t_Window *page, const T_DIALOG_FRAME *frame, struct T_TEXTURE_BANK *icon_bank);
 
+// A zeroed creation record of a dialog's gadget with the values that differ between its gadgets.
+T_GADGETOBJECTINIT DialogGadgetInit(u16 type, u32 item_code, T_RPOS rect, u32 flags, u32 action);
 // A gadget of a dialog from the values that differ between its gadgets; the gadget, or null.
 t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
                           i16 width, i16 height, u32 flags, u32 action);

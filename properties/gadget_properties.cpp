@@ -31,6 +31,9 @@
 #define FLAG_BIT_CURSOR GADGET_FLAGS_CURSOR
 #define FLAG_BIT_ICON GADGET_FLAGS_ICON
 #define ITEM_OF_BIT(index) ((index) + 1)
+#define FLAG_BITS 32            // the bits of a gadget's flags word that may have a row
+#define LAST_FLAG_ROW_BIT 25    // GADGET_FLAGS_FROM_BOTTOM, the highest bit with a row
+#define CURSOR_FIELD_MAX 30     // characters of the cursor's number field
 #define TYPE_BIT(type) (1u << (type))
 
 // The rows above the flag rows. Which text a control edits:
@@ -100,6 +103,26 @@ static void SetDisabled(t_gadget *gadget, int disabled)
         gadget->live_flags |= GADGET_FLAGS_DISABLED;
 }
 
+// The parts of the dialog's record that edit one of the gadget's two colours.
+typedef struct T_COLOUR_EDIT {
+    u32 *word;     // the gadget's colour word
+    u32 *opening;  // the word when the dialog opened
+    T_RGBA *rgba;  // the working colour
+    T_HSIA *hsia;
+    T_COLOUR_DATA *data;  // the swatch's data
+} T_COLOUR_EDIT;
+
+// The text colour's parts (index 0) or the background's (index 1).
+static T_COLOUR_EDIT ColourEditOf(T_GADGET_PROPERTIES *record, int index)
+{
+    t_gadget *gadget = record->gadget;
+    if (index)
+        return T_COLOUR_EDIT{&gadget->back_colour, &record->opening_back_colour, &record->back_rgba, &record->back_hsia,
+                             &record->back_colour_data};
+    return T_COLOUR_EDIT{&gadget->text_colour, &record->opening_text_colour, &record->text_rgba, &record->text_hsia,
+                         &record->text_colour_data};
+}
+
 // A colour word unpacked to the working colour; the top byte is dropped, alpha is 0.
 static void UnpackColour(u32 word, T_RGBA *rgba, T_HSIA *hsia)
 {
@@ -149,20 +172,16 @@ static void SetUpControl(T_GADGET_PROPERTIES *record, const T_PROPERTY_ROW *row,
         memcpy(record->hover_opening, record->hover_edit, sizeof(record->hover_opening));
         init->data = record->hover_edit;
         break;
-    case FIELD_TEXT_COLOUR:
-        record->opening_text_colour = gadget->text_colour;
-        UnpackColour(gadget->text_colour, &record->text_rgba, &record->text_hsia);
-        record->text_colour_data = T_COLOUR_DATA{&record->text_rgba, &record->text_hsia, COLOUR_DATA_MODE};
-        init->data = &record->text_colour_data;
+    case FIELD_TEXT_COLOUR:  // a swatch of the colour as the dialog opens
+    case FIELD_BACK_COLOUR: {
+        T_COLOUR_EDIT edit = ColourEditOf(record, row->field == FIELD_BACK_COLOUR);
+        *edit.opening = *edit.word;
+        UnpackColour(*edit.word, edit.rgba, edit.hsia);
+        *edit.data = T_COLOUR_DATA{edit.rgba, edit.hsia, COLOUR_DATA_MODE};
+        init->data = edit.data;
         init->base_height = (i16)GetFontHeight(DISPLAY_RECORD->system_font);
         break;
-    case FIELD_BACK_COLOUR:
-        record->opening_back_colour = gadget->back_colour;
-        UnpackColour(gadget->back_colour, &record->back_rgba, &record->back_hsia);
-        record->back_colour_data = T_COLOUR_DATA{&record->back_rgba, &record->back_hsia, COLOUR_DATA_MODE};
-        init->data = &record->back_colour_data;
-        init->base_height = (i16)GetFontHeight(DISPLAY_RECORD->system_font);
-        break;
+    }
     }
 }
 
@@ -175,7 +194,7 @@ static void AddCursorField(t_Gaget_Handler *handler, T_GADGET_PROPERTIES *record
     init.x = (i16)(box->base_width + SECOND_CONTROL_GAP);
     init.y = y;
     init.base_width = (i16)(3 * row_h);
-    init.max = 30;
+    init.max = CURSOR_FIELD_MAX;
     init.item_code = PROP_ITEM_CURSOR;
     init.action = ACT_LMOUSE_UP;
     init.flags = box->class_data ? 0 : GADGET_FLAGS_DISABLED;
@@ -247,7 +266,7 @@ void BuildGadgetProperties(t_Gaget_Handler *handler, T_GADGET_PROPERTIES *record
         y = (i16)(y + row_h);
     }
 
-    for (u32 index = 0; index < 32; index++) {
+    for (u32 index = 0; index < FLAG_BITS; index++) {
         u32 bit = 1u << index;
         if (!(record->row_mask & bit))
             continue;
@@ -308,7 +327,7 @@ void OpenGadgetProperties(t_Window *page, t_gadget *gadget)
     record->gadget = gadget;
     t_Gaget_Handler *handler = FindGadgetHandler(window);
     record->row_mask = GadgetRowMask(gadget->type);
-    T_RPOS user = {window->user_x, window->user_y, window->user_w, window->user_h};
+    T_RPOS user = UserArea(window);
     BuildGadgetProperties(handler, record, &user);
     handler->current_gadget = NULL;  // Tab starts at the first field
     KeepDialogInView(window);
@@ -317,10 +336,9 @@ void OpenGadgetProperties(t_Window *page, t_gadget *gadget)
 void EditGadgetColour(t_Window *window, T_GADGET_PROPERTIES *record, u32 msg, int index, const char *title)
 {
     t_gadget *gadget = record->gadget;
-    T_RGBA *rgba = index ? &record->back_rgba : &record->text_rgba;
-    T_HSIA *hsia = index ? &record->back_hsia : &record->text_hsia;
+    T_COLOUR_EDIT edit = ColourEditOf(record, index);
     if (msg & ACT_LMOUSE_DROP) {  // a colour dropped on the swatch: the gadget takes it at once
-        *(index ? &gadget->back_colour : &gadget->text_colour) = GetConstantTRGBA(rgba);
+        *edit.word = GetConstantTRGBA(edit.rgba);
         return;
     }
     // One selector per colour: a press, release and double click of the same click open one.
@@ -336,7 +354,7 @@ void EditGadgetColour(t_Window *window, T_GADGET_PROPERTIES *record, u32 msg, in
         ISetActiveWindow(open);
         return;
     }
-    T_COLOURSEL_INIT init = {window, rgba, hsia, COLOUR_SELECTOR_MODE, (u32)index + 1, title, record};
+    T_COLOURSEL_INIT init = {window, edit.rgba, edit.hsia, COLOUR_SELECTOR_MODE, (u32)index + 1, title, record};
     t_Window *selector = AddColourSelector(&init);
     record->colour_selector[index] = selector;
     if (selector)
@@ -349,17 +367,15 @@ static void ColourAnswer(T_GADGET_PROPERTIES *record, u32 item_code, u32 msg)
     if (item_code != PROP_COLOUR_TEXT && item_code != PROP_COLOUR_BACK)
         return;
     int index = item_code == PROP_COLOUR_BACK;
-    t_gadget *gadget = record->gadget;
-    u32 *word = index ? &gadget->back_colour : &gadget->text_colour;
+    T_COLOUR_EDIT edit = ColourEditOf(record, index);
     switch (msg) {
     case ACT_REQUESTER_OK:  // the working colour becomes the gadget's
     case ACT_REQUESTER_PREVIEW:
-        *word = GetConstantTRGBA(index ? &record->back_rgba : &record->text_rgba);
+        *edit.word = GetConstantTRGBA(edit.rgba);
         break;
     case ACT_REQUESTER_CANCEL:  // back to the colour of the dialog's opening, the swatch too
-        *word = index ? record->opening_back_colour : record->opening_text_colour;
-        UnpackColour(*word, index ? &record->back_rgba : &record->text_rgba,
-                     index ? &record->back_hsia : &record->text_hsia);
+        *edit.word = *edit.opening;
+        UnpackColour(*edit.word, edit.rgba, edit.hsia);
         break;
     }
     if (msg != ACT_REQUESTER_PREVIEW)
@@ -423,7 +439,7 @@ static void ControlReported(t_Window *window, T_GADGET_PROPERTIES *record, u32 i
         OpenActionEditor(page);
         break;
     default:
-        if (item_code >= ITEM_OF_BIT(0) && item_code <= ITEM_OF_BIT(25) && control)
+        if (item_code >= ITEM_OF_BIT(0) && item_code <= ITEM_OF_BIT(LAST_FLAG_ROW_BIT) && control)
             FlagRowChanged(window, record, item_code, control);
         break;
     }

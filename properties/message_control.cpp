@@ -17,6 +17,7 @@ static const T_DIALOG_FRAME message_frame = {
 #define COMBO_FLAGS (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_REPORT_DRAG)  // 0xC08
 #define ROW_X 8
 #define ROW_WIDTH 32
+#define ROW_GAP 4  // between one row's box and the next
 
 t_Window *OpenMessageControl(t_Window *page)
 {
@@ -26,7 +27,7 @@ t_Window *OpenMessageControl(t_Window *page)
         ISetActiveWindow(open);
         return open;
     }
-    T_WINEDIT_HANDLER *page_record = (T_WINEDIT_HANDLER *)page->user_data;
+    T_WINEDIT_HANDLER *page_record = PageRecordOf(page);
     t_Window *window = OpenDialogWindow(page, &message_frame, NULL);
     if (!window)
         return NULL;
@@ -36,7 +37,6 @@ t_Window *OpenMessageControl(t_Window *page)
     t_Gaget_Handler *handler = FindGadgetHandler(window);
 
     T_RPOS rect = {0, 0, 8, 8};  // the combo takes the window's size at the first ACT_FIRSTTIME_RUN
-    T_GADGETOBJECTINIT init = {};
     if (AddDialogCombo(window, MSG_ITEM_COMBO, rect, COMBO_FLAGS, NULL, &page_record->msg_combo,
                        &page_record->msg_combo_first)) {
         i16 font_h = (i16)GetFontHeight(DISPLAY_RECORD->system_font);
@@ -44,18 +44,12 @@ t_Window *OpenMessageControl(t_Window *page)
         for (u32 row = 0; idcmp_names[row].text[0]; row++) {
             char label[64];  // the table's own text never changes: the label is made in a copy
             snprintf(label, sizeof(label), "%s", idcmp_names[row].text);
-            init = T_GADGETOBJECTINIT{};
-            init.type = GADGET_TYPE_CHECK_BOX;
-            init.item_code = row + MSG_ITEM_FIRST_ROW;
-            init.x = ROW_X;
-            init.y = y;
-            init.base_width = ROW_WIDTH;
-            init.base_height = font_h;
-            init.flags = GADGET_FLAGS_AUTOSIZE;
-            init.action = ACT_LMOUSE_UP;
+            T_GADGETOBJECTINIT init = DialogGadgetInit(GADGET_TYPE_CHECK_BOX, row + MSG_ITEM_FIRST_ROW,
+                                                       T_RPOS{ROW_X, y, ROW_WIDTH, font_h}, GADGET_FLAGS_AUTOSIZE,
+                                                       ACT_LMOUSE_UP);
             init.init_val = (page->idcmp & idcmp_names[row].value) != 0;
             CreateObject(&handler->head, MakeReadable(label), &init);
-            y = (i16)(y + font_h + 4);
+            y = (i16)(y + font_h + ROW_GAP);
         }
         RestoreGadgetList(window);
     }

@@ -17,7 +17,8 @@ static const T_DIALOG_FRAME info_frame = {
     TXT_SOURCE_INFO, 176, 239, 562, 293,
     WF_CHILD | WF_MINIMISE | WF_MAXIMISE | WF_BORDER | WF_MOVE | WF_TITLE | WF_RESIZE | WF_CLOSE,  // 0x3FC
     IDCMP_TERMINATE, 5, SourceFileInfoMsg};
-#define INFO_ACTION 0x73
+#define INFO_ACTION \
+    (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_LMOUSE_DBL | ACT_RMOUSE_UP | ACT_RMOUSE_DOWN)  // 0x73
 #define INFO_LINE_SIZE 1100  // a list row: a number and a source line of up to 1023 characters
 #define INFO_SOURCE_LINE 1024
 
@@ -43,7 +44,7 @@ static void AddRow(t_List *entries, const char *text)
 
 void FillSourceFileInfo(t_Window *page, t_List *entries)
 {
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(page);
     const char *path = record->file_name.text ? record->file_name.text : "";
     char row[INFO_LINE_SIZE];
     snprintf(row, sizeof(row), TXT_INFO_PATH, path);
@@ -98,7 +99,7 @@ t_Window *OpenSourceFileInfo(t_Window *page)
     if (!window)
         return NULL;
     t_Gaget_Handler *handler = FindGadgetHandler(window);
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;
+    T_WINEDIT_HANDLER *record = PageRecordOf(page);
     char file_name[FILE_PATH_SIZE];
     StripPath(file_name, record->file_name.text ? record->file_name.text : "");
     char label[FILE_PATH_SIZE + 32];

@@ -20,6 +20,7 @@ static const T_DIALOG_FRAME window_frame = {
 #define COMBO_HEIGHT 96
 #define BOX_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DBL)
 #define NAME_MAX 127
+#define NAME_WIDTH 160
 #define BUTTON_WIDTH 80
 
 // What a box brings along after its bit changed.
@@ -31,27 +32,35 @@ typedef struct T_WINDOW_BOX {
     i16 x;
     u32 bit;
     u8 after;
+    u32 flags;  // the box's own
 } T_WINDOW_BOX;
 
+// The boxes' places in the combo: under "Title Bar" and "Border", and under "Always in front".
+#define BOX_X 4
+#define BOX_X_UNDER 12
+#define BOX_X_UNDER_TWICE 20
+
 // In list order: the enable rule counts the boxes after "Border" and "Title Bar".
-//  item code text                     x   bit                   after the change
+// clang-format off
+//  item code                text                   x                  bit                 after the change  flags
 static const T_WINDOW_BOX window_boxes[] = {
-    {2, "Window as Backdrop", 4, WF_BACKDROP, AFTER_BACKDROP},
-    {5, "Open FullScreen", 4, WF_OPEN_FULLSCREEN, AFTER_NOTHING},  // the saved source carries it
-    {12, "Title Bar", 4, WF_TITLE, AFTER_TITLE_BAR},
-    {6, "Minimise Gadget", 12, WF_MINIMISE, AFTER_RECALC},
-    {7, "Maximise Gadget", 12, WF_MAXIMISE, AFTER_RECALC},
-    {8, "Close Gadget", 12, WF_CLOSE, AFTER_RECALC},
-    {13, "Move Allowed", 12, WF_MOVE, AFTER_NOTHING},
-    {14, "Always in front", 12, WF_IN_FRONT, AFTER_NOTHING},
-    {15, "Let user modify", 20, WF_IN_FRONT_MODIFY, AFTER_RECALC},
-    {10, "Border", 4, WF_BORDER, AFTER_BORDER},
-    {11, "Resize allowed", 12, WF_RESIZE, AFTER_NOTHING},
-    {16, "AltF4 Closes window", 4, WF_ALTF4, AFTER_NOTHING},
-    {17, "Clear ZBuffer", 4, WF_CLEAR_ZBUFFER, AFTER_NOTHING},
-    {18, "See through", 4, WF_SEETHROUGH, AFTER_RECALC},
-    {19, "No background", 4, WF_NO_BACK, AFTER_RECALC},
+    {WINPROP_ITEM_BACKDROP,   "Window as Backdrop",  BOX_X,             WF_BACKDROP,        AFTER_BACKDROP,   GADGET_FLAGS_AUTOSIZE},
+    {WINPROP_ITEM_FULLSCREEN, "Open FullScreen",     BOX_X,             WF_OPEN_FULLSCREEN, AFTER_NOTHING,    GADGET_FLAGS_AUTOSIZE},  // the saved source carries it
+    {WINPROP_ITEM_TITLE_BAR,  "Title Bar",           BOX_X,             WF_TITLE,           AFTER_TITLE_BAR,  0},
+    {6,                       "Minimise Gadget",     BOX_X_UNDER,       WF_MINIMISE,        AFTER_RECALC,     0},
+    {7,                       "Maximise Gadget",     BOX_X_UNDER,       WF_MAXIMISE,        AFTER_RECALC,     0},
+    {8,                       "Close Gadget",        BOX_X_UNDER,       WF_CLOSE,           AFTER_RECALC,     0},
+    {13,                      "Move Allowed",        BOX_X_UNDER,       WF_MOVE,            AFTER_NOTHING,    0},
+    {14,                      "Always in front",     BOX_X_UNDER,       WF_IN_FRONT,        AFTER_NOTHING,    0},
+    {15,                      "Let user modify",     BOX_X_UNDER_TWICE, WF_IN_FRONT_MODIFY, AFTER_RECALC,     0},
+    {WINPROP_ITEM_BORDER,     "Border",              BOX_X,             WF_BORDER,          AFTER_BORDER,     0},
+    {11,                      "Resize allowed",      BOX_X_UNDER,       WF_RESIZE,          AFTER_NOTHING,    0},
+    {16,                      "AltF4 Closes window", BOX_X,             WF_ALTF4,           AFTER_NOTHING,    0},
+    {17,                      "Clear ZBuffer",       BOX_X,             WF_CLEAR_ZBUFFER,   AFTER_NOTHING,    0},
+    {18,                      "See through",         BOX_X,             WF_SEETHROUGH,      AFTER_RECALC,     0},
+    {19,                      "No background",       BOX_X,             WF_NO_BACK,         AFTER_RECALC,     0},
 };
+// clang-format on
 
 #define BORDER_FOLLOWERS 1     // "Resize allowed"
 #define TITLE_BAR_FOLLOWERS 6  // "Minimise Gadget" to "Let user modify"
@@ -72,8 +81,7 @@ u32 WindowBoxBit(u32 item_code)
 
 static T_WINEDIT_HANDLER *PageOf(t_Window *dialog)
 {
-    t_Window *page = dialog->parent;
-    return page && IsPageWindow(page) ? (T_WINEDIT_HANDLER *)page->user_data : NULL;
+    return PageRecordOf(dialog->parent);
 }
 
 // Greys (or not) the `count` boxes after `box` in the combo.
@@ -96,7 +104,7 @@ void UpdateFrameBoxes(t_Window *dialog)
 
 t_Window *OpenWindowProperties(t_Window *page)
 {
-    T_WINEDIT_HANDLER *page_record = page && IsPageWindow(page) ? (T_WINEDIT_HANDLER *)page->user_data : NULL;
+    T_WINEDIT_HANDLER *page_record = PageRecordOf(page);
     if (!page_record)
         return NULL;
     t_Window *window = OpenDialogWindow(page, &window_frame, page->icon_bank);
@@ -113,13 +121,8 @@ t_Window *OpenWindowProperties(t_Window *page)
                        &page_record->win_combo, &page_record->win_combo_first)) {
         i16 y = 4;
         for (const T_WINDOW_BOX &box : window_boxes) {
-            init = T_GADGETOBJECTINIT{};
-            init.type = GADGET_TYPE_CHECK_BOX;
-            init.item_code = box.item_code;
-            init.x = box.x;
-            init.y = y;
-            init.flags = (box.item_code == 2 || box.item_code == 5) ? GADGET_FLAGS_AUTOSIZE : 0;
-            init.action = BOX_ACTION;
+            init = DialogGadgetInit(GADGET_TYPE_CHECK_BOX, box.item_code, T_RPOS{box.x, y, 0, 0}, box.flags,
+                                    BOX_ACTION);
             init.init_val = (i32)(page->flags & box.bit);
             CreateObject(&handler->head, box.text, &init);
             y = (i16)(y + row_h);
@@ -132,15 +135,10 @@ t_Window *OpenWindowProperties(t_Window *page)
                     GADGET_FLAGS_BOLD | GADGET_FLAGS_AUTOSIZE, BOX_ACTION);
     AddDialogGadget(handler, TXT_WINDOW_NAME, GADGET_TYPE_TEXT, 0, 4, (i16)(row_h + 112), 0, 0, GADGET_FLAGS_BOLD,
                     BOX_ACTION);
-    init = T_GADGETOBJECTINIT{};
-    init.type = GADGET_TYPE_STRING;
-    init.item_code = WINPROP_ITEM_NAME;
-    init.x = 4;
-    init.y = (i16)(2 * row_h + 116);
-    init.base_width = 160;
+    init = DialogGadgetInit(GADGET_TYPE_STRING, WINPROP_ITEM_NAME, T_RPOS{4, (i16)(2 * row_h + 116), NAME_WIDTH, 0}, 0,
+                            BOX_ACTION);
     init.max = NAME_MAX;
     init.data = page_record->page_name;  // in place: the title and the undo list follow each key
-    init.action = BOX_ACTION;
     CreateObject(&handler->head, "Window name string", &init);
     // The two buttons are at least 80 wide, and as wide as their text.
     t_gadget *buttons[2] = {
@@ -161,38 +159,25 @@ t_Window *OpenWindowProperties(t_Window *page)
     return window;
 }
 
-// "Border": a new border handler and the display's border size, or neither.
-static void SwitchBorder(t_Window *page, T_WINEDIT_HANDLER *record, int on)
+// "Border" or "Title Bar" (`bit`): the page gets a new handler of that part of its frame, or
+// loses it, with the window flag; the border brings the display's border size along.
+static void SwitchFramePart(t_Window *page, t_Handler **part, u32 bit, int on)
 {
+    int border = bit == WF_BORDER;
     if (on) {
-        if (record->border)  // it has one already
+        if (*part && (border || (page->flags & bit)))  // it has one already
             return;
-        page->border_size = DISPLAY_RECORD->border_size;
-        record->border = NewBorderHandler(page);
-        page->flags |= WF_BORDER;
+        if (border)
+            page->border_size = DISPLAY_RECORD->border_size;
+        *part = border ? NewBorderHandler(page) : NewTitleBarHandler(page);
+        page->flags |= bit;
     } else {
-        if (record->border)
-            DelHandler(record->border);
-        record->border = NULL;
-        page->flags &= ~WF_BORDER;
-        page->border_size = 0;
-    }
-    RecalcUserSize(page);
-}
-
-// "Title Bar": a new title bar handler, or none.
-static void SwitchTitleBar(t_Window *page, T_WINEDIT_HANDLER *record, int on)
-{
-    if (on) {
-        if (record->titlebar && (page->flags & WF_TITLE))
-            return;
-        record->titlebar = NewTitleBarHandler(page);
-        page->flags |= WF_TITLE;
-    } else {
-        if (record->titlebar)
-            DelHandler(record->titlebar);
-        record->titlebar = NULL;
-        page->flags &= ~WF_TITLE;
+        if (*part)
+            DelHandler(*part);
+        *part = NULL;
+        page->flags &= ~bit;
+        if (border)
+            page->border_size = 0;
     }
     RecalcUserSize(page);
 }
@@ -209,11 +194,11 @@ static void BoxChanged(t_Window *dialog, const T_WINDOW_BOX *box, t_gadget *gadg
     switch (box->after) {
     case AFTER_BORDER:
         UpdateFrameBoxes(dialog);
-        SwitchBorder(page, record, on);
+        SwitchFramePart(page, &record->border, WF_BORDER, on);
         return;
     case AFTER_TITLE_BAR:
         UpdateFrameBoxes(dialog);
-        SwitchTitleBar(page, record, on);
+        SwitchFramePart(page, &record->titlebar, WF_TITLE, on);
         return;
     default:
         break;

@@ -32,7 +32,7 @@ enum {
 
 // Item codes that are no commands.
 #define ITEM_OPEN_SELECTOR 1     // the "Open Source file" selector
-#define ITEM_RECENT_OR_DROP 2    // a recent-file entry, or with ACT_RECEIVE_OBJECT a dropped file
+#define ITEM_RECENT_OR_DROP DROPPED_FILE_ITEM_CODE  // a recent-file entry, or with ACT_RECEIVE_OBJECT a dropped file
 #define ITEM_MAIN_MESSAGE_BOX 32 // the program's message boxes on the main window
 #define ITEM_ABOUT 0x501
 

@@ -52,7 +52,7 @@ static int CountsAsDocument(t_Window *child, t_Window *excluded)
 {
     if (child == excluded || !IsPageWindow(child))
         return 0;
-    return ((T_WINEDIT_HANDLER *)child->user_data)->file_name.text != NULL;
+    return PageRecordOf(child)->file_name.text != NULL;
 }
 
 void StoreOpenDocuments(t_Window *main_window, T_EDITOR_CONFIG *config, t_Window *excluded)
@@ -62,7 +62,7 @@ void StoreOpenDocuments(t_Window *main_window, T_EDITOR_CONFIG *config, t_Window
     for (t_Window *child = main_window->first_child; child->next; child = child->next)
         if (CountsAsDocument(child, excluded)) {
             count++;
-            tail_size += (u32)strlen(((T_WINEDIT_HANDLER *)child->user_data)->file_name.text) + 5;
+            tail_size += (u32)strlen(PageRecordOf(child)->file_name.text) + 5;
         }
     config->open_count = count;
     u32 new_size = EDITOR_CONFIG_SIZE + tail_size;
@@ -72,7 +72,7 @@ void StoreOpenDocuments(t_Window *main_window, T_EDITOR_CONFIG *config, t_Window
     u8 *at = block + EDITOR_CONFIG_SIZE;
     for (t_Window *child = main_window->first_child; child->next; child = child->next)
         if (CountsAsDocument(child, excluded)) {
-            const char *path = ((T_WINEDIT_HANDLER *)child->user_data)->file_name.text;
+            const char *path = PageRecordOf(child)->file_name.text;
             u32 length = (u32)strlen(path) + 1;
             memcpy(at, &length, 4);  // little-endian on this machine, as the stored format is
             memcpy(at + 4, path, length);

@@ -29,7 +29,7 @@ void SetActivePage(t_Window *window, t_Window *page)
     record->active_page = page;
     if (page) {
         main_window->title_suffix = window->name;
-        RefreshMainMenus(main_window, (T_WINEDIT_HANDLER *)window->user_data);
+        RefreshMainMenus(main_window, PageRecordOf(window));
     } else {
         main_window->title_suffix = NULL;
         RefreshMainMenus(main_window, NULL);
@@ -84,12 +84,12 @@ static void ClosePage(t_Window *page)
 
 static void SavePageDocument(t_Window *page)
 {
-    SaveDocument(page, (T_WINEDIT_HANDLER *)page->user_data, 0);
+    SaveDocument(page, PageRecordOf(page), 0);
 }
 
 static void SavePageDocumentAs(t_Window *page)
 {
-    SaveDocument(page, (T_WINEDIT_HANDLER *)page->user_data, 1);
+    SaveDocument(page, PageRecordOf(page), 1);
 }
 
 static void CloseAllPages(t_Window *main_window)
@@ -119,7 +119,7 @@ static void OpenSettings(t_Window *main_window)
 
 static void ShowAbout(t_Window *main_window)
 {
-    t_Window *box = NewMsgBox(main_window, TXT_ABOUT_TITLE, TXT_ABOUT_TEXT, 64, ITEM_MAIN_MESSAGE_BOX);
+    t_Window *box = NewMsgBox(main_window, TXT_ABOUT_TITLE, TXT_ABOUT_TEXT, MSGBOX_INFO, ITEM_MAIN_MESSAGE_BOX);
     if (box) {
         box->icon_bank = NULL;
         SetMessageBoxIcon(box, main_window->icon_bank, 0);
@@ -131,7 +131,7 @@ static t_Window *NextPageToAsk(t_Window *main_window)
 {
     for (t_Window *child = main_window->first_child; child->next; child = child->next)
         if (IsPageWindow(child) && IsWindowLive(child) && (child->state_flags & WSF_MODIFIED) &&
-            !((T_WINEDIT_HANDLER *)child->user_data)->drop_at_exit)
+            !PageRecordOf(child)->drop_at_exit)
             return child;
     return NULL;
 }
@@ -146,7 +146,7 @@ static int AskModifiedPages(t_Window *main_window)
     while (t_Window *page = NextPageToAsk(main_window)) {
         int answer = AskToSavePage(page);
         if (answer == PAGE_QUERY_DROPPED && IsWindowLive(page))
-            ((T_WINEDIT_HANDLER *)page->user_data)->drop_at_exit = 1;
+            PageRecordOf(page)->drop_at_exit = 1;
         else if (answer != PAGE_QUERY_SAVED && answer != PAGE_QUERY_DROPPED) {
             answered = 0;
             break;
@@ -155,7 +155,7 @@ static int AskModifiedPages(t_Window *main_window)
     for (t_Window *child = main_window->first_child; child->next; child = child->next) {
         if (!IsPageWindow(child) || !IsWindowLive(child))
             continue;
-        T_WINEDIT_HANDLER *page_record = (T_WINEDIT_HANDLER *)child->user_data;
+        T_WINEDIT_HANDLER *page_record = PageRecordOf(child);
         if (answered && page_record->drop_at_exit)
             child->state_flags &= ~WSF_MODIFIED;
         page_record->drop_at_exit = 0;
@@ -193,7 +193,7 @@ static void OpenRecentEntry(t_Window *main_window, t_Menu *entry)
     T_RECENT_FILE *recent = entry ? (T_RECENT_FILE *)entry->user_data : NULL;
     if (!recent)
         return;
-    char path[1024], directory[1024];
+    char path[FILE_PATH_SIZE], directory[FILE_PATH_SIZE];
     snprintf(path, sizeof(path), "%s", recent->name);
     XGetPath(directory, path);
     SetLastPath(directory);
@@ -270,12 +270,12 @@ u32 MainWindowMsg(t_Window *window, u32 item_code, u32 msg, void *data)
     case ACT_KEY:  // a key runs its command
         return (u8)RunKeyCommand(window, (T_KEY_MSG *)data);
     case ACT_MENU_OPEN:  // fresh greying before a menu shows
-        RefreshMainMenus(window, record->active_page ? (T_WINEDIT_HANDLER *)record->active_page->user_data : NULL);
+        RefreshMainMenus(window, PageRecordOf(record->active_page));
         return 0;
     case ACT_RECEIVE_OBJECT:  // a file dropped from the desktop
         if (item_code == ITEM_RECENT_OR_DROP && data) {
             const T_DROPPED_FILE *dropped = (const T_DROPPED_FILE *)data;
-            char path[1024];
+            char path[FILE_PATH_SIZE];
             MakeFilename(path, dropped->directory, dropped->name);
             OpenDocument(window, path, OPEN_BY_DROP);
         }
@@ -283,7 +283,7 @@ u32 MainWindowMsg(t_Window *window, u32 item_code, u32 msg, void *data)
     case ACT_REQUESTER_OK:  // the "Open Source file" selector answered
         if (item_code == ITEM_OPEN_SELECTOR && data) {
             const T_FILE_REQUESTER_ANSWER *answer = (const T_FILE_REQUESTER_ANSWER *)data;
-            char path[1024];
+            char path[FILE_PATH_SIZE];
             MakeFilename(path, answer->directory, answer->name);
             SetLastPath(answer->directory);
             OpenDocument(window, path, OPEN_BY_SELECTOR);

@@ -9,120 +9,66 @@
 #include "page/catalogue.h"
 #include "shell/commands.h"
 #include "shell/main_window.h"
+#include "shell/texts.h"
 
-// What a row of the menu tree is.
-enum {
-    ROW_TITLE,        // a title of the bar
-    ROW_COMMAND,      // an entry made from a registered command
-    ROW_COMMAND_SAVE, // the same, with the standard bank's Save icon
-    ROW_ENTRY,        // a plain entry
-    ROW_SUBMENU,      // a sub-menu; the rows that follow go into it until ROW_SUBMENU_END
-    ROW_SUBMENU_END,
-    ROW_SEPARATOR,
-    ROW_RECENT_FILES, // where the recent files stand
-};
-
-typedef struct T_MENU_ROW {
-    u8 what;
-    const char *label;
-    u32 item_code;
-    u8 shortcut;
-} T_MENU_ROW;
-
-//  what               label               item code              shortcut
+// The menu bar, by rows.
+// clang-format off
+//  what                  label                item code                shortcut
 static const T_MENU_ROW main_menu_table[] = {
-    {ROW_TITLE, "File", MENU_FILE, 'F'},
-    {ROW_COMMAND, NULL, CMD_OPEN, 0},
-    {ROW_COMMAND, NULL, CMD_CLOSE, 0},
-    {ROW_COMMAND, NULL, CMD_CLOSE_ALL, 0},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_COMMAND_SAVE, NULL, CMD_SAVE, 0},
-    {ROW_COMMAND_SAVE, NULL, CMD_SAVE_AS, 0},
-    {ROW_COMMAND_SAVE, NULL, CMD_SAVE_ALL, 0},
-    {ROW_RECENT_FILES, NULL, 0, 0},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_COMMAND, NULL, CMD_EXIT, 0},
-    {ROW_TITLE, "Edit", MENU_EDIT, 'E'},
-    {ROW_COMMAND, NULL, CMD_UNDO, 0},
-    {ROW_COMMAND, NULL, CMD_REDO, 0},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_COMMAND, NULL, CMD_CUT, 0},
-    {ROW_COMMAND, NULL, CMD_COPY, 0},
-    {ROW_COMMAND, NULL, CMD_PASTE, 0},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_COMMAND, NULL, CMD_SELECT_ALL, 0},
-    {ROW_COMMAND, NULL, CMD_SELECT_NONE, 0},
-    {ROW_COMMAND, NULL, CMD_INVERSE_SELECTION, 0},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_COMMAND, NULL, CMD_REORDER_ITEM_CODES, 0},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_COMMAND, NULL, CMD_SETTINGS, 0},
-    {ROW_TITLE, "Layout", MENU_LAYOUT, 'E'},  // the same letter as "Edit"
-    {ROW_SUBMENU, "Centre in window", MENU_CENTRE, 'C'},
-    {ROW_COMMAND, NULL, CMD_CENTRE_HORIZONTAL, 0},
-    {ROW_COMMAND, NULL, CMD_CENTRE_VERTICAL, 0},
-    {ROW_SUBMENU_END, NULL, 0, 0},
-    {ROW_COMMAND, NULL, CMD_SIZE_TO_CONTENT, 0},
-    {ROW_COMMAND, NULL, CMD_FLIP_HORIZONTAL, 0},
-    {ROW_SEPARATOR, "", 0, 0},
-    {ROW_COMMAND, NULL, CMD_TAB_ORDER, 0},
-    {ROW_TITLE, "Tools", MENU_TOOLS, 'T'},
-    {ROW_COMMAND, NULL, CMD_KEYBOARD, 0},
-    {ROW_COMMAND, NULL, CMD_PREVIEW, 0},
-    {ROW_TITLE, "Help", MENU_HELP, 'H'},
-    {ROW_ENTRY, "About", ITEM_ABOUT, 'A'},
+    {MENU_ROW_TITLE,        "File",              MENU_FILE,               'F'},
+    {MENU_ROW_COMMAND,      NULL,                CMD_OPEN,                0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_CLOSE,               0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_CLOSE_ALL,           0},
+    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
+    {MENU_ROW_COMMAND_SAVE, NULL,                CMD_SAVE,                0},
+    {MENU_ROW_COMMAND_SAVE, NULL,                CMD_SAVE_AS,             0},
+    {MENU_ROW_COMMAND_SAVE, NULL,                CMD_SAVE_ALL,            0},
+    {MENU_ROW_PLACE,        NULL,                0,                       0},  // the recent files, behind "Save all"
+    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_EXIT,                0},
+    {MENU_ROW_TITLE,        "Edit",              MENU_EDIT,               'E'},
+    {MENU_ROW_COMMAND,      NULL,                CMD_UNDO,                0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_REDO,                0},
+    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_CUT,                 0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_COPY,                0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_PASTE,               0},
+    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_SELECT_ALL,          0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_SELECT_NONE,         0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_INVERSE_SELECTION,   0},
+    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_REORDER_ITEM_CODES,  0},
+    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_SETTINGS,            0},
+    {MENU_ROW_TITLE,        "Layout",            MENU_LAYOUT,             'E'},  // the same letter as "Edit"
+    {MENU_ROW_SUBMENU,      "Centre in window",  MENU_CENTRE,             'C'},
+    {MENU_ROW_COMMAND,      NULL,                CMD_CENTRE_HORIZONTAL,   0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_CENTRE_VERTICAL,     0},
+    {MENU_ROW_SUBMENU_END,  NULL,                0,                       0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_SIZE_TO_CONTENT,     0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_FLIP_HORIZONTAL,     0},
+    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_TAB_ORDER,           0},
+    {MENU_ROW_TITLE,        "Tools",             MENU_TOOLS,              'T'},
+    {MENU_ROW_COMMAND,      NULL,                CMD_KEYBOARD,            0},
+    {MENU_ROW_COMMAND,      NULL,                CMD_PREVIEW,             0},
+    {MENU_ROW_TITLE,        "Help",              MENU_HELP,               'H'},
+    {MENU_ROW_ENTRY,        "About",             ITEM_ABOUT,              'A'},
 };
+// clang-format on
+
+// The recent files stand in the "File" menu.
+static void AddRecentFiles(const T_MENU_BUILD *build, t_Menu *file_menu)
+{
+    AddRecentFilesToMenu(build->handler, file_menu, build->application, RECENT_FILE_TYPE, ITEM_RECENT_OR_DROP);
+}
 
 void BuildMainMenus(t_Window *main_window, T_APPLICATION *application)
 {
     T_MENU_HANDLER *handler = NewMenuHandler(main_window);
-    T_MENUOBJECTINIT init;
-    memset(&init, 0, sizeof(init));
-    t_Menu *file_menu = NULL;
-    for (const T_MENU_ROW &row : main_menu_table) {
-        init.item_code = row.item_code;
-        init.shortcut = row.shortcut;
-        switch (row.what) {
-        case ROW_TITLE:  // a title; the entries that follow go under it
-            init.kind = MENU_KIND_TITLE;
-            init.parent_list = NULL;
-            {
-                t_Menu *title = (t_Menu *)CreateObject(&handler->head, row.label, &init);
-                if (row.item_code == MENU_FILE)
-                    file_menu = title;
-            }
-            break;
-        case ROW_COMMAND:  // a command, which shows its key
-            AddApplicationCmdMenu(application, handler, &init, row.item_code);
-            break;
-        case ROW_COMMAND_SAVE:  // the Save commands carry the standard Save icon
-            init.icon_bank = DISPLAY_RECORD->icon_bank;
-            init.icon = STANDARD_SAVE_ICON;
-            AddApplicationCmdMenu(application, handler, &init, row.item_code);
-            init.icon_bank = NULL;
-            init.icon = 0;
-            break;
-        case ROW_ENTRY:  // a plain entry
-            init.kind = MENU_KIND_ENTRY;
-            CreateObject(&handler->head, row.label, &init);
-            break;
-        case ROW_SUBMENU:  // the entries that follow go into the sub-menu
-            init.kind = MENU_KIND_SUBMENU;
-            init.parent_list = (t_List *)CreateObject(&handler->head, row.label, &init);
-            break;
-        case ROW_SUBMENU_END:
-            init.parent_list = NULL;
-            break;
-        case ROW_SEPARATOR:
-            init.kind = MENU_KIND_SEPARATOR;
-            init.item_code = 0;
-            CreateObject(&handler->head, "", &init);
-            break;
-        case ROW_RECENT_FILES:  // the recent files stand here, behind "Save all"
-            AddRecentFilesToMenu(handler, file_menu, application, RECENT_FILE_TYPE, ITEM_RECENT_OR_DROP);
-            break;
-        }
-    }
+    const T_MENU_BUILD build = {handler, NULL, application, AddRecentFiles};
+    BuildMenuRows(&build, main_menu_table, sizeof(main_menu_table) / sizeof(main_menu_table[0]));
     BuildGadgetContextMenu(handler);
 }
 
@@ -136,6 +82,8 @@ t_Window *CreateGadgetToolBar(t_Window *main_window)
     return toolbar->window;
 }
 
+#define MENU_LABEL_SIZE 256  // an Undo or Redo entry's label: the word and the record's name
+
 // Sets an Undo or Redo entry's label from the node next in turn, or greys it with the plain word.
 static void SetHistoryLabel(t_Window *main_window, t_Menu *edit_menu, u32 item_code, int possible,
                             T_UNDO_NODE *node, const char *word)
@@ -143,7 +91,7 @@ static void SetHistoryLabel(t_Window *main_window, t_Menu *edit_menu, u32 item_c
     t_Menu *entry = FindMenuByItemCode(edit_menu, item_code);
     if (!entry)
         return;
-    char label[256];
+    char label[MENU_LABEL_SIZE];
     if (!possible) {
         entry->menu_flags |= MENU_FLAG_GREY;
         snprintf(label, sizeof(label), "%s", word);
@@ -189,7 +137,7 @@ void RefreshMainMenus(t_Window *main_window, T_WINEDIT_HANDLER *record)
         return;
     GreyClipboardEntries(edit_menu, CMD_CUT, record->head.window);
     SetHistoryLabel(main_window, edit_menu, CMD_UNDO, CanUndo(&record->undo), GetCurrentUndoNode(&record->undo),
-                    "Undo");
+                    TXT_UNDO);
     SetHistoryLabel(main_window, edit_menu, CMD_REDO, CanRedo(&record->undo), GetCurrentRedoNode(&record->undo),
-                    "Redo");
+                    TXT_REDO);
 }

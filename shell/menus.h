@@ -1,5 +1,6 @@
 // The main menu bar, the gadget toolbar, and the menus' greying and Undo/Redo labels.
 #pragma once
+#include "editor/menu_rows.h"
 #include "page/records.h"
 
 // Menu title item codes.
@@ -9,8 +10,6 @@
 #define MENU_TOOLS 0xF003
 #define MENU_HELP 0xF004
 #define MENU_CENTRE 0xF020
-
-#define STANDARD_SAVE_ICON 16
 
 // Builds the menu bar from its table, and the gadget context menu (editor/context_menus.h) with
 // the same handler.

@@ -1,15 +1,10 @@
 // The main window's handler: a box drawn on the background with the mouse becomes a new page.
+#include "editor/page_painter.h"
 #include "editor/page_window.h"
 #include "shell/main_window.h"
 #include "shell/texts.h"
 
 static const u32 NEW_PAGE_FLAGS = WF_CLOSE | WF_RESIZE | WF_TITLE | WF_MOVE | WF_BORDER;  // 0x7C
-
-static T_RPOS UserArea(t_Window *window)
-{
-    T_RPOS area = {window->user_x, window->user_y, window->user_w, window->user_h};
-    return area;
-}
 
 u32 MainHandlerInput(t_Handler *handler, u32 event, void *data)
 {
@@ -22,23 +17,17 @@ u32 MainHandlerInput(t_Handler *handler, u32 event, void *data)
     if (!PointBoxColl(mouse->x, mouse->y, &area))
         return 0;
     switch (mouse->mouse_action) {
-    case ACT_LMOUSE_DOWN: {  // the box begins; the mouse stays in the user area meanwhile
+    case ACT_LMOUSE_DOWN:  // the box begins; the mouse stays in the user area meanwhile
         record->box_x1 = record->box_x2 = (i16)(mouse->x - window->user_x);
         record->box_y1 = record->box_y2 = (i16)(mouse->y - window->user_y);
         record->box_active = 1;
-        T_RPOS limits = {window->user_x, window->user_y, (i16)(window->user_x + window->user_w),
-                         (i16)(window->user_y + window->user_h)};
-        NormArea(&limits);
-        SetMouseLimits(&limits);
+        LimitMouseToUserArea(window);
         return 1;
-    }
     case ACT_LMOUSE_UP: {  // the box becomes a page, unless it is too small
         t_Window *page = CreatePageWindow(window, (char *)TXT_NEW_WINDOW, NEW_PAGE_FLAGS, record->box_x1,
                                           record->box_y1, record->box_x2, record->box_y2);
         record->box_active = 0;
-        T_RPOS screen;
-        GetPhysicalScreenRes(&screen);
-        SetMouseLimits(&screen);
+        FreeMouse();
         if (page) {
             SetActivePage(page, page);
             SetTitleBarHoverTitle(page, TXT_NEW_DOCUMENT);
@@ -54,15 +43,11 @@ void MainHandlerPaint(t_Handler *handler)
 {
     T_WINEDIT_MAIN *record = (T_WINEDIT_MAIN *)handler;
     t_Window *window = handler->window;
-    ClipInsideWindow(window->user_x, window->user_y, (i16)(window->user_x + window->user_w),
-                     (i16)(window->user_y + window->user_h));
+    ClipToUserArea(window);
     if (record->box_active) {
         KeepAnimating();  // the box's dots run
-        record->box_x2 = (i16)(window->mouse_x - window->user_x);
-        record->box_y2 = (i16)(window->mouse_y - window->user_y);
-        DrawDottedBox((i16)(window->user_x + record->box_x1), (i16)(window->user_y + record->box_y1),
-                      (i16)(record->box_x2 - record->box_x1), (i16)(record->box_y2 - record->box_y1),
-                      DISPLAY_RECORD->rubber_box_colour, (u16)(record->box_phase / 8));
+        DrawBandToMouse(window, record->box_x1, record->box_y1, &record->box_x2, &record->box_y2,
+                        (u16)(record->box_phase / DASH_DIVISOR));
     }
-    record->box_phase = (u16)((record->box_phase + 1) % 32);
+    record->box_phase = (u16)((record->box_phase + 1) % DASH_STEPS);
 }

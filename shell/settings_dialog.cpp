@@ -3,8 +3,14 @@
 
 #include <string.h>
 
-#define SETTINGS_TITLE "Settings for Quillform"
+#include "properties/dialog_support.h"
+#include "shell/texts.h"
+
 #define BACKUP_PATH_ITEM 50
+#define ROW_MARGIN 8          // the first row's place in the user area
+#define ROW_GAP 2             // between one row and the next
+#define PATH_FIELD_WIDTH 300  // the backup path's field
+#define PATH_FIELD_HEIGHT 15
 
 static const u32 SETTINGS_FLAGS =
     WF_CLOSE | WF_RESIZE | WF_TITLE | WF_MOVE | WF_BORDER | WF_CHILD | WF_IN_FRONT;  // 0x827C
@@ -33,42 +39,31 @@ static const T_SETTINGS_ROW settings_rows[] = {
 
 t_Window *OpenSettingsDialog(t_Window *main_window)
 {
-    T_WINDOWOBJINIT win_init;
-    memset(&win_init, 0, sizeof(win_init));
-    win_init.x = 236;
-    win_init.y = 223;
-    win_init.w = 340;
-    win_init.h = 160;
-    win_init.flags = SETTINGS_FLAGS;
-    win_init.idcmp = IDCMP_TERMINATE;
-    win_init.icon_bank = main_window->icon_bank;
-    win_init.message = SettingsDialogMsg;
-    win_init.parent = main_window;
-    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, SETTINGS_TITLE, &win_init);
+    static const T_DIALOG_FRAME settings_frame = {TXT_SETTINGS_TITLE, 236, 223, 340, 160, SETTINGS_FLAGS,
+                                                  IDCMP_TERMINATE, 0, SettingsDialogMsg};
+    t_Window *window = OpenDialogWindow(main_window, &settings_frame, main_window->icon_bank);
     if (!window)
         return NULL;
-    t_Gaget_Handler *handler = NewGadgetHandler(window);
-
+    t_Gaget_Handler *handler = FindGadgetHandler(window);
     T_GADGETOBJECTINIT init;
     memset(&init, 0, sizeof(init));
-    init.x = 8;
-    init.y = 8;
-    for (u32 i = 0; i < sizeof(settings_rows) / sizeof(settings_rows[0]); i++) {
-        const T_SETTINGS_ROW *row = &settings_rows[i];
-        init.type = row->type;
-        init.item_code = row->item_code;
-        init.flags = row->flags;
-        init.action = row->action;
-        init.hover_text = row->hover_text;
-        if (row->type == GADGET_TYPE_STRING) {
-            init.base_width = 300;
-            init.base_height = 15;
-            init.max = 255;
+    init.x = ROW_MARGIN;
+    init.y = ROW_MARGIN;
+    for (const T_SETTINGS_ROW &row : settings_rows) {
+        init.type = row.type;
+        init.item_code = row.item_code;
+        init.flags = row.flags;
+        init.action = row.action;
+        init.hover_text = row.hover_text;
+        if (row.type == GADGET_TYPE_STRING) {
+            init.base_width = PATH_FIELD_WIDTH;
+            init.base_height = PATH_FIELD_HEIGHT;
+            init.max = sizeof(editor_config->backup_path) - 1;
             init.data = editor_config->backup_path;
         }
-        t_gadget *gadget = (t_gadget *)CreateObject(&handler->head, row->text, &init);
-        if (gadget && i < 4)
-            init.y = (i16)(init.y + gadget->base_height + 2);
+        t_gadget *gadget = (t_gadget *)CreateObject(&handler->head, row.text, &init);
+        if (gadget && row.type != GADGET_TYPE_STRING)  // the rows stand one under the other
+            init.y = (i16)(init.y + gadget->base_height + ROW_GAP);
     }
     return window;
 }

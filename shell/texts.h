@@ -8,3 +8,7 @@
 #define TXT_REOPEN_PROGRESS "Opening documents"
 #define TXT_NEW_WINDOW "New Window"
 #define TXT_NEW_DOCUMENT "New document"
+// The Edit menu's history entries: the word, then the name of the record next in turn.
+#define TXT_UNDO "Undo"
+#define TXT_REDO "Redo"
+#define TXT_SETTINGS_TITLE "Settings for Quillform"

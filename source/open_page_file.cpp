@@ -7,9 +7,9 @@
 #include "source/source_format.h"
 #include "source/texts.h"
 
-#define OPEN_ERROR_STYLE 16
+#define OPEN_ERROR_STYLE MSGBOX_ERROR
 #define OPEN_ERROR_ITEM_CODE 32
-#define DUPLICATES_STYLE 64
+#define DUPLICATES_STYLE MSGBOX_INFO
 #define DUPLICATES_ITEM_CODE 22
 
 // Shows a message about a path; the text takes the whole path, however long.

@@ -103,7 +103,7 @@
 #define SRC_SAVE_ERROR_BACKUP_COPY                                                                 \
     "A backup copy of the document could not be written to %s. The document is saved without "    \
     "it; check the backup path in the settings."
-#define SRC_SAVE_ERROR_STYLE 16
+#define SRC_SAVE_ERROR_STYLE MSGBOX_ERROR
 #define SRC_SAVE_ERROR_ITEM_CODE 208
 
 // --- What a read logs: each begins with the file (or the clipboard) and the line ------------------

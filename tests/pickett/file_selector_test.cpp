@@ -24,7 +24,7 @@ class FileSelector : public PickettTest {
         init.parent = parent;
         init.item_code = SELECTOR_CODE;
         init.title = "Open Source file";
-        init.fourth_word = 1;
+        init.single_file = 1;
         init.ok_text = "Open";
         init.cancel_text = "Cancel";
         init.path = path.c_str();

@@ -49,7 +49,7 @@ class FontSelector : public PickettTest {
     // As a page opens it: patterns in a local list of 16-byte nodes, emptied at once.
     t_Window *Open(const char *initial_font) {
         t_List patterns;
-        InitList(&patterns, "dum");
+        InitList(&patterns, "font patterns");
         NewTail(&patterns, 16, "*.fnt");
         NewTail(&patterns, 16, "*.*");
         T_FONTSEL_INIT init = {parent, FONT_CODE, "Choose font", fonts.c_str(), "*.*",

@@ -135,7 +135,9 @@ extern T_LUMORA_BASE *_LumoraBase;
                          // one is open, a press outside it goes first to its handlers as event
                          // HANDLER_EVENT_OUTSIDE, and a nonzero answer takes the press
 
-// The data of ACT_RECEIVE_OBJECT with item code 2: a file dropped from the desktop.
+// The data of ACT_RECEIVE_OBJECT with item code DROPPED_FILE_ITEM_CODE: a file dropped from the
+// desktop.
+#define DROPPED_FILE_ITEM_CODE 2
 typedef struct T_DROPPED_FILE {
     char *directory;  // without a trailing separator
     char *name;       // the file name
@@ -294,8 +296,18 @@ int DoDefaultGadgetKeys(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg);
 void FreeGadget(t_gadget *gadget);
 
 // --- Message boxes and progress bars -------------------------------------------------------------
+// A message box's style: the buttons in the low four bits, the glyph in the bits above them.
+#define MSGBOX_BUTTONS_MASK 0x0F
+#define MSGBOX_BUTTONS_OK 0x00             // "OK" alone
+#define MSGBOX_BUTTONS_YES_NO_CANCEL 0x03  // "Yes" (OK), "No" (ABORT), "Cancel" (CANCEL)
+#define MSGBOX_GLYPH_ERROR 16
+#define MSGBOX_GLYPH_QUESTION 32
+#define MSGBOX_GLYPH_INFO 64
+#define MSGBOX_ERROR (MSGBOX_GLYPH_ERROR | MSGBOX_BUTTONS_OK)                      // 16
+#define MSGBOX_INFO (MSGBOX_GLYPH_INFO | MSGBOX_BUTTONS_OK)                        // 64
+#define MSGBOX_QUESTION (MSGBOX_GLYPH_QUESTION | MSGBOX_BUTTONS_YES_NO_CANCEL)  // 35
 // Opens a message box as a child of `parent` and returns at once; the answer reaches the parent
-// with `item_code`. Styles: 16 error, 64 information ("OK"); 35 question: "Yes" (OK), "No"
+// with `item_code`. Styles: MSGBOX_ERROR, MSGBOX_INFO ("OK"); MSGBOX_QUESTION: "Yes" (OK), "No"
 // (ABORT), "Cancel" (CANCEL). Enter is the first button, Escape Cancel (or OK).
 t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 style, u32 item_code);
 // The same with the buttons' labels given, in the style's order; a null `labels`, or a null

@@ -7,7 +7,7 @@ typedef struct T_FILE_REQUESTER_INIT {
     t_Window *parent;
     u32 item_code;
     const char *title;
-    u32 fourth_word;  // 1
+    u32 single_file;  // 1: one file is chosen, the only way this selector knows
     const char *ok_text;
     const char *cancel_text;
     const char *path;

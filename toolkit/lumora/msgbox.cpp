@@ -238,14 +238,16 @@ t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text,
     if (parent && !IsWindowLive(parent)) parent = NULL;
     // The box's record, made before its window so that the window can be sized to it.
     T_MSGBOX measure = {};
-    int question = (style & 0x0F) == 3;
+    int question = (style & MSGBOX_BUTTONS_MASK) == MSGBOX_BUTTONS_YES_NO_CANCEL;
     measure.button_count = question ? 3 : 1;
     for (u32 i = 0; i < measure.button_count; i++) {
         measure.buttons[i] = question ? question_buttons[i] : ok_buttons[i];
         if (labels && labels[i]) measure.buttons[i].label = labels[i];
     }
-    measure.glyph = (style & 16) ? GLYPH_ERROR : (style & 64) ? GLYPH_INFO : (style & 32) ? GLYPH_QUESTION
-                                                                                        : GLYPH_NONE;
+    measure.glyph = (style & MSGBOX_GLYPH_ERROR)      ? GLYPH_ERROR
+                    : (style & MSGBOX_GLYPH_INFO)     ? GLYPH_INFO
+                    : (style & MSGBOX_GLYPH_QUESTION) ? GLYPH_QUESTION
+                                                      : GLYPH_NONE;
     measure.parent = parent, measure.item_code = item_code;
     measure.text_size = (u32)strlen(text ? text : "") + 1;
     measure.text = (char *)AllocMemC(measure.text_size);
