@@ -409,7 +409,7 @@ static void RouteDrop(const char *path) {
     XGetPath(directory, path);
     StripPath(name, path);
     T_DROPPED_FILE file = {directory, name};
-    DeliverMessage(w, 2, ACT_RECEIVE_OBJECT, &file);
+    DeliverMessage(w, DROPPED_FILE_ITEM_CODE, ACT_RECEIVE_OBJECT, &file);
 }
 
 static void RouteQuit(void) {
