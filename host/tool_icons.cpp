@@ -16,6 +16,24 @@ static void Box(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h, u32 fill)
     IconBox(c, x, y, w, h, fill, INK);
 }
 
+// The parts that several gadgets show: the white field that holds their text, a column of
+// buttons or a scroll bar at its right, set off by a line, and a line of text as a bar.
+static void Field(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h)
+{
+    Box(c, x, y, w, h, PAPER);
+}
+
+static void RightColumn(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h)
+{
+    IconFill(c, x, y, w, h, FACE);
+    IconLine(c, x - 1, y, x - 1, y + h - 1, INK);
+}
+
+static void TextBar(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, u32 colour)
+{
+    IconFill(c, x, y, w, 3, colour);
+}
+
 // Letters of five by seven, and small arrows.
 static const char *const LETTER_A[] = {" ### ", "#   #", "#   #", "#####", "#   #", "#   #", "#   #", NULL};
 static const char *const LETTER_a[] = {"     ", "     ", " ### ", "    #", " ####", "#   #", " ####", NULL};
@@ -33,22 +51,18 @@ static const char *const POINTER[] = {
 static void DrawCheckBox(T_ICON_CANVAS *c)
 {
     Box(c, 3, 3, 18, 18, PAPER);
-    for (i32 d = 0; d < 3; d++) {
-        IconLine(c, 7, 11 + d, 10, 14 + d, ACCENT);
-        IconLine(c, 10, 14 + d, 17, 7 + d, ACCENT);
-    }
+    IconTick(c, 7, 11, 10, 14, 17, 7, ACCENT);
 }
 
 static void DrawListBox(T_ICON_CANVAS *c)
 {
-    Box(c, 1, 2, 22, 20, PAPER);
-    IconFill(c, 17, 3, 5, 18, FACE);
-    IconLine(c, 16, 3, 16, 20, INK);
-    IconFill(c, 18, 5, 3, 6, SHADE);
-    IconFill(c, 4, 5, 10, 3, SHADE);
-    IconFill(c, 2, 9, 14, 5, ACCENT);
-    IconFill(c, 4, 10, 9, 3, PAPER);
-    IconFill(c, 4, 15, 8, 3, SHADE);
+    Field(c, 1, 2, 22, 20);
+    RightColumn(c, 17, 3, 5, 18);
+    IconFill(c, 18, 5, 3, 6, SHADE);  // the scroll bar's thumb
+    TextBar(c, 4, 5, 10, SHADE);
+    IconFill(c, 2, 9, 14, 5, ACCENT);  // the selected row
+    TextBar(c, 4, 10, 9, PAPER);
+    TextBar(c, 4, 15, 8, SHADE);
 }
 
 static void DrawSelector(T_ICON_CANVAS *c)
@@ -95,31 +109,33 @@ static void DrawLabelText(T_ICON_CANVAS *c)
 
 static void DrawStringEntry(T_ICON_CANVAS *c)
 {
-    Box(c, 1, 6, 22, 12, PAPER);
+    Field(c, 1, 6, 22, 12);
     IconPattern(c, 4, 8, LETTER_a, 1, INK, INK);
     IconPattern(c, 10, 8, LETTER_b, 1, INK, INK);
-    IconLine(c, 17, 8, 17, 15, ACCENT);
-    IconLine(c, 16, 8, 18, 8, ACCENT);
-    IconLine(c, 16, 15, 18, 15, ACCENT);
+    IconLine(c, 17, 8, 17, 15, ACCENT);  // the text cursor
+    for (i32 y = 8; y <= 15; y += 7)  // its ends
+        IconLine(c, 16, y, 18, y, ACCENT);
 }
 
+// A root and its trunk, and two children, each on a branch of it.
 static void DrawTree(T_ICON_CANVAS *c)
 {
-    IconLine(c, 5, 9, 5, 19, INK);
-    IconLine(c, 6, 12, 11, 12, INK);
-    IconLine(c, 6, 19, 11, 19, INK);
     Box(c, 2, 2, 7, 7, ACCENT);
-    Box(c, 12, 9, 9, 6, PAPER);
-    Box(c, 12, 16, 9, 6, PAPER);
+    IconLine(c, 5, 9, 5, 19, INK);
+    for (i32 y = 12; y <= 19; y += 7) {
+        IconLine(c, 6, y, 11, y, INK);
+        Box(c, 12, y - 3, 9, 6, PAPER);
+    }
 }
 
+// A track with an arrow button at each end, each set off by a line, and the thumb.
 static void DrawHorizontalScrollBar(T_ICON_CANVAS *c)
 {
     Box(c, 1, 7, 22, 10, FACE);
-    IconLine(c, 6, 8, 6, 15, INK);
-    IconLine(c, 17, 8, 17, 15, INK);
     IconPattern(c, 2, 10, ARROW_LEFT, 1, INK, INK);
+    IconLine(c, 6, 8, 6, 15, INK);
     IconPattern(c, 19, 10, ARROW_RIGHT, 1, INK, INK);
+    IconLine(c, 17, 8, 17, 15, INK);
     IconFill(c, 8, 9, 6, 6, ACCENT);
 }
 
@@ -138,25 +154,31 @@ static void DrawGroup(T_ICON_CANVAS *c)
     IconPattern(c, 11, 4, LETTER_b, 1, ACCENT, ACCENT);
 }
 
+// A raised face: lit along its top and left inner edges, shaded along the others, outlined.
+static void RaisedBox(T_ICON_CANVAS *c, i32 x, i32 y, i32 w, i32 h)
+{
+    i32 right = x + w - 2, bottom = y + h - 2;
+    IconFill(c, x, y, w, h, FACE);
+    IconLine(c, x + 1, y + 1, right, y + 1, PAPER);
+    IconLine(c, x + 1, y + 1, x + 1, bottom, PAPER);
+    IconLine(c, x + 2, bottom, right, bottom, SHADE);
+    IconLine(c, right, y + 2, right, bottom, SHADE);
+    IconFrame(c, x, y, w, h, INK);
+}
+
 static void DrawButton(T_ICON_CANVAS *c)
 {
-    IconFill(c, 1, 5, 22, 14, FACE);
-    IconLine(c, 2, 6, 21, 6, PAPER);
-    IconLine(c, 2, 6, 2, 17, PAPER);
-    IconLine(c, 3, 17, 21, 17, SHADE);
-    IconLine(c, 21, 7, 21, 17, SHADE);
-    IconFrame(c, 1, 5, 22, 14, INK);
+    RaisedBox(c, 1, 5, 22, 14);
     IconPattern(c, 6, 9, LETTER_O, 1, INK, INK);
     IconPattern(c, 13, 9, LETTER_K, 1, INK, INK);
 }
 
 static void DrawDropBox(T_ICON_CANVAS *c)
 {
-    Box(c, 1, 6, 22, 12, PAPER);
-    IconFill(c, 15, 7, 7, 10, FACE);
-    IconLine(c, 14, 7, 14, 16, INK);
+    Field(c, 1, 6, 22, 12);
+    RightColumn(c, 15, 7, 7, 10);
     IconPattern(c, 16, 10, ARROW_DOWN, 1, INK, INK);
-    IconFill(c, 4, 10, 8, 3, SHADE);
+    TextBar(c, 4, 10, 8, SHADE);
 }
 
 //  place                            drawing

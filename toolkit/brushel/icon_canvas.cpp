@@ -54,6 +54,14 @@ void IconLine(T_ICON_CANVAS *c, i32 x1, i32 y1, i32 x2, i32 y2, u32 colour)
     }
 }
 
+void IconTick(T_ICON_CANVAS *c, i32 x1, i32 y1, i32 x2, i32 y2, i32 x3, i32 y3, u32 colour)
+{
+    for (i32 d = 0; d < 3; d++) {
+        IconLine(c, x1, y1 + d, x2, y2 + d, colour);
+        IconLine(c, x2, y2 + d, x3, y3 + d, colour);
+    }
+}
+
 void IconDisc(T_ICON_CANVAS *c, float cx, float cy, float r, u32 colour)
 {
     for (i32 y = 0; y < c->size; y++)

@@ -126,6 +126,8 @@ void IconFill(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 colour);
 void IconFrame(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 colour);
 void IconBox(T_ICON_CANVAS *canvas, i32 x, i32 y, i32 w, i32 h, u32 fill, u32 outline);  // filled, framed
 void IconLine(T_ICON_CANVAS *canvas, i32 x1, i32 y1, i32 x2, i32 y2, u32 colour);
+// A tick three pixels thick, its top edge from x1, y1 down to x2, y2 and up to x3, y3.
+void IconTick(T_ICON_CANVAS *canvas, i32 x1, i32 y1, i32 x2, i32 y2, i32 x3, i32 y3, u32 colour);
 // The pixels whose centres lie within r of (cx, cy); a pixel's centre is at +0.5.
 void IconDisc(T_ICON_CANVAS *canvas, float cx, float cy, float r, u32 colour);
 // Rows of a pattern, each character `scale` pixels square: '#' the ink, 'o' the fill, others clear

@@ -49,6 +49,8 @@ u32 CountListEntries(t_List *list);
 t_Node *FindFirstNode(t_Node *node);            // from any node (or the tail mark) to the first
 t_Node *FindNode(t_Node *first, const char *name);  // by name from `first` on; null if none
 t_Node *FindNodeByIndex(t_List *list, u32 index);
+// The first node whose u32 field at byte `offset` (offsetof) holds `value`; null if none.
+t_Node *FindNodeByField(t_List *list, size_t offset, u32 value);
 void ApplyFuncToList(t_Node *first, void (*fn)(void *node));
 void ApplyFuncToListData(t_Node *first, void (*fn)(void *node, void *data), void *data);
 

@@ -44,9 +44,8 @@ static void DropLayout(T_DROP_LIST *dl, T_DROP_LAYOUT *l) {
     if (dl->top < 0) dl->top = 0;
 }
 
-static T_SCROLL_RANGE DropRange(T_DROP_LIST *dl, const T_DROP_LAYOUT *l) {
-    T_SCROLL_RANGE r = {0, l->count, l->rows, dl->top, 1};
-    return r;
+static T_ROW_BAR DropBar(T_DROP_LIST *dl, const T_DROP_LAYOUT *l) {
+    return T_ROW_BAR{l->bar, l->count, l->rows, &dl->top, &dl->bar_state, &dl->grab};
 }
 
 static i32 DropRowAt(T_DROP_LIST *dl, const T_DROP_LAYOUT *l, i16 x, i16 y) {
@@ -83,34 +82,17 @@ static void Pick(T_DROP_LIST *dl, i32 row) {
 static u32 DropListMouse(T_DROP_LIST *dl, const T_MOUSE_MSG *m) {
     T_DROP_LAYOUT l;
     DropLayout(dl, &l);
-    T_SCROLL_RANGE range = DropRange(dl, &l);
-    T_SCROLL_PARTS parts;
-    if (l.bar.w) ScrollParts(l.bar, 0, &range, &parts);
-    T_RPOS bar = l.bar;
+    T_ROW_BAR bar = DropBar(dl, &l);
+    if (RowBarMouse(&bar, m)) return 1;
     i32 row = DropRowAt(dl, &l, m->x, m->y);
     switch (m->mouse_action) {
-    case ACT_LMOUSE_DOWN:  // the scroll bar, or a row to be picked at the release
-        if (l.bar.w && PointBoxColl(m->x, m->y, &bar)) {
-            ScrollBarTrack(&dl->bar_state, &dl->grab, &parts, &range, m);
-            dl->top = range.value;
-        } else if (row >= 0) {
-            dl->hot = row;
-        }
-        return 1;
+    case ACT_LMOUSE_DOWN:  // a row, to be picked at the release
     case ACT_MOUSE_MOVE:
     case 0:  // a move with no button: the highlight follows
-        if (dl->bar_state & GSTATE_ON_BAR) {
-            ScrollBarTrack(&dl->bar_state, &dl->grab, &parts, &range, m);
-            dl->top = range.value;
-        } else if (row >= 0) {
-            dl->hot = row;
-        }
+        if (row >= 0) dl->hot = row;
         return 1;
     case ACT_LMOUSE_UP:
-        if (dl->bar_state & GSTATE_ON_BAR)
-            ScrollBarTrack(&dl->bar_state, &dl->grab, &parts, &range, m);
-        else if (row >= 0)
-            Pick(dl, row);
+        if (row >= 0) Pick(dl, row);
         return 1;
     case ACT_MOUSE_WHEEL_UP:
     case ACT_MOUSE_WHEEL_DOWN:
@@ -192,12 +174,8 @@ static void DropListPaint(t_Handler *head) {
         }
         PopClip(&saved);
     }
-    if (l.bar.w) {
-        T_SCROLL_RANGE range = DropRange(dl, &l);
-        T_SCROLL_PARTS parts;
-        ScrollParts(l.bar, 0, &range, &parts);
-        DrawScrollParts(&parts, 0);
-    }
+    T_ROW_BAR bar = DropBar(dl, &l);
+    DrawRowBar(&bar, 0);
     GadgetTextFontEnd();
 }
 
@@ -303,9 +281,7 @@ u32 DropBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         }
         return 0;
     case ACT_LMOUSE_UP: {  // released on an entry: picked
-        int armed = (g->gadget_state & GSTATE_DRAGGING) != 0;
-        g->gadget_state &= ~GSTATE_DRAGGING;
-        if (armed && open_list && open_list->gadget == g) {
+        if (EndGadgetPress(g) && open_list && open_list->gadget == g) {
             T_DROP_LAYOUT l;
             DropLayout(open_list, &l);
             i32 row = DropRowAt(open_list, &l, m->x, m->y);
@@ -314,7 +290,7 @@ u32 DropBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         return 0;
     }
     default:
-        return m->mouse_action & (ACT_LMOUSE_DBL | ACT_RMOUSE_DOWN | ACT_RMOUSE_UP);
+        return m->mouse_action & GADGET_PASSED_ON;
     }
 }
 

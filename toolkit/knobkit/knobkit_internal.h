@@ -51,6 +51,21 @@ i32 ScrollDrag(const T_SCROLL_PARTS *parts, const T_SCROLL_RANGE *range, i16 x, 
 int ScrollBarTrack(u16 *state, i32 *grab, const T_SCROLL_PARTS *parts, T_SCROLL_RANGE *range,
                    const T_MOUSE_MSG *msg);
 
+// The vertical scroll bar beside a list's rows (a list box's, a tree's, a drop box's open list):
+// at `bar`, w 0 when all the rows show and there is none, it scrolls `*top` through `count` rows
+// of which `visible` show. The owner keeps the bar's press in *state and *grab, as above.
+typedef struct T_ROW_BAR {
+    T_RPOS bar;
+    i32 count, visible;
+    i32 *top;
+    u16 *state;
+    i32 *grab;
+} T_ROW_BAR;
+void DrawRowBar(const T_ROW_BAR *rows, int disabled);
+// The bar's own events: a press or double click on it, and the moves and the release after a
+// press on it, which scroll *top. True when the event was the bar's; the rows get the others.
+int RowBarMouse(const T_ROW_BAR *rows, const T_MOUSE_MSG *msg);
+
 // --- List entries (list_entries.cpp) -------------------------------------------------------------
 // A walk over the rows that a list shows: its entries, or for a tree the entries whose parents
 // are all open, depth first.

@@ -52,9 +52,9 @@ void ScrollRowIntoView(T_LIST_DATA *d, i32 row) {
     if (d->rows > 0 && row >= d->top + d->rows) d->top = row - d->rows + 1;
 }
 
-static T_SCROLL_RANGE RowRange(T_LIST_DATA *d, const T_LIST_LAYOUT *l) {
-    T_SCROLL_RANGE r = {0, l->count, d->rows, d->top, 1};
-    return r;
+static T_ROW_BAR RowBar(t_gadget *g, const T_LIST_LAYOUT *l) {
+    T_LIST_DATA *d = Data(g);
+    return T_ROW_BAR{l->bar, l->count, d->rows, &d->top, &g->gadget_state, &g->select_from};
 }
 
 void DrawListRow(t_gadget *g, T_RPOS row, const char *text, int selected, int hot) {
@@ -114,12 +114,8 @@ void DrawListBoxGadget(t_gadget *g, int focused) {
         }
         PopClip(&saved);
     }
-    if (l.bar.w) {
-        T_SCROLL_RANGE range = RowRange(d, &l);
-        T_SCROLL_PARTS parts;
-        ScrollParts(l.bar, 0, &range, &parts);
-        DrawScrollParts(&parts, disabled);
-    }
+    T_ROW_BAR bar = RowBar(g, &l);
+    DrawRowBar(&bar, disabled);
     if (focused) DrawGadgetFocus(g);
 }
 
@@ -136,17 +132,10 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
     if (!d) return 0;
     T_LIST_LAYOUT l;
     ListLayout(g, &l);
-    T_SCROLL_RANGE range = RowRange(d, &l);
-    T_SCROLL_PARTS parts;
-    if (l.bar.w) ScrollParts(l.bar, 0, &range, &parts);
-    T_RPOS bar = l.bar;
+    T_ROW_BAR bar = RowBar(g, &l);
+    if (RowBarMouse(&bar, m)) return 0;
     switch (m->mouse_action) {
-    case ACT_LMOUSE_DOWN: {  // the scroll bar, a tree's +/- box, or a row
-        if (l.bar.w && PointBoxColl(m->x, m->y, &bar)) {
-            ScrollBarTrack(&g->gadget_state, &g->select_from, &parts, &range, m);
-            d->top = range.value;
-            return 0;
-        }
+    case ACT_LMOUSE_DOWN: {  // a tree's +/- box, or a row
         i32 row = RowAt(d, &l, m->y);
         if (row < 0) return 0;
         if (IsTree(g)) {
@@ -159,11 +148,8 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         g->gadget_state |= GSTATE_DRAGGING;
         return ACT_LMOUSE_DOWN;
     }
-    case ACT_MOUSE_MOVE:  // the thumb, or the selection, follows; past the ends it scrolls
-        if (g->gadget_state & GSTATE_ON_BAR) {
-            ScrollBarTrack(&g->gadget_state, &g->select_from, &parts, &range, m);
-            d->top = range.value;
-        } else if ((g->gadget_state & GSTATE_DRAGGING) && l.count > 0) {
+    case ACT_MOUSE_MOVE:  // the selection follows; past the ends it scrolls
+        if ((g->gadget_state & GSTATE_DRAGGING) && l.count > 0) {
             i32 row = d->top + (m->y - l.inner.y) / l.row_h;
             if (m->y < l.inner.y) row = d->top - 1;
             if (row < 0) row = 0;
@@ -172,18 +158,11 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
             ScrollRowIntoView(d, row);
         }
         return 0;
-    case ACT_LMOUSE_UP: {
-        if (g->gadget_state & GSTATE_ON_BAR) {
-            ScrollBarTrack(&g->gadget_state, &g->select_from, &parts, &range, m);
-            return 0;
-        }
-        int armed = (g->gadget_state & GSTATE_DRAGGING) != 0;
-        g->gadget_state &= ~GSTATE_DRAGGING;
-        return armed ? ACT_LMOUSE_UP : 0;
-    }
+    case ACT_LMOUSE_UP:
+        return EndGadgetPress(g) ? ACT_LMOUSE_UP : 0;
     case ACT_LMOUSE_DBL: {  // on the selected row: reported, and a branch opens or closes
         i32 row = RowAt(d, &l, m->y);
-        if (row < 0 || row != d->selected || (l.bar.w && PointBoxColl(m->x, m->y, &bar))) return 0;
+        if (row < 0 || row != d->selected) return 0;
         if (IsTree(g)) TreeToggle(g, row);
         return ACT_LMOUSE_DBL;
     }

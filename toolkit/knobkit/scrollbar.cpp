@@ -117,6 +117,45 @@ int ScrollBarTrack(u16 *state, i32 *grab, const T_SCROLL_PARTS *p, T_SCROLL_RANG
     return changed;
 }
 
+// --- The scroll bar beside a list's rows -----------------------------------------------------------
+
+static T_SCROLL_RANGE RowBarRange(const T_ROW_BAR *rows) {
+    T_SCROLL_RANGE r = {0, rows->count, rows->visible, *rows->top, 1};
+    return r;
+}
+
+void DrawRowBar(const T_ROW_BAR *rows, int disabled) {
+    if (!rows->bar.w) return;
+    T_SCROLL_RANGE range = RowBarRange(rows);
+    T_SCROLL_PARTS parts;
+    ScrollParts(rows->bar, 0, &range, &parts);
+    DrawScrollParts(&parts, disabled);
+}
+
+int RowBarMouse(const T_ROW_BAR *rows, const T_MOUSE_MSG *m) {
+    T_RPOS bar = rows->bar;
+    switch (m->mouse_action) {
+    case ACT_LMOUSE_DOWN:  // a press on the bar takes it until the release
+        if (!bar.w || !PointBoxColl(m->x, m->y, &bar)) return 0;
+        break;
+    case ACT_LMOUSE_DBL:  // a double click on the bar is no row's
+        return bar.w && PointBoxColl(m->x, m->y, &bar);
+    case ACT_MOUSE_MOVE:  // the moves and the release after a press on the bar
+    case 0:               // (a move with no button)
+    case ACT_LMOUSE_UP:
+        if (!(*rows->state & GSTATE_ON_BAR)) return 0;
+        break;
+    default:
+        return 0;
+    }
+    T_SCROLL_RANGE range = RowBarRange(rows);
+    T_SCROLL_PARTS parts;
+    ScrollParts(bar, 0, &range, &parts);
+    ScrollBarTrack(rows->state, rows->grab, &parts, &range, m);
+    *rows->top = range.value;
+    return 1;
+}
+
 // --- The scroll bar gadget -------------------------------------------------------------------------
 
 #define WHEEL_STEPS 1  // a wheel notch moves the value by this many steps
@@ -183,7 +222,7 @@ u32 ScrollBarMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         SetBarValue(g, range.value + (m->mouse_action == ACT_MOUSE_WHEEL_UP ? -WHEEL_STEPS : WHEEL_STEPS));
         return m->mouse_action;
     default:
-        return m->mouse_action & (ACT_LMOUSE_DBL | ACT_RMOUSE_DOWN | ACT_RMOUSE_UP);
+        return m->mouse_action & GADGET_PASSED_ON;
     }
 }
 

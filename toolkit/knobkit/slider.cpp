@@ -128,17 +128,14 @@ u32 SliderMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         d->value = ValueAt(g, rect, at - g->select_from);
         return d->value != before && (g->live_flags & GADGET_FLAGS_REPORT_DRAG) ? ACT_LMOUSE_DOWN : 0;
     }
-    case ACT_LMOUSE_UP: {
-        int armed = (g->gadget_state & GSTATE_DRAGGING) != 0;
-        g->gadget_state &= ~GSTATE_DRAGGING;
-        return armed ? ACT_LMOUSE_UP : 0;
-    }
+    case ACT_LMOUSE_UP:
+        return EndGadgetPress(g) ? ACT_LMOUSE_UP : 0;
     case ACT_MOUSE_WHEEL_UP:  // a step back or on
     case ACT_MOUSE_WHEEL_DOWN:
         d->value = Stepped(d, (i64)d->value + (m->mouse_action == ACT_MOUSE_WHEEL_UP ? -1 : 1) * (i64)(d->step > 0 ? d->step : 1));
         return m->mouse_action;
     default:
-        return m->mouse_action & (ACT_LMOUSE_DBL | ACT_RMOUSE_DOWN | ACT_RMOUSE_UP);
+        return m->mouse_action & GADGET_PASSED_ON;
     }
 }
 

@@ -69,6 +69,12 @@ void DrawButtonGadget(t_gadget *g, int focused) {
     if (focused) DrawGadgetFocus(g);
 }
 
+int EndGadgetPress(t_gadget *g) {
+    int pressed = (g->gadget_state & GSTATE_DRAGGING) != 0;
+    g->gadget_state &= ~GSTATE_DRAGGING;
+    return pressed;
+}
+
 // Pressed while the left button is held over it; a release inside is a click.
 u32 ButtonMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
     int inside = PointBoxColl(m->x, m->y, (T_RPOS *)rect);
@@ -83,13 +89,11 @@ u32 ButtonMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         else
             g->gadget_state &= ~GSTATE_PRESSED;
         return 0;
-    case ACT_LMOUSE_UP: {
-        int armed = (g->gadget_state & GSTATE_DRAGGING) != 0;
-        g->gadget_state &= ~(GSTATE_PRESSED | GSTATE_DRAGGING);
-        return armed && inside ? ACT_LMOUSE_UP : 0;
-    }
+    case ACT_LMOUSE_UP:
+        g->gadget_state &= ~GSTATE_PRESSED;
+        return EndGadgetPress(g) && inside ? ACT_LMOUSE_UP : 0;
     default:
-        return m->mouse_action & (ACT_LMOUSE_DBL | ACT_RMOUSE_DOWN | ACT_RMOUSE_UP);
+        return m->mouse_action & GADGET_PASSED_ON;
     }
 }
 

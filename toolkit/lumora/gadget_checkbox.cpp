@@ -18,12 +18,16 @@ void DrawMarkLabel(t_gadget *g, T_RPOS r, i16 text_x) {
     ClipInsideWindow(clip.x, clip.y, clip.x + clip.w, clip.y + clip.h);
 }
 
+i16 DrawMarkGround(t_gadget *g, T_RPOS r) {
+    if (g->live_flags & GADGET_FLAGS_SOLID) DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
+    i16 s = CheckBoxSize();
+    return s < r.h ? s : r.h;
+}
+
 void DrawCheckBoxGadget(t_gadget *g, int focused) {
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS r = GadgetRect(g);
-    if (g->live_flags & GADGET_FLAGS_SOLID) DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
-    i16 s = CheckBoxSize();
-    if (s > r.h) s = r.h;
+    i16 s = DrawMarkGround(g, r);
     i16 bx = r.x + 2, by = r.y + (r.h - s) / 2;
     DrawRectangle(bx, by, s, s, rec->field_colour);
     DrawBevelBox(bx, by, s, s, rec->gadget_dark_colour, rec->gadget_light_colour);

@@ -23,9 +23,7 @@ static void SetRadio(t_gadget *g) {
 void DrawRadioGadget(t_gadget *g, int focused) {
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS r = GadgetRect(g);
-    if (g->live_flags & GADGET_FLAGS_SOLID) DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
-    i16 s = CheckBoxSize();
-    if (s > r.h) s = r.h;
+    i16 s = DrawMarkGround(g, r);
     i16 radius = (s - 1) / 2, cx = r.x + 2 + radius, cy = r.y + r.h / 2;
     FillDisc(cx, cy, radius, rec->gadget_dark_colour);
     u32 inside = (g->gadget_state & GSTATE_PRESSED) || (g->live_flags & GADGET_FLAGS_DEPRESSED)

@@ -55,10 +55,7 @@ static void DrawWarning(T_ICON_CANVAS *c)
 
 static void DrawTick(T_ICON_CANVAS *c)
 {
-    for (i32 d = 0; d < 3; d++) {
-        IconLine(c, 2, 8 + d, 6, 12 + d, ICON_GREEN);
-        IconLine(c, 6, 12 + d, 13, 3 + d, ICON_GREEN);
-    }
+    IconTick(c, 2, 8, 6, 12, 13, 3, ICON_GREEN);
 }
 
 static void DrawWindowGlyph(T_ICON_CANVAS *c)

@@ -219,6 +219,12 @@ void GadgetTextFont(t_gadget *gadget);  // active font and style of the gadget's
 void GadgetTextFontEnd(void);
 #define GSTATE_MARKED_BEFORE 0x100  // gadget_state: marked when the rubber band began
 
+// The mouse events a gadget type reports as they come when its own behaviour has no use for them.
+#define GADGET_PASSED_ON (ACT_LMOUSE_DBL | ACT_RMOUSE_DOWN | ACT_RMOUSE_UP)
+// The release of a press that a gadget type's behaviour follows (GSTATE_DRAGGING, set at the
+// press): clears the bit, and says whether it was set, that is, whether the press began on it.
+int EndGadgetPress(t_gadget *gadget);
+
 // Gadget look (gadget_button.cpp): shared by the types' drawing functions.
 void DrawGadgetBevel(T_RPOS r, int pressed);
 void DrawGadgetFocus(t_gadget *gadget);
@@ -228,6 +234,9 @@ u32 GenericGadgetMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *r
 void DrawButtonGadget(t_gadget *gadget, int focused);
 u32 ButtonMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
 void DrawMarkLabel(t_gadget *gadget, T_RPOS rect, i16 text_x);  // a check box's or radio's text
+// A check box's or radio button's ground (its back colour when solid), and the side of its box:
+// CheckBoxSize, no taller than the gadget.
+i16 DrawMarkGround(t_gadget *gadget, T_RPOS rect);
 u32 ButtonKey(t_gadget *gadget, u16 key, u16 qualifiers);
 void DrawTextGadget(t_gadget *gadget, int focused);
 void DrawCheckBoxGadget(t_gadget *gadget, int focused);

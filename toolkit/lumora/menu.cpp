@@ -242,10 +242,7 @@ t_Menu *FindMenuInHandler(T_MENU_HANDLER *handler, u32 item_code)
 {
     if (!handler)
         return NULL;
-    for (t_Menu *title = (t_Menu *)handler->titles.first; title->next; title = title->next)
-        if (title->menu_item_code == item_code)
-            return title;
-    return NULL;
+    return (t_Menu *)FindNodeByField(&handler->titles, offsetof(t_Menu, menu_item_code), item_code);
 }
 
 t_Menu *FindMenuByItemCode(t_Menu *menu, u32 item_code)

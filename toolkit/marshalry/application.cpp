@@ -80,7 +80,9 @@ const char *MarshalryStorePath(const char *folder, const char *name, const char 
     return MakePathFromSystem(relative);
 }
 
-char *LoadStoreText(const char *path, u32 *size, u16 *broken, u16 store) {
+// The store's text, freed with FreeMem(text, *size); null when it is missing (quietly) or
+// unreadable (logged, and `store` set in *broken).
+static char *LoadStoreText(const char *path, u32 *size, u16 *broken, u16 store) {
     *size = 0;
     if (!path || !PathExists(path))
         return NULL;
@@ -92,6 +94,28 @@ char *LoadStoreText(const char *path, u32 *size, u16 *broken, u16 store) {
     }
     *size = GetLoadFileSize();
     return text;
+}
+
+int ReadStoreLines(const char *path, u16 *broken, u16 store, const char *what, T_STORE_LINE_FN take,
+                   void *context) {
+    u32 size;
+    char *text = LoadStoreText(path, &size, broken, store);
+    if (!text)
+        return STORE_NOT_READ;
+    char line[READ_LINE_SIZE];
+    u32 used, line_number = 0;
+    int result = STORE_READ;
+    for (const char *at = text; result == STORE_READ && (used = ReadLine(line, at, text + size)) > 0;
+         at += used) {
+        line_number++;
+        if (line[0] && !take(line, context)) {
+            myprintf(0, "%s:%u: not %s", path, line_number, what);
+            *broken |= store;
+            result = STORE_GARBAGE;
+        }
+    }
+    FreeMem(text, size);
+    return result;
 }
 
 void StoreBrokenStores(void) {

@@ -53,39 +53,35 @@ static int ParseKeyLine(const char *line, u32 *item_code, u32 *key) {
     return *end == 0;
 }
 
+// One line of the key store into key_store; a pair that memory can't hold is passed over.
+static int TakeKeyLine(const char *line, void *context) {
+    (void)context;
+    u32 item_code, key;
+    int parsed = ParseKeyLine(line, &item_code, &key);
+    if (parsed < 0)
+        return 1;
+    if (!parsed || key > 0xffff)
+        return 0;
+    u32 *grown = (u32 *)realloc(key_store.pairs, (key_store.count + 1) * 2 * sizeof(u32));
+    if (!grown)
+        return 1;
+    key_store.pairs = grown;
+    key_store.pairs[key_store.count * 2] = item_code;
+    key_store.pairs[key_store.count * 2 + 1] = key;
+    key_store.count++;
+    return 1;
+}
+
 // A garbage store gives one log line and no user keys at all: the defaults hold.
 static void LoadKeyStore(T_APPLICATION *app) {
     ForgetKeyStore(key_store.app);
     key_store.app = app;
     const char *path = MarshalryStorePath(KEY_STORE_FOLDER, app->name, KEY_STORE_EXTENSION, 0);
-    u32 size;
-    char *text = LoadStoreText(path, &size, &app->broken_stores, STORE_KEYS);
-    if (!text)
-        return;
-    char line[READ_LINE_SIZE];
-    u32 used, line_number = 0;
-    for (const char *at = text; (used = ReadLine(line, at, text + size)) > 0; at += used) {
-        u32 item_code, key;
-        line_number++;
-        int parsed = ParseKeyLine(line, &item_code, &key);
-        if (parsed < 0)
-            continue;
-        if (!parsed || key > 0xffff) {
-            myprintf(0, "%s:%u: not a key binding; the default keys are used", path, line_number);
-            app->broken_stores |= STORE_KEYS;
-            ForgetKeyStore(app);
-            key_store.app = app;
-            break;
-        }
-        u32 *grown = (u32 *)realloc(key_store.pairs, (key_store.count + 1) * 2 * sizeof(u32));
-        if (!grown)
-            break;
-        key_store.pairs = grown;
-        key_store.pairs[key_store.count * 2] = item_code;
-        key_store.pairs[key_store.count * 2 + 1] = key;
-        key_store.count++;
+    if (ReadStoreLines(path, &app->broken_stores, STORE_KEYS,
+                       "a key binding; the default keys are used", TakeKeyLine, NULL) == STORE_GARBAGE) {
+        ForgetKeyStore(app);
+        key_store.app = app;
     }
-    FreeMem(text, size);
 }
 
 static int StoredKey(u32 item_code, u32 *key) {
@@ -139,19 +135,14 @@ T_APP_COMMAND *RegisterAppCommand(T_APPLICATION *app, const char *name, const ch
 T_APP_COMMAND *FindAppCommandByKey(T_APPLICATION *app, u32 key) {
     if (!app || !key)
         return NULL;
-    for (T_APP_COMMAND *c = (T_APP_COMMAND *)app->commands.first; c->next; c = c->next)
-        if (c->key == key)
-            return c;
-    return NULL;
+    return (T_APP_COMMAND *)FindNodeByField(&app->commands, offsetof(T_APP_COMMAND, key), key);
 }
 
 T_APP_COMMAND *FindAppCommandByCode(T_APPLICATION *app, u32 item_code) {
     if (!app)
         return NULL;
-    for (T_APP_COMMAND *c = (T_APP_COMMAND *)app->commands.first; c->next; c = c->next)
-        if (c->item_code == item_code)
-            return c;
-    return NULL;
+    return (T_APP_COMMAND *)FindNodeByField(&app->commands, offsetof(T_APP_COMMAND, item_code),
+                                            item_code);
 }
 
 // Writes the keys that differ from their defaults. A store that can't be written is logged and

@@ -11,9 +11,16 @@ int WindowStands(t_Window *window);
 const char *MarshalryStorePath(const char *folder, const char *name, const char *extension,
                                int make_folder);
 
-// Reads a store file of text lines. Null when it is missing (quietly) or unreadable (logged, and
-// `store` set in *broken); the block is freed with FreeMem(text, *size).
-char *LoadStoreText(const char *path, u32 *size, u16 *broken, u16 store);
+// Takes one line of a store; false for a line that isn't one of the store's.
+typedef int (*T_STORE_LINE_FN)(const char *line, void *context);
+// Reads a store file of text lines: `take` gets each line but the empty ones, in order, with
+// `context`. A missing store gives nothing, quietly; an unreadable one is logged and sets `store`
+// in *broken: STORE_NOT_READ. A line that `take` refuses ends the reading, is logged as
+// "<path>:<line>: not <what>" and sets `store` in *broken: STORE_GARBAGE, and the caller drops
+// what it took. Else STORE_READ.
+enum { STORE_NOT_READ, STORE_GARBAGE, STORE_READ };
+int ReadStoreLines(const char *path, u16 *broken, u16 store, const char *what, T_STORE_LINE_FN take,
+                   void *context);
 // Writes again, whole, each application's stores that couldn't be read at the start, so that an
 // orderly end heals them.
 void StoreBrokenStores(void);

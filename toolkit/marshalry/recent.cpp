@@ -27,10 +27,7 @@ static t_List recent_entries;
 static T_RECENT_TYPE *FindRecentType(T_APPLICATION *app, u32 type) {
     if (!app)
         return NULL;
-    for (T_RECENT_TYPE *t = (T_RECENT_TYPE *)app->recent_types.first; t->next; t = t->next)
-        if (t->type == type)
-            return t;
-    return NULL;
+    return (T_RECENT_TYPE *)FindNodeByField(&app->recent_types, offsetof(T_RECENT_TYPE, type), type);
 }
 
 // Drops the oldest files beyond the limit; a limit of 0 keeps all.
@@ -49,33 +46,25 @@ static T_RECENT_FILE *NewRecentFile(u32 type, const char *path) {
     return file;
 }
 
+// One line "<type> <path>" of the store: a file of `context`'s type joins its list.
+static int TakeRecentLine(const char *line, void *context) {
+    T_RECENT_TYPE *type = (T_RECENT_TYPE *)context;
+    char *end;
+    u32 line_type = (u32)strtoul(line, &end, 10);
+    if (end == line || *end != ' ' || !end[1])
+        return 0;
+    T_RECENT_FILE *file = line_type == type->type ? NewRecentFile(line_type, end + 1) : NULL;
+    if (file)
+        AddTail(&type->files, (t_Node *)file);
+    return 1;
+}
+
 // A line that isn't "<type> <path>" makes the whole store garbage: one log line, an empty list.
 static void LoadRecentFiles(T_APPLICATION *app, T_RECENT_TYPE *type) {
     const char *path = MarshalryStorePath(RECENT_FOLDER, app->name, RECENT_EXTENSION, 0);
-    u32 size;
-    char *text = LoadStoreText(path, &size, &app->broken_stores, STORE_RECENT);
-    if (!text)
-        return;
-    char line[READ_LINE_SIZE];
-    u32 used, line_number = 0;
-    for (const char *at = text; (used = ReadLine(line, at, text + size)) > 0; at += used) {
-        line_number++;
-        if (!line[0])
-            continue;
-        char *end;
-        u32 line_type = (u32)strtoul(line, &end, 10);
-        if (end == line || *end != ' ' || !end[1]) {
-            myprintf(0, "%s:%u: not a recent file; the recent files are dropped", path,
-                     line_number);
-            app->broken_stores |= STORE_RECENT;
-            EmptyList(&type->files, sizeof(T_RECENT_FILE));
-            break;
-        }
-        T_RECENT_FILE *file = line_type == type->type ? NewRecentFile(line_type, end + 1) : NULL;
-        if (file)
-            AddTail(&type->files, (t_Node *)file);
-    }
-    FreeMem(text, size);
+    if (ReadStoreLines(path, &app->broken_stores, STORE_RECENT,
+                       "a recent file; the recent files are dropped", TakeRecentLine, type) == STORE_GARBAGE)
+        EmptyList(&type->files, sizeof(T_RECENT_FILE));
     TrimRecentFiles(type);
 }
 

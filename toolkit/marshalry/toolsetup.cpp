@@ -48,50 +48,45 @@ void AddToolSetupObject(T_TOOL_SETUP *setup, t_Window *window, u32 a, u32 b) {
                 app->window = window;
 }
 
+enum { MAX_PLACES = 64 };  // the windows of one tool set-up whose places are stored
+
+// The places read from a tool set-up's store, by the window's index in the set-up.
+typedef struct T_STORED_PLACES {
+    T_RPOS places[MAX_PLACES];
+    u16 known[MAX_PLACES];
+} T_STORED_PLACES;
+
+// One line "<index> <x> <y> <w> <h>" of the store.
+static int TakePlaceLine(const char *line, void *context) {
+    T_STORED_PLACES *stored = (T_STORED_PLACES *)context;
+    int index, x, y, w, h, consumed = 0;
+    if (sscanf(line, "%d %d %d %d %d %n", &index, &x, &y, &w, &h, &consumed) != 5 || line[consumed] ||
+        index < 0 || index >= MAX_PLACES || w <= 0 || h <= 0 || w > 32767 || h > 32767 ||
+        x < -32768 || x > 32767 || y < -32768 || y > 32767)
+        return 0;
+    stored->places[index] = {(i16)x, (i16)y, (i16)w, (i16)h};
+    stored->known[index] = 1;
+    return 1;
+}
+
 // A line that isn't five numbers makes the whole store garbage: one log line, no places.
 void ReadToolConfig(T_TOOL_SETUP *setup, void *config) {
     (void)config;
     if (!setup || !setup->name)
         return;
     const char *path = MarshalryStorePath(PLACES_FOLDER, setup->name, PLACES_EXTENSION, 0);
-    u32 size;
+    T_STORED_PLACES stored = {};
     u16 broken = 0;  // the places are written whole at every orderly end anyway
-    char *text = LoadStoreText(path, &size, &broken, 0);
-    if (!text)
-        return;
-    enum { MAX_PLACES = 64 };
-    T_RPOS places[MAX_PLACES];
-    u16 known[MAX_PLACES] = {};
-    char line[READ_LINE_SIZE];
-    u32 used, line_number = 0;
-    int garbage = 0;
-    for (const char *at = text; !garbage && (used = ReadLine(line, at, text + size)) > 0;
-         at += used) {
-        line_number++;
-        if (!line[0])
-            continue;
-        int index, x, y, w, h, consumed = 0;
-        garbage = sscanf(line, "%d %d %d %d %d %n", &index, &x, &y, &w, &h, &consumed) != 5 ||
-                  line[consumed] || index < 0 || index >= MAX_PLACES || w <= 0 || h <= 0 ||
-                  w > 32767 || h > 32767 || x < -32768 || x > 32767 || y < -32768 || y > 32767;
-        if (garbage)
-            myprintf(0, "%s:%u: not a window place; the stored places are ignored", path,
-                     line_number);
-        else {
-            places[index] = {(i16)x, (i16)y, (i16)w, (i16)h};
-            known[index] = 1;
-        }
-    }
-    FreeMem(text, size);
-    if (garbage)
+    if (ReadStoreLines(path, &broken, 0, "a window place; the stored places are ignored",
+                       TakePlaceLine, &stored) != STORE_READ)
         return;
     int index = 0;
     for (T_TOOL_OBJECT *o = (T_TOOL_OBJECT *)_MarshalryBase->tool_objects.first; o->next;
          o = o->next)
         if (OfSetup(o, setup)) {
-            o->has_stored = index < MAX_PLACES && known[index];
+            o->has_stored = index < MAX_PLACES && stored.known[index];
             if (o->has_stored)
-                o->stored = places[index];
+                o->stored = stored.places[index];
             index++;
         }
 }

@@ -129,6 +129,13 @@ t_Node *FindNodeByIndex(t_List *list, u32 index) {
     return NULL;
 }
 
+t_Node *FindNodeByField(t_List *list, size_t offset, u32 value) {
+    for (t_Node *node = list->first; node->next; node = node->next)
+        if (*(const u32 *)((const char *)node + offset) == value)
+            return node;
+    return NULL;
+}
+
 // The next node is fetched before the call, so that the function may unlink or free its node.
 void ApplyFuncToList(t_Node *first, void (*fn)(void *node)) {
     for (t_Node *node = first; node && node->next;) {

@@ -58,14 +58,13 @@ static const struct {
 };
 
 typedef struct T_COLOUR_SELECTOR {
-    t_Handler head;   // keys first, the swatch's drag, the swatch and values' paint
+    T_SELECTOR base;  // and the swatch's drag, the swatch and values' paint
     T_COLOURSEL sel;  // the window's user_data and the data of the answers
     T_HSIA hsia;      // the HSI sliders' colour: the caller's T_HSIA may be null, and a grey
                       // keeps the hue that was set on it
-    t_gadget *sliders[COLSEL_CHANNELS], *preview, *ok, *cancel;
+    t_gadget *sliders[COLSEL_CHANNELS], *preview, *ok;
     T_RPOS swatch;  // from the user area's corner
     u16 dragging;   // the press in progress drags the colour from the swatch
-    u16 answered;   // OK or Cancel went out: a nested loop must not answer twice
 } T_COLOUR_SELECTOR;
 
 static T_COLOUR_SELECTOR *SelectorOf(t_Window *window) {
@@ -87,8 +86,7 @@ static i32 ToByte(float v) {
 static int PreviewOn(T_COLOUR_SELECTOR *s) { return s->preview && s->preview->class_data; }
 
 static void SendPreview(T_COLOUR_SELECTOR *s) {
-    if (PreviewOn(s))
-        AnswerParent(s->sel.window->parent, s->sel.item_code, ACT_REQUESTER_PREVIEW, &s->sel);
+    if (PreviewOn(s)) TellParent(&s->base, ACT_REQUESTER_PREVIEW);
 }
 
 // The sliders of a group follow the colour.
@@ -123,20 +121,12 @@ static void TakeGroup(T_COLOUR_SELECTOR *s, int moved) {
     SendPreview(s);
 }
 
-static void Finish(t_Window *window, u32 answer) {
-    T_COLOUR_SELECTOR *s = SelectorOf(window);
-    if (!IsWindowLive(window) || s->answered) return;
-    s->answered = 1;
-    AnswerParent(window->parent, s->sel.item_code, answer, &s->sel);
-    RemoveWindow(window);
-}
-
 static u32 ColourSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
     (void)data;
     T_COLOUR_SELECTOR *s = SelectorOf(window);
     switch (msg) {
     case ACT_TERMINATE:  // the close gadget: Cancel
-        Finish(window, ACT_REQUESTER_CANCEL);
+        FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
         return 0;
     default:
         switch (item_code) {
@@ -152,10 +142,10 @@ static u32 ColourSelectorMessage(t_Window *window, u32 item_code, u32 msg, void 
             if (msg == ACT_LMOUSE_UP) SendPreview(s);
             return 0;
         case COLSEL_OK:  // the OK button
-            if (msg == ACT_LMOUSE_UP) Finish(window, ACT_REQUESTER_OK);
+            if (msg == ACT_LMOUSE_UP) FinishSelector(&s->base, ACT_REQUESTER_OK);
             return 0;
         case COLSEL_CANCEL:  // the Cancel button
-            if (msg == ACT_LMOUSE_UP) Finish(window, ACT_REQUESTER_CANCEL);
+            if (msg == ACT_LMOUSE_UP) FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
             return 0;
         default:
             return 0;
@@ -233,13 +223,9 @@ static u32 SwatchMouse(T_COLOUR_SELECTOR *s, const T_MOUSE_MSG *m) {
 // Keys come here before the gadgets: Enter is OK (Cancel on the Cancel button), Escape Cancel.
 static u32 ColourSelectorInput(t_Handler *handler, u32 event, void *data) {
     T_COLOUR_SELECTOR *s = (T_COLOUR_SELECTOR *)handler;
-    t_Window *window = handler->window;
     switch (event) {
-    case HANDLER_EVENT_KEY: {
-        u32 answer = SelectorKeyAnswer(window, s->cancel, ((T_KEY_MSG *)data)->key_code);
-        if (answer) Finish(window, answer);
-        return answer != 0;
-    }
+    case HANDLER_EVENT_KEY:
+        return SelectorKey(&s->base, ((T_KEY_MSG *)data)->key_code);
     case HANDLER_EVENT_MOUSE:  // the swatch's drag
         return SwatchMouse(s, (const T_MOUSE_MSG *)data);
     case HANDLER_EVENT_BREAK:  // the drag was broken off: nothing is dropped
@@ -306,8 +292,8 @@ static int MakeSelectorGadgets(T_COLOUR_SELECTOR *s, t_Gaget_Handler *gh, i16 rh
     gi.x = COLSEL_USER_W - pad - 2 * SELECTOR_BUTTON_W - gap, gi.item_code = COLSEL_OK;
     s->ok = MakeGadget(gh, "OK", &gi);
     gi.x = COLSEL_USER_W - pad - SELECTOR_BUTTON_W, gi.item_code = COLSEL_CANCEL;
-    s->cancel = MakeGadget(gh, "Cancel", &gi);
-    return s->preview && s->ok && s->cancel;
+    s->base.cancel = MakeGadget(gh, "Cancel", &gi);
+    return s->preview && s->ok && s->base.cancel;
 }
 
 // The HSI sliders start from the caller's T_HSIA when it names the caller's colour, so that a
@@ -326,25 +312,21 @@ static void StartHSI(T_COLOUR_SELECTOR *s) {
 
 t_Window *AddColourSelector(T_COLOURSEL_INIT *init) {
     if (!init || !init->rgba) return NULL;
-    t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
     i16 rh = SelectorRowHeight(), pad = SELECTOR_PAD, gap = SELECTOR_GAP;
     i16 user_h = pad + COLSEL_SWATCH_H + gap + COLSEL_CHANNELS * (rh + gap) + COLSEL_GROUP_GAP + gap + rh + pad;
-    const T_DIALOG_SPEC spec = {init->title,         parent,              COLSEL_USER_W,     user_h,
+    const T_DIALOG_SPEC spec = {init->title,         init->parent,        COLSEL_USER_W,     user_h,
                                 COLSEL_FLAGS,        IDCMP_TERMINATE,     ColourSelectorMessage,
                                 ColourSelectorInput, ColourSelectorPaint, "colour selector", sizeof(T_COLOUR_SELECTOR)};
-    T_COLOUR_SELECTOR *s = (T_COLOUR_SELECTOR *)OpenDialog(&spec);
+    T_COLOUR_SELECTOR *s =
+        (T_COLOUR_SELECTOR *)OpenSelector(&spec, init->item_code, offsetof(T_COLOUR_SELECTOR, sel));
     if (!s) return NULL;
-    t_Window *window = s->head.window;
-    window->user_data = &s->sel;
+    t_Window *window = s->base.head.window;
+    s->base.answer_data = s->base.cancel_data = &s->sel;
     s->sel = T_COLOURSEL{window, init->rgba, init->hsia, init->item_code, init->user_data};
     s->swatch = T_RPOS{pad, pad, (i16)(COLSEL_USER_W - 2 * pad), COLSEL_SWATCH_H};
     StartHSI(s);
     t_Gaget_Handler *gh = NewGadgetHandler(window);
-    if (!gh || !MakeSelectorGadgets(s, gh, rh)) {
-        myprintf(0, "AddColourSelector: the gadgets of %s could not be made\n", window->name);
-        RemoveWindow(window);
-        return NULL;
-    }
+    if (!gh || !MakeSelectorGadgets(s, gh, rh)) return DropSelector(&s->base, "AddColourSelector");
     gh->current_gadget = s->sliders[0];
     return window;
 }

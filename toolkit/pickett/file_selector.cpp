@@ -28,20 +28,16 @@ enum {
 
 static const char *const unreadable_note = "This folder can't be read.";
 
-// The selector's record: its handler (keys first, and the end of the window) and the window's
-// user_data.
+// The selector's record, the window's user_data. OK carries `answer`, Cancel nothing.
 typedef struct T_FILE_SELECTOR {
-    t_Handler head;
+    T_SELECTOR base;
     T_FILE_REQUESTER_ANSWER answer;
-    t_Window *parent;
-    u32 item_code;
-    u16 answered;                    // OK or Cancel went out: a nested loop must not answer twice
     char folder[PICKETT_PATH_SIZE];  // the folder shown, without a trailing '/' (but "/")
     char path_text[SELECTOR_FIELD_SIZE], name_text[SELECTOR_FIELD_SIZE];
     char pattern_text[SELECTOR_FIELD_SIZE];
     t_List entries;  // T_FOLDER_ENTRY, in the list box's order
     T_LIST_DATA *list;
-    t_gadget *path_field, *list_gadget, *name_field, *pattern_field, *ok, *cancel, *note;
+    t_gadget *path_field, *list_gadget, *name_field, *pattern_field, *ok, *note;
     t_gadget *labels[3];  // "Folder", "Pattern", "Name"
 } T_FILE_SELECTOR;
 
@@ -65,14 +61,6 @@ static void GoToFolder(T_FILE_SELECTOR *s, const char *folder) {
         s->note->live_flags &= ~GADGET_FLAGS_NO_DISPLAY;
 }
 
-static void Finish(t_Window *window, u32 answer) {
-    T_FILE_SELECTOR *s = SelectorOf(window);
-    if (!IsWindowLive(window) || s->answered) return;
-    s->answered = 1;
-    AnswerParent(s->parent, s->item_code, answer, answer == ACT_REQUESTER_OK ? &s->answer : NULL);
-    RemoveWindow(window);
-}
-
 // OK: the typed name with the folder shown (or its own full path). A name that leads to a folder
 // goes there instead; an empty name does nothing.
 static void Accept(t_Window *window) {
@@ -89,7 +77,7 @@ static void Accept(t_Window *window) {
         return;
     }
     s->answer = answer;
-    Finish(window, ACT_REQUESTER_OK);
+    FinishSelector(&s->base, ACT_REQUESTER_OK);
 }
 
 // An entry was opened (double click, or Enter in the list): a folder is entered, a file is OK.
@@ -128,7 +116,7 @@ static void Layout(t_Window *window) {
     PlaceGadget(s->pattern_field, field_x, pattern_y, field_w, rh);
     PlaceGadget(s->labels[2], pad, name_y, label_w, rh);
     PlaceGadget(s->name_field, field_x, name_y, field_w, rh);
-    PlaceGadget(s->cancel, w - pad - SELECTOR_BUTTON_W, buttons_y, SELECTOR_BUTTON_W, rh);
+    PlaceGadget(s->base.cancel, w - pad - SELECTOR_BUTTON_W, buttons_y, SELECTOR_BUTTON_W, rh);
     PlaceGadget(s->ok, w - pad - 2 * SELECTOR_BUTTON_W - gap, buttons_y, SELECTOR_BUTTON_W, rh);
     PlaceGadget(s->note, pad, buttons_y, w - 3 * pad - 2 * SELECTOR_BUTTON_W - gap, rh);
 }
@@ -138,7 +126,7 @@ static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
     T_FILE_SELECTOR *s = SelectorOf(window);
     switch (msg) {
     case ACT_TERMINATE:  // the close gadget: Cancel
-        Finish(window, ACT_REQUESTER_CANCEL);
+        FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
         return 0;
     case ACT_WINDOW_RESIZE:  // the gadgets follow the window's size
         Layout(window);
@@ -149,7 +137,7 @@ static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
             Accept(window);
             return 0;
         case FILESEL_CANCEL:  // the Cancel button
-            Finish(window, ACT_REQUESTER_CANCEL);
+            FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
             return 0;
         case FILESEL_LIST: {  // a click on an entry: a file's name goes into the name field
             T_FOLDER_ENTRY *e = (T_FOLDER_ENTRY *)SelectedNode(s->list, &s->entries);
@@ -172,33 +160,37 @@ static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
     }
 }
 
-// Keys come here before the gadgets: Enter acts on the field or list that has the focus, or is
-// OK; Escape is Cancel.
+// Enter but on the Cancel button: on the path or the pattern it shows that folder, on a folder
+// of the list it enters it, elsewhere it is OK.
+static void Enter(t_Window *window) {
+    T_FILE_SELECTOR *s = SelectorOf(window);
+    t_gadget *current = GetCurrentGadget(window);
+    T_FOLDER_ENTRY *e = (T_FOLDER_ENTRY *)SelectedNode(s->list, &s->entries);
+    if (current == s->path_field)
+        GoToFolder(s, s->path_text);
+    else if (current == s->pattern_field)
+        GoToFolder(s, s->folder);
+    else if (current == s->list_gadget && e && e->is_folder)
+        OpenEntry(window, e);
+    else
+        Accept(window);
+}
+
+// Keys come here before the gadgets.
 static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data) {
     T_FILE_SELECTOR *s = (T_FILE_SELECTOR *)handler;
-    t_Window *window = handler->window;
     switch (event) {
-    case HANDLER_EVENT_KEY: {
-        u16 key = ((T_KEY_MSG *)data)->key_code;
-        if (key == KEY_ESCAPE) {
-            Finish(window, ACT_REQUESTER_CANCEL);
+    case HANDLER_EVENT_KEY:
+        switch (SelectorKeyAnswer(&s->base, ((T_KEY_MSG *)data)->key_code)) {
+        case ACT_REQUESTER_CANCEL:  // Escape, or Enter on the Cancel button
+            FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
             return 1;
+        case ACT_REQUESTER_OK:  // Enter: it acts on the field or list that has the focus, or is OK
+            Enter(handler->window);
+            return 1;
+        default:
+            return 0;
         }
-        if (key != KEY_RETURN) return 0;
-        t_gadget *current = GetCurrentGadget(window);
-        T_FOLDER_ENTRY *e = (T_FOLDER_ENTRY *)SelectedNode(s->list, &s->entries);
-        if (current == s->path_field)
-            GoToFolder(s, s->path_text);
-        else if (current == s->pattern_field)
-            GoToFolder(s, s->folder);
-        else if (current == s->list_gadget && e && e->is_folder)
-            OpenEntry(window, e);
-        else if (current == s->cancel)
-            Finish(window, ACT_REQUESTER_CANCEL);
-        else
-            Accept(window);
-        return 1;
-    }
     case HANDLER_EVENT_END:  // the window goes: its entries with it
         FreeFolderEntries(&s->entries);
         return 0;
@@ -209,16 +201,13 @@ static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data) {
 
 t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init) {
     if (!init) return NULL;
-    t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
-    const T_DIALOG_SPEC spec = {init->title,       parent,          FILESEL_USER_W,  FILESEL_USER_H,
+    const T_DIALOG_SPEC spec = {init->title,       init->parent,    FILESEL_USER_W,  FILESEL_USER_H,
                                 FILESEL_FLAGS,     IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FileSelectorMessage,
                                 FileSelectorInput, NULL,            "file selector", sizeof(T_FILE_SELECTOR)};
-    T_FILE_SELECTOR *s = (T_FILE_SELECTOR *)OpenDialog(&spec);
+    T_FILE_SELECTOR *s = (T_FILE_SELECTOR *)OpenSelector(&spec, init->item_code, 0);
     if (!s) return NULL;
-    t_Window *window = s->head.window;
-    window->user_data = s;
-    s->parent = parent;
-    s->item_code = init->item_code;
+    t_Window *window = s->base.head.window;
+    s->base.answer_data = &s->answer;
     InitList(&s->entries, "folder entries");
     snprintf(s->pattern_text, sizeof s->pattern_text, "%s", init->pattern ? init->pattern : "");
     snprintf(s->name_text, sizeof s->name_text, "%s", init->name ? init->name : "");
@@ -233,16 +222,13 @@ t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init) {
     s->name_field = MakeSelectorField(gh, s->name_text, FILESEL_NAME);
     s->ok = MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, init->ok_text ? init->ok_text : "OK",
                                FILESEL_OK, ACT_LMOUSE_UP, NULL);
-    s->cancel =
+    s->base.cancel =
         MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, init->cancel_text ? init->cancel_text : "Cancel",
                            FILESEL_CANCEL, ACT_LMOUSE_UP, NULL);
     s->note = MakeSelectorGadget(gh, GADGET_TYPE_TEXT, unreadable_note, FILESEL_NOTE, 0, NULL);
     if (!s->labels[0] || !s->path_field || !s->list_gadget || !s->labels[1] || !s->pattern_field ||
-        !s->labels[2] || !s->name_field || !s->ok || !s->cancel || !s->note) {
-        myprintf(0, "NewFileSelector: the gadgets of %s could not be made\n", window->name);
-        RemoveWindow(window);
-        return NULL;
-    }
+        !s->labels[2] || !s->name_field || !s->ok || !s->base.cancel || !s->note)
+        return DropSelector(&s->base, "NewFileSelector");
     Layout(window);
     // A name that holds a folder opens in that folder with its bare name; the name is selected, so
     // that typing replaces it.

@@ -1,6 +1,5 @@
 // Folders as the selectors see them: wildcard patterns, a folder read into sorted entries, the
-// nearest existing folder, the way up, and a typed name split into folder and name. Also where a
-// selector opens and how it answers its parent, which all three selectors share.
+// nearest existing folder, the way up, and a typed name split into folder and name.
 #include <dirent.h>
 #include <errno.h>
 #include <stdio.h>
@@ -178,15 +177,4 @@ int SplitTypedName(T_FILE_REQUESTER_ANSWER *answer, const char *folder, const ch
     else
         snprintf(answer->directory, sizeof answer->directory, "%.*s", (int)(slash - path), path);
     return 1;
-}
-
-// --- Placing and answering -----------------------------------------------------------------------
-
-u32 SelectorKeyAnswer(t_Window *window, t_gadget *cancel, u16 key) {
-    if (key == KEY_ESCAPE || (key == KEY_RETURN && GetCurrentGadget(window) == cancel)) return ACT_REQUESTER_CANCEL;
-    return key == KEY_RETURN ? ACT_REQUESTER_OK : 0;
-}
-
-u32 AnswerParent(t_Window *parent, u32 item_code, u32 msg, void *data) {
-    return IsWindowLive(parent) ? DeliverMessage(parent, item_code, msg, data) : 0;
 }

@@ -29,17 +29,17 @@ static const char *const preview_lines[] = {
     "jumps over the lazy dog.",
 };
 
+// Every answer carries the selector's window.
 typedef struct T_FONT_SELECTOR {
-    t_Handler head;  // keys first, the preview's paint, and the end of the window
-    T_FONTSEL sel;   // the window's user_data
+    T_SELECTOR base;  // and the preview's paint
+    T_FONTSEL sel;    // the window's user_data
     char folder[sizeof(T_FONTSEL::directory)];  // init->path
     char *patterns;  // the patterns joined by ';' (own block of patterns_size bytes)
     u32 patterns_size;
     u32 initial_font_size;
-    u16 answered;    // OK or Cancel went out: a nested loop must not answer twice
     t_List entries;  // T_FOLDER_ENTRY, in the list box's order
     T_LIST_DATA *list;
-    t_gadget *list_gadget, *ok, *cancel;
+    t_gadget *list_gadget, *ok;
     T_RPOS preview;  // the preview box, from the user area's corner
     T_FONT *preview_font;
 } T_FONT_SELECTOR;
@@ -104,14 +104,6 @@ static void Choose(T_FONT_SELECTOR *s, T_FOLDER_ENTRY *e) {
         LoadFont(JoinPath(path, sizeof path, s->sel.directory, e->name), FONTSEL_PREVIEW_SIZE);
 }
 
-static void Finish(t_Window *window, u32 answer) {
-    T_FONT_SELECTOR *s = SelectorOf(window);
-    if (!IsWindowLive(window) || s->answered) return;
-    s->answered = 1;
-    AnswerParent(s->sel.parent, s->sel.item_code, answer, window);
-    RemoveWindow(window);
-}
-
 static void Layout(t_Window *window) {
     T_FONT_SELECTOR *s = SelectorOf(window);
     i16 rh = SelectorRowHeight(), pad = SELECTOR_PAD, gap = SELECTOR_GAP;
@@ -120,7 +112,7 @@ static void Layout(t_Window *window) {
     PlaceGadget(s->list_gadget, pad, pad, FONTSEL_LIST_W, list_h);
     s->preview = T_RPOS{(i16)(pad + FONTSEL_LIST_W + gap), pad,
                         (i16)(w - 2 * pad - gap - FONTSEL_LIST_W), list_h};
-    PlaceGadget(s->cancel, w - pad - SELECTOR_BUTTON_W, buttons_y, SELECTOR_BUTTON_W, rh);
+    PlaceGadget(s->base.cancel, w - pad - SELECTOR_BUTTON_W, buttons_y, SELECTOR_BUTTON_W, rh);
     PlaceGadget(s->ok, w - pad - 2 * SELECTOR_BUTTON_W - gap, buttons_y, SELECTOR_BUTTON_W, rh);
 }
 
@@ -129,7 +121,7 @@ static u32 FontSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
     T_FONT_SELECTOR *s = SelectorOf(window);
     switch (msg) {
     case ACT_TERMINATE:  // the close gadget: Cancel
-        Finish(window, ACT_REQUESTER_CANCEL);
+        FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
         return 0;
     case ACT_WINDOW_RESIZE:  // the list and the preview follow the window's size
         Layout(window);
@@ -138,14 +130,13 @@ static u32 FontSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
         switch (item_code) {
         case FONTSEL_LIST:  // a click on an entry: the choice, and a preview for the parent
             Choose(s, (T_FOLDER_ENTRY *)SelectedNode(s->list, &s->entries));
-            if (s->sel.chosen[0])
-                AnswerParent(s->sel.parent, s->sel.item_code, ACT_REQUESTER_PREVIEW, window);
+            if (s->sel.chosen[0]) TellParent(&s->base, ACT_REQUESTER_PREVIEW);
             return 0;
         case FONTSEL_OK:  // the Open button
-            Finish(window, ACT_REQUESTER_OK);
+            FinishSelector(&s->base, ACT_REQUESTER_OK);
             return 0;
         case FONTSEL_CANCEL:  // the Cancel button
-            Finish(window, ACT_REQUESTER_CANCEL);
+            FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
             return 0;
         default:
             return 0;
@@ -154,7 +145,7 @@ static u32 FontSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
         switch (item_code) {
         case FONTSEL_LIST:  // a double click on an entry is Open
             Choose(s, (T_FOLDER_ENTRY *)SelectedNode(s->list, &s->entries));
-            if (s->sel.chosen[0]) Finish(window, ACT_REQUESTER_OK);
+            if (s->sel.chosen[0]) FinishSelector(&s->base, ACT_REQUESTER_OK);
             return 0;
         default:
             return 0;
@@ -200,13 +191,9 @@ static void FontSelectorPaint(t_Handler *handler) {
 // Keys come here before the gadgets: Enter is Open, Escape is Cancel.
 static u32 FontSelectorInput(t_Handler *handler, u32 event, void *data) {
     T_FONT_SELECTOR *s = (T_FONT_SELECTOR *)handler;
-    t_Window *window = handler->window;
     switch (event) {
-    case HANDLER_EVENT_KEY: {
-        u32 answer = SelectorKeyAnswer(window, s->cancel, ((T_KEY_MSG *)data)->key_code);
-        if (answer) Finish(window, answer);
-        return answer != 0;
-    }
+    case HANDLER_EVENT_KEY:
+        return SelectorKey(&s->base, ((T_KEY_MSG *)data)->key_code);
     case HANDLER_EVENT_END:  // the window goes: the record's belongings with it
         FreeFolderEntries(&s->entries);
         EmptyList(&s->sel.patterns, sizeof(t_Node));
@@ -222,16 +209,15 @@ static u32 FontSelectorInput(t_Handler *handler, u32 event, void *data) {
 
 t_Window *NewFontSelector(T_FONTSEL_INIT *init) {
     if (!init) return NULL;
-    t_Window *parent = IsWindowLive(init->parent) ? init->parent : NULL;
-    const T_DIALOG_SPEC spec = {init->title,       parent,            FONTSEL_USER_W,  FONTSEL_USER_H,
+    const T_DIALOG_SPEC spec = {init->title,       init->parent,      FONTSEL_USER_W,  FONTSEL_USER_H,
                                 FONTSEL_FLAGS,     IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FontSelectorMessage,
                                 FontSelectorInput, FontSelectorPaint, "font selector", sizeof(T_FONT_SELECTOR)};
-    T_FONT_SELECTOR *s = (T_FONT_SELECTOR *)OpenDialog(&spec);
+    T_FONT_SELECTOR *s = (T_FONT_SELECTOR *)OpenSelector(&spec, init->item_code, offsetof(T_FONT_SELECTOR, sel));
     if (!s) return NULL;
-    t_Window *window = s->head.window;
-    window->user_data = &s->sel;
+    t_Window *window = s->base.head.window;
+    s->base.answer_data = s->base.cancel_data = window;
     s->sel.window = window;
-    s->sel.parent = parent;
+    s->sel.parent = s->base.parent;
     s->sel.item_code = init->item_code;
     s->sel.user_data = init->user_data;
     if (init->initial_font) {
@@ -249,13 +235,9 @@ t_Window *NewFontSelector(T_FONTSEL_INIT *init) {
     s->list_gadget = MakeSelectorList(gh, FONTSEL_LIST, &s->list);
     s->ok = MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, init->button_text ? init->button_text : "OK",
                                FONTSEL_OK, ACT_LMOUSE_UP, NULL);
-    s->cancel =
+    s->base.cancel =
         MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, "Cancel", FONTSEL_CANCEL, ACT_LMOUSE_UP, NULL);
-    if (!s->list_gadget || !s->ok || !s->cancel) {
-        myprintf(0, "NewFontSelector: the gadgets of %s could not be made\n", window->name);
-        RemoveWindow(window);
-        return NULL;
-    }
+    if (!s->list_gadget || !s->ok || !s->base.cancel) return DropSelector(&s->base, "NewFontSelector");
     Layout(window);
     ReadFontList(&s->entries, s->folder, s->patterns ? s->patterns : "");
     FillSelectorList(s->list_gadget, s->list, &s->entries);

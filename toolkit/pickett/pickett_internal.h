@@ -1,5 +1,6 @@
-// What the selectors of Pickett share and no user of the toolkit sees: reading a folder for a
-// selector's list, wildcard patterns, and the path steps of the file selector.
+// What the selectors of Pickett share and no user of the toolkit sees: the head of a selector's
+// record and how it answers, reading a folder for a selector's list, wildcard patterns, and the
+// path steps of the file selector.
 #pragma once
 #include "lumora/lumora_internal.h"
 #include "toolkit.h"
@@ -42,13 +43,37 @@ char *JoinPath(char *dest, u32 size, const char *folder, const char *name);
 // was.
 int SplitTypedName(T_FILE_REQUESTER_ANSWER *answer, const char *folder, const char *typed);
 
-// A selector opens as a dialog (OpenDialog), centred on its parent and kept on the screen.
+// --- What every selector is (selector.cpp) ------------------------------------------------------
+// The head of each selector's record, which is the block of its dialog's handler: where its
+// answers go, what they carry, and the Cancel button, on which Enter cancels.
+typedef struct T_SELECTOR {
+    t_Handler head;     // keys first, and the end of the window
+    t_Window *parent;   // the parent that was live at the opening, or null
+    u32 item_code;      // the init record's, with every answer
+    void *answer_data;  // what OK and a preview carry
+    void *cancel_data;  // what Cancel carries
+    t_gadget *cancel;
+    u16 answered;  // OK or Cancel went out: a nested loop must not answer twice
+} T_SELECTOR;
+
+// Opens a selector as a dialog, centred on its parent and kept on the screen: a handler block of
+// spec->handler_size bytes that begins with a T_SELECTOR, whose parent and item code it sets. The
+// window's user_data is the block plus `user_data_offset`. Null, with nothing open, when it can't.
+T_SELECTOR *OpenSelector(const T_DIALOG_SPEC *spec, u32 item_code, size_t user_data_offset);
+// Tells the parent `msg` with the answer's data, through the parent's message mask: message
+// 0x1000 + n reaches it only when bit n of the mask given at its creation is set.
+void TellParent(T_SELECTOR *selector, u32 msg);
+// Answers the parent once with ACT_REQUESTER_OK or ACT_REQUESTER_CANCEL, and closes the selector.
+void FinishSelector(T_SELECTOR *selector, u32 answer);
 // The answer a key gives in a selector: Escape, or Enter on the Cancel button, cancels; Enter
 // elsewhere is OK; any other key gives 0.
-u32 SelectorKeyAnswer(t_Window *window, t_gadget *cancel, u16 key);
-// Delivers a selector's answer through the parent's message mask: message 0x1000 + n reaches it
-// only when bit n of the mask given at its creation is set. Returns the message function's result.
-u32 AnswerParent(t_Window *parent, u32 item_code, u32 msg, void *data);
+u32 SelectorKeyAnswer(T_SELECTOR *selector, u16 key);
+// A key before the gadgets, where Enter can only mean OK: the answer given and the selector
+// closed. False for a key that is no answer.
+int SelectorKey(T_SELECTOR *selector, u16 key);
+// The end of an opening whose gadgets could not all be made: logged for `who`, the window
+// removed. Null.
+t_Window *DropSelector(T_SELECTOR *selector, const char *who);
 
 // The font selector's list: the files of `folder` that match `patterns` (from 0), then the
 // machine's fonts (from 1, FONT_MACHINE_FOLDER, "*.ttf"), leaving out a machine font whose name
