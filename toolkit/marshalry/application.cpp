@@ -118,6 +118,16 @@ int ReadStoreLines(const char *path, u16 *broken, u16 store, const char *what, T
     return result;
 }
 
+void WriteStoreText(T_APPLICATION *app, const char *folder, const char *extension, u16 store, const char *what,
+                    char *text, u32 length, u32 capacity) {
+    const char *path = MarshalryStorePath(folder, app->name, extension, 1);
+    if (!path || !SaveStoreFile(path, text, length))
+        myprintf(0, "The %s of %s could not be stored", what, app->name);
+    else
+        app->broken_stores &= ~store;
+    FreeMem(text, capacity);
+}
+
 void StoreBrokenStores(void) {
     for (T_APPLICATION *app = (T_APPLICATION *)_MarshalryBase->applications.first; app->next;
          app = app->next) {

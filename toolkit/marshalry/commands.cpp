@@ -158,12 +158,7 @@ void StoreKeys(T_APPLICATION *app) {
         if (c->key != c->default_key)
             length += (u32)snprintf(text + length, capacity - length, "%u %u\n", c->item_code,
                                     c->key);
-    const char *path = MarshalryStorePath(KEY_STORE_FOLDER, app->name, KEY_STORE_EXTENSION, 1);
-    if (!path || !SaveStoreFile(path, text, length))
-        myprintf(0, "The keys of %s could not be stored", app->name);
-    else
-        app->broken_stores &= ~STORE_KEYS;
-    FreeMem(text, capacity);
+    WriteStoreText(app, KEY_STORE_FOLDER, KEY_STORE_EXTENSION, STORE_KEYS, "keys", text, length, capacity);
     if (key_store.app == app)
         ForgetKeyStore(app);
 }

@@ -21,6 +21,11 @@ typedef int (*T_STORE_LINE_FN)(const char *line, void *context);
 enum { STORE_NOT_READ, STORE_GARBAGE, STORE_READ };
 int ReadStoreLines(const char *path, u16 *broken, u16 store, const char *what, T_STORE_LINE_FN take,
                    void *context);
+// Writes the text of a store of `app` (its `length` bytes), frees it (`capacity` bytes), and clears
+// `store` in its broken stores; a store that can't be written is logged as "The <what> of <app>
+// could not be stored" and stays broken.
+void WriteStoreText(T_APPLICATION *app, const char *folder, const char *extension, u16 store, const char *what,
+                    char *text, u32 length, u32 capacity);
 // Writes again, whole, each application's stores that couldn't be read at the start, so that an
 // orderly end heals them.
 void StoreBrokenStores(void);

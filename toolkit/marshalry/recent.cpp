@@ -80,12 +80,7 @@ void StoreRecentFiles(T_APPLICATION *app) {
     for (T_RECENT_TYPE *t = (T_RECENT_TYPE *)app->recent_types.first; t->next; t = t->next)
         for (T_RECENT_FILE *f = (T_RECENT_FILE *)t->files.first; f->next; f = f->next)
             length += (u32)snprintf(text + length, capacity - length, "%u %s\n", t->type, f->name);
-    const char *path = MarshalryStorePath(RECENT_FOLDER, app->name, RECENT_EXTENSION, 1);
-    if (!path || !SaveStoreFile(path, text, length))
-        myprintf(0, "The recent files of %s could not be stored", app->name);
-    else
-        app->broken_stores &= ~STORE_RECENT;
-    FreeMem(text, capacity);
+    WriteStoreText(app, RECENT_FOLDER, RECENT_EXTENSION, STORE_RECENT, "recent files", text, length, capacity);
 }
 
 void AddRecentFileType(T_APPLICATION *app, u32 type, u32 limit) {
