@@ -12,7 +12,7 @@ cd "$(dirname "$0")"
 
 # What the editor needs to build and run, and what the tests add.
 editor_packages=(build-essential cmake pkg-config libsdl2-dev libfreetype-dev libpng-dev fonts-dejavu-core)
-test_packages=(libgtest-dev libbenchmark-dev desktop-file-utils)
+test_packages=(libgtest-dev libbenchmark-dev desktop-file-utils clang-format)
 # The sanitizers' build: clang with its runtimes (ASan, UBSan, LeakSanitizer, libFuzzer).
 sanitizer_packages=(clang libclang-rt-dev)
 build=build

@@ -10,31 +10,31 @@
 #include "editor/texts.h"
 
 // clang-format off
-//  what                  label                    item code                      shortcut
+//   what                label                    item code                     shortcut
 static const T_MENU_ROW gadget_menu_table[] = {
-    {MENU_ROW_ENTRY,     "Cut",                   GADGET_MENU_CUT,               'X'},
-    {MENU_ROW_ENTRY,     "Copy",                  GADGET_MENU_COPY,              'C'},
-    {MENU_ROW_ENTRY,     "Paste",                 GADGET_MENU_PASTE,             'V'},
-    {MENU_ROW_SEPARATOR, "",                      0,                             0},
-    {MENU_ROW_ENTRY,     "Size to contents",      GADGET_MENU_SIZE_TO_CONTENTS,  'z'},
-    {MENU_ROW_ENTRY,     "Align left edges",      GADGET_MENU_ALIGN_LEFT,        'l'},
-    {MENU_ROW_ENTRY,     "Align top edges",       GADGET_MENU_ALIGN_TOP,         't'},
-    {MENU_ROW_ENTRY,     "Apply same dimensions", GADGET_MENU_SAME_SIZE,         's'},
-    {MENU_ROW_SEPARATOR, "",                      0,                             0},
-    {MENU_ROW_ENTRY,     "Properties",            GADGET_MENU_PROPERTIES,        'P'},
-    {MENU_ROW_ENTRY,     "Actions...",            PAGE_MENU_ACTIONS,             'A'},
-    {MENU_ROW_ENTRY,     "Choose Font...",        PAGE_MENU_CHOOSE_FONT,         'F'},
-    {MENU_ROW_ENTRY,     "Delete...",             PAGE_MENU_DELETE,              'D'},
-    {MENU_ROW_SEPARATOR, "",                      0,                             0},
-    {MENU_ROW_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,   'W'},
+    {MENU_ROW_ENTRY,     "Cut",                   GADGET_MENU_CUT,              'X'},
+    {MENU_ROW_ENTRY,     "Copy",                  GADGET_MENU_COPY,             'C'},
+    {MENU_ROW_ENTRY,     "Paste",                 GADGET_MENU_PASTE,            'V'},
+    {MENU_ROW_SEPARATOR, "",                      0,                            0},
+    {MENU_ROW_ENTRY,     "Size to contents",      GADGET_MENU_SIZE_TO_CONTENTS, 'z'},
+    {MENU_ROW_ENTRY,     "Align left edges",      GADGET_MENU_ALIGN_LEFT,       'l'},
+    {MENU_ROW_ENTRY,     "Align top edges",       GADGET_MENU_ALIGN_TOP,        't'},
+    {MENU_ROW_ENTRY,     "Apply same dimensions", GADGET_MENU_SAME_SIZE,        's'},
+    {MENU_ROW_SEPARATOR, "",                      0,                            0},
+    {MENU_ROW_ENTRY,     "Properties",            GADGET_MENU_PROPERTIES,       'P'},
+    {MENU_ROW_ENTRY,     "Actions...",            PAGE_MENU_ACTIONS,            'A'},
+    {MENU_ROW_ENTRY,     "Choose Font...",        PAGE_MENU_CHOOSE_FONT,        'F'},
+    {MENU_ROW_ENTRY,     "Delete...",             PAGE_MENU_DELETE,             'D'},
+    {MENU_ROW_SEPARATOR, "",                      0,                            0},
+    {MENU_ROW_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,  'W'},
 };
 
 // The page background's menu.
 static const T_MENU_ROW page_menu_table[] = {
-    {MENU_ROW_ENTRY,     "Resize to contents",    PAGE_MENU_RESIZE_TO_CONTENTS,  'R'},
-    {MENU_ROW_ENTRY,     "Delete",                PAGE_MENU_DELETE,              'D'},
-    {MENU_ROW_SEPARATOR, "",                      0,                             0},
-    {MENU_ROW_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,   'W'},
+    {MENU_ROW_ENTRY,     "Resize to contents",    PAGE_MENU_RESIZE_TO_CONTENTS, 'R'},
+    {MENU_ROW_ENTRY,     "Delete",                PAGE_MENU_DELETE,             'D'},
+    {MENU_ROW_SEPARATOR, "",                      0,                            0},
+    {MENU_ROW_ENTRY,     "Window Properties",     PAGE_MENU_WINDOW_PROPERTIES,  'W'},
 };
 // clang-format on
 

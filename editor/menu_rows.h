@@ -4,14 +4,14 @@
 
 // What a row of a menu table makes.
 enum {
-    MENU_ROW_ENTRY,         // a plain entry
+    MENU_ROW_ENTRY,  // a plain entry
     MENU_ROW_SEPARATOR,
     MENU_ROW_TITLE,         // a title of the bar; the entries that follow go under it
     MENU_ROW_COMMAND,       // an entry made from a registered command, which shows its key
     MENU_ROW_COMMAND_SAVE,  // the same, with the standard bank's Save icon
     MENU_ROW_SUBMENU,       // a sub-menu; the rows that follow go into it until MENU_ROW_SUBMENU_END
     MENU_ROW_SUBMENU_END,
-    MENU_ROW_PLACE,         // where the caller adds entries of its own (the recent files)
+    MENU_ROW_PLACE,  // where the caller adds entries of its own (the recent files)
 };
 
 #define STANDARD_SAVE_ICON 16  // the Save icon of the display's standard bank

@@ -16,8 +16,8 @@
 
 #define KEY_SWAP_TOOLS 'z'
 #define KEY_SPACE ' '
-#define NUDGE_STEP 1        // pixels an arrow key moves the marked gadgets
-#define NUDGE_SHIFT_STEP 8  // with Shift
+#define NUDGE_STEP 1                                // pixels an arrow key moves the marked gadgets
+#define NUDGE_SHIFT_STEP 8                          // with Shift
 #define QUAL_MARK_KEEP (QUAL_SHIFT | QUAL_CONTROL)  // qualifiers that keep the marks
 
 // --- Helpers -------------------------------------------------------------------------------------
@@ -251,8 +251,8 @@ static u32 PageKey(T_WINEDIT_HANDLER *record, t_Window *window, const T_KEY_MSG 
     case KEY_CTRL('I'):
         ToggleStyleFlag(window, GADGET_FLAGS_ITALICS);
         return 1;
-    case KEY_LEFT:  // the arrows nudge the marked gadgets; with nothing marked they walk the
-    case KEY_RIGHT: // gadgets as ever
+    case KEY_LEFT:   // the arrows nudge the marked gadgets; with nothing marked they walk the
+    case KEY_RIGHT:  // gadgets as ever
     case KEY_UP:
     case KEY_DOWN:
         return NudgeByKey(window, key);
@@ -364,8 +364,7 @@ static u32 PressOnGadget(T_WINEDIT_HANDLER *record, t_Window *window, t_gadget *
         }
     }
     // With no qualifier the gadget becomes the selection, unless it belongs to a larger one.
-    if ((msg->keyboard_flags & QUAL_MARK_KEEP) == 0 &&
-        (!IsGadgetMarked(gadget) || CountMarkedGadgets(gadget) == 1)) {
+    if ((msg->keyboard_flags & QUAL_MARK_KEEP) == 0 && (!IsGadgetMarked(gadget) || CountMarkedGadgets(gadget) == 1)) {
         ClearAllMarkedGadgets(gadget);
         gadget->live_flags |= GADGET_MARK_SELECTED;
     }

@@ -279,8 +279,8 @@ void FlipMarkedGadgets(t_Window *window)
         if (!IsGadgetMarked(g))
             continue;
         i32 mirrored = left + right - (LeftInUserArea(window, g) + g->base_width);
-        g->pos_x = (i16)((g->live_flags & GADGET_FLAGS_FROM_RIGHT) ? window->user_w - mirrored - g->base_width
-                                                                   : mirrored);
+        g->pos_x =
+            (i16)((g->live_flags & GADGET_FLAGS_FROM_RIGHT) ? window->user_w - mirrored - g->base_width : mirrored);
     }
     NoteMoves(window, first);
 }

@@ -154,8 +154,8 @@ void ApplyHandleResize(t_Window *window, t_gadget *gadget, u16 handle)
     if (handle == HANDLE_NONE)
         return;
     window->state_flags |= WSF_MODIFIED;
-    T_RPOS rect = {(i16)(gadget->pos_x + window->user_x), (i16)(gadget->pos_y + window->user_y),
-                   gadget->base_width, gadget->base_height};
+    T_RPOS rect = {(i16)(gadget->pos_x + window->user_x), (i16)(gadget->pos_y + window->user_y), gadget->base_width,
+                   gadget->base_height};
     GenericResize(&rect, HANDLE_MIN_SIZE, HANDLE_MIN_SIZE, window->mouse_x, window->mouse_y, handle);
     gadget->pos_x = (i16)(rect.x - window->user_x);
     gadget->pos_y = (i16)(rect.y - window->user_y);

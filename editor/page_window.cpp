@@ -18,17 +18,17 @@
 #include "source/source_writer.h"
 #include "source/texts.h"
 
-#define LINES_SHOWN 5  // line numbers that the question before a save over hand-written lines names
-#define LINE_NUMBER_SIZE 12  // one of them in the list, with its comma
+#define LINES_SHOWN 5                 // line numbers that the question before a save over hand-written lines names
+#define LINE_NUMBER_SIZE 12           // one of them in the list, with its comma
 #define FONTS_FOLDER "System\\Fonts"  // below the data root: the fonts the selector lists
-#define SOURCE_EXTENSION ".cpp"  // given to a page file named without one
-#define RESIZE_START_WIDTH 64  // "Resize to contents" grows the window from this size
+#define SOURCE_EXTENSION ".cpp"       // given to a page file named without one
+#define RESIZE_START_WIDTH 64         // "Resize to contents" grows the window from this size
 #define RESIZE_START_HEIGHT 32
 
 // The mask of Quillform's own page window: exactly the messages that PageMessage answers.
-static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE |
-                              IDCMP_MENU_OPEN | IDCMP_RECEIVE_OBJECT | IDCMP_REQUESTER_OK |
-                              IDCMP_REQUESTER_CANCEL | IDCMP_REQUESTER_ABORT | IDCMP_REQUESTER_PREVIEW;  // 0x6C1D6
+static const u32 PAGE_IDCMP = IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE | IDCMP_MENU_OPEN |
+                              IDCMP_RECEIVE_OBJECT | IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL |
+                              IDCMP_REQUESTER_ABORT | IDCMP_REQUESTER_PREVIEW;  // 0x6C1D6
 
 T_PAGE_HOST page_host;
 
@@ -63,9 +63,9 @@ t_Window *CreatePageWindow(t_Window *parent, char *name, u32 flags, i16 x1, i16 
         return NULL;
     window->idcmp = IDCMP_TERMINATE;  // the design mask of the generated window
 
-    T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)NewHandler(
-        &window->handlers, PageInput, PagePaint, PAGE_HANDLER_NAME, PAGE_HANDLER_PRIORITY,
-        sizeof(T_WINEDIT_HANDLER), window);
+    T_WINEDIT_HANDLER *record =
+        (T_WINEDIT_HANDLER *)NewHandler(&window->handlers, PageInput, PagePaint, PAGE_HANDLER_NAME,
+                                        PAGE_HANDLER_PRIORITY, sizeof(T_WINEDIT_HANDLER), window);
     memcpy(record->tag, "WEH0", 4);
     window->user_data = record;
     NewGadgetHandler(window);
@@ -107,8 +107,7 @@ static void OpenQuery(t_Window *window, T_WINEDIT_HANDLER *record)
 // ended. Gives what the query came to.
 static u16 WaitForQuery(t_Window *window, T_WINEDIT_HANDLER *record)
 {
-    while (!(window->state_flags & WSF_REMOVED) && !SessionEnded() &&
-           record->query_state == PAGE_QUERY_OPEN &&
+    while (!(window->state_flags & WSF_REMOVED) && !SessionEnded() && record->query_state == PAGE_QUERY_OPEN &&
            (record->query_for_exit || window->state == WINDOW_STATE_OPEN))
         RefreshHandlers(&CURRENT_DISPLAY->window_class->head);
     u16 result = (window->state_flags & WSF_REMOVED) ? PAGE_QUERY_DROPPED : record->query_state;
@@ -142,7 +141,7 @@ static void ClosePage(t_Window *window)
 int AskToSavePage(t_Window *window)
 {
     T_WINEDIT_HANDLER *record = PageRecordOf(window);
-    ISetActiveWindow(window);  // the page that asks comes to the front, restored if minimised
+    ISetActiveWindow(window);   // the page that asks comes to the front, restored if minimised
     OpenQuery(window, record);  // or takes over the close query that stands
     record->query_for_exit = 1;
     return WaitForQuery(window, record);
@@ -165,8 +164,8 @@ void PageSaveEnded(t_Window *window, T_WINEDIT_HANDLER *record, int outcome, int
     }
 }
 
-void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, const char *ok_text,
-                        const char *path, const char *name)
+void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, const char *ok_text, const char *path,
+                        const char *name)
 {
     T_FILE_REQUESTER_INIT init;
     memset(&init, 0, sizeof(init));

@@ -15,7 +15,7 @@
 #define PAGE_ITEM_MESSAGE 32  // the page's own message boxes, whose answers are ignored
 
 // What a save of a document came to (SaveDocument, WriteDocument).
-#define SAVE_DOCUMENT_PENDING 0    // a selector or a question is up; the save ends when it answers
+#define SAVE_DOCUMENT_PENDING 0  // a selector or a question is up; the save ends when it answers
 #define SAVE_DOCUMENT_WRITTEN 1
 #define SAVE_DOCUMENT_FAILED 2     // told to the person; the page keeps its mark and its file
 #define SAVE_DOCUMENT_CANCELLED 3  // a selector or a question was given up
@@ -53,8 +53,8 @@ void RemovePage(t_Window *window, int second_refresh);
 int SaveDocument(t_Window *window, T_WINEDIT_HANDLER *record, int ask);
 // Opens a file selector of page files with the given parent, item code, title, button, path and
 // name: the page's "Save Source as", and the shell's "Open Source file".
-void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, const char *ok_text,
-                        const char *path, const char *name);
+void OpenSourceSelector(t_Window *parent, u32 item_code, const char *title, const char *ok_text, const char *path,
+                        const char *name);
 // Remembers the directory of the last file selector; one too long for the settings is not kept.
 void SetLastPath(const char *directory);
 // Writes the page to `path`. Written: the page takes the file (its name, the title bar's hover

@@ -7,10 +7,10 @@
 
 #include "editor/page_painter.h"
 
-#define TAB_TEXT_NO_CODE "X"    // shown by a gadget without an item code
-#define TAB_BOX_PADDING 4       // the box is the text and this much more each way
-#define TAB_LINE_BEFORE 0xFF    // red
-#define TAB_LINE_AFTER 0xFF00   // green
+#define TAB_TEXT_NO_CODE "X"   // shown by a gadget without an item code
+#define TAB_BOX_PADDING 4      // the box is the text and this much more each way
+#define TAB_LINE_BEFORE 0xFF   // red
+#define TAB_LINE_AFTER 0xFF00  // green
 
 // A line from the gadget's top left to the top left of the gadget with item code `code`, if any.
 static void DrawTabLink(t_gadget *gadget, u32 code, u32 colour)
@@ -38,8 +38,8 @@ void DrawTabNumber(void *node, void *next)
     // The gadget that holds the number the next click gives stands out.
     u32 box = gadget->item_code != 0 && gadget->tab_index == next_number ? colours->handle_colour
                                                                          : colours->number_back_colour;
-    DrawRectangle(x, y, (i16)(GetStringWidth(text) + TAB_BOX_PADDING),
-                  (i16)(GetActiveFontHeight() + TAB_BOX_PADDING), box);
+    DrawRectangle(x, y, (i16)(GetStringWidth(text) + TAB_BOX_PADDING), (i16)(GetActiveFontHeight() + TAB_BOX_PADDING),
+                  box);
     Print(text);
     if (gadget->item_code == 0)
         return;

@@ -7,8 +7,8 @@
 // The question before a save over a file with lines that the reader passed over: the file's name,
 // how many lines, their first numbers. Its answers are the buttons.
 #define TXT_LINES_TITLE "Hand-written lines"
-#define TXT_LINES_QUESTION                                                                         \
-    "The file %s holds %u hand-written line%s that Quillform does not read (line%s %s). Saving "  \
+#define TXT_LINES_QUESTION                                                                                             \
+    "The file %s holds %u hand-written line%s that Quillform does not read (line%s %s). Saving "                       \
     "over the file drops them; Save as... keeps them in the old file."
 #define TXT_LINES_SAVE "Save"
 #define TXT_LINES_SAVE_AS "Save as..."

@@ -57,8 +57,8 @@ void FillNewGadgetInit(T_GADGETOBJECTINIT *init, i16 x, i16 y, i16 w, i16 h)
 
 void AddCreateGadgetUndo(T_WINEDIT_HANDLER *record, T_GADGETOBJECTINIT *init, u16 tool)
 {
-    T_UNDO_NODE *node = AddUndoNode(&record->undo, RedoCreateGadget, UndoCreateGadget, NULL,
-                                    sizeof(T_CREATE_UNDO), UNDO_LABEL_CREATE);
+    T_UNDO_NODE *node =
+        AddUndoNode(&record->undo, RedoCreateGadget, UndoCreateGadget, NULL, sizeof(T_CREATE_UNDO), UNDO_LABEL_CREATE);
     T_CREATE_UNDO *data = node ? (T_CREATE_UNDO *)node->data : NULL;
     t_Window *window = record->head.window;
     t_gadget *gadget = CreateGadgetByTool(window, (i16)tool, init);

@@ -18,9 +18,9 @@ typedef struct T_CREATE_UNDO {
 
 // Data of a geometry record.
 typedef struct T_GEOMETRY_UNDO {
-    t_gadget *gadget;  // the gadget, when it wasn't made by a record still on the list
-    t_Window *window;  // the page window
-    T_RPOS after, before;  // x, y, base width and base height after and before the change
+    t_gadget *gadget;       // the gadget, when it wasn't made by a record still on the list
+    t_Window *window;       // the page window
+    T_RPOS after, before;   // x, y, base width and base height after and before the change
     T_CREATE_UNDO *origin;  // the "Create gadget" record that made the gadget, or null
 } T_GEOMETRY_UNDO;
 

@@ -43,7 +43,7 @@ typedef t_Window *(*T_OPEN_FN)(T_CREATE_APPLICATION *);
 #define QF_LIB_FROM_BIN "../lib"
 #endif
 
-#define HOST_MAX_FILES 64  // page files named on one command line
+#define HOST_MAX_FILES 64    // page files named on one command line
 #define SCRIPT_TIMEOUT_S 30  // the longest a script's step may take, by default
 
 typedef struct T_HOST_OPTIONS {
@@ -120,7 +120,8 @@ static int ReadOptions(int argc, char **argv, T_HOST_OPTIONS *options)
         } else if (strcmp(arg, "--size") == 0 && value) {
             int w, h;
             if (sscanf(value, "%dx%d", &w, &h) != 2 || w < 320 || h < 200 || w > 8192 || h > 8192) {
-                fprintf(stderr, "quillform: --size wants WIDTHxHEIGHT between 320x200 and 8192x8192, not \"%s\"\n", value);
+                fprintf(stderr, "quillform: --size wants WIDTHxHEIGHT between 320x200 and 8192x8192, not \"%s\"\n",
+                        value);
                 return 2;
             }
             options->width = (i16)w;
@@ -195,11 +196,15 @@ static int OnPath(const char *program)
 static void TellNoDisplay(const char *what)
 {
     if (OnPath("xvfb-run"))
-        fprintf(stderr, "quillform: %s; run it on a desktop, under xvfb-run (xvfb-run quillform), "
-                        "or play a script headless (quillform --script FILE)\n", what);
+        fprintf(stderr,
+                "quillform: %s; run it on a desktop, under xvfb-run (xvfb-run quillform), "
+                "or play a script headless (quillform --script FILE)\n",
+                what);
     else
-        fprintf(stderr, "quillform: %s; run it on a desktop, or play a script headless "
-                        "(quillform --script FILE)\n", what);
+        fprintf(stderr,
+                "quillform: %s; run it on a desktop, or play a script headless "
+                "(quillform --script FILE)\n",
+                what);
 }
 
 // Hands each file to the main window as a file dropped on it: the editor opens it as a page, or

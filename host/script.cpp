@@ -37,25 +37,25 @@ typedef struct T_SCRIPT_WORD {
 } T_SCRIPT_WORD;
 
 // clang-format off
-//  word                 verb                      numbers  follows               action             button
+//   word                verb                     numbers follows          action             button
 static const T_SCRIPT_WORD script_words[] = {
-    {"move",             SCRIPT_MOVE,              2, FOLLOWS_NUMBERS,      USER_MOVE,         LEFT_BUTTON},
-    {"press",            SCRIPT_PRESS,             2, FOLLOWS_NUMBERS,      USER_PRESS,        LEFT_BUTTON},
-    {"release",          SCRIPT_RELEASE,           2, FOLLOWS_NUMBERS,      USER_RELEASE,      LEFT_BUTTON},
-    {"click",            SCRIPT_CLICK,             2, FOLLOWS_NUMBERS,      USER_CLICK,        LEFT_BUTTON},
-    {"dclick",           SCRIPT_DCLICK,            2, FOLLOWS_NUMBERS,      USER_DOUBLE_CLICK, LEFT_BUTTON},
-    {"rclick",           SCRIPT_RCLICK,            2, FOLLOWS_NUMBERS,      USER_CLICK,        RIGHT_BUTTON},
-    {"drag",             SCRIPT_DRAG,              4, FOLLOWS_NUMBERS,      USER_DRAG,         LEFT_BUTTON},
-    {"key",              SCRIPT_KEY,               0, FOLLOWS_TEXT,         USER_KEY,          LEFT_BUTTON},
-    {"type",             SCRIPT_TYPE,              0, FOLLOWS_TEXT,         USER_TYPE,         LEFT_BUTTON},
-    {"turns",            SCRIPT_TURNS,             1, FOLLOWS_NUMBERS,      NO_USER_ACTION,    0},
-    {"screenshot",       SCRIPT_SCREENSHOT,        0, FOLLOWS_TEXT,         NO_USER_ACTION,    0},
-    {"click-gadget",     SCRIPT_CLICK_GADGET,      1, FOLLOWS_NAME_NUMBERS, NO_USER_ACTION,    0},
-    {"click-tool",       SCRIPT_CLICK_TOOL,        1, FOLLOWS_NUMBERS,      NO_USER_ACTION,    0},
-    {"expect-window",    SCRIPT_EXPECT_WINDOW,     0, FOLLOWS_NAME,         NO_USER_ACTION,    0},
-    {"expect-no-window", SCRIPT_EXPECT_NO_WINDOW,  0, FOLLOWS_NAME,         NO_USER_ACTION,    0},
-    {"expect-window-at", SCRIPT_EXPECT_WINDOW_AT,  2, FOLLOWS_NAME_NUMBERS, NO_USER_ACTION,    0},
-    {"expect-file-has",  SCRIPT_EXPECT_FILE_HAS,   0, FOLLOWS_NAME_TEXT,    NO_USER_ACTION,    0},
+    {"move",             SCRIPT_MOVE,             2, FOLLOWS_NUMBERS,      USER_MOVE,         LEFT_BUTTON},
+    {"press",            SCRIPT_PRESS,            2, FOLLOWS_NUMBERS,      USER_PRESS,        LEFT_BUTTON},
+    {"release",          SCRIPT_RELEASE,          2, FOLLOWS_NUMBERS,      USER_RELEASE,      LEFT_BUTTON},
+    {"click",            SCRIPT_CLICK,            2, FOLLOWS_NUMBERS,      USER_CLICK,        LEFT_BUTTON},
+    {"dclick",           SCRIPT_DCLICK,           2, FOLLOWS_NUMBERS,      USER_DOUBLE_CLICK, LEFT_BUTTON},
+    {"rclick",           SCRIPT_RCLICK,           2, FOLLOWS_NUMBERS,      USER_CLICK,        RIGHT_BUTTON},
+    {"drag",             SCRIPT_DRAG,             4, FOLLOWS_NUMBERS,      USER_DRAG,         LEFT_BUTTON},
+    {"key",              SCRIPT_KEY,              0, FOLLOWS_TEXT,         USER_KEY,          LEFT_BUTTON},
+    {"type",             SCRIPT_TYPE,             0, FOLLOWS_TEXT,         USER_TYPE,         LEFT_BUTTON},
+    {"turns",            SCRIPT_TURNS,            1, FOLLOWS_NUMBERS,      NO_USER_ACTION,    0},
+    {"screenshot",       SCRIPT_SCREENSHOT,       0, FOLLOWS_TEXT,         NO_USER_ACTION,    0},
+    {"click-gadget",     SCRIPT_CLICK_GADGET,     1, FOLLOWS_NAME_NUMBERS, NO_USER_ACTION,    0},
+    {"click-tool",       SCRIPT_CLICK_TOOL,       1, FOLLOWS_NUMBERS,      NO_USER_ACTION,    0},
+    {"expect-window",    SCRIPT_EXPECT_WINDOW,    0, FOLLOWS_NAME,         NO_USER_ACTION,    0},
+    {"expect-no-window", SCRIPT_EXPECT_NO_WINDOW, 0, FOLLOWS_NAME,         NO_USER_ACTION,    0},
+    {"expect-window-at", SCRIPT_EXPECT_WINDOW_AT, 2, FOLLOWS_NAME_NUMBERS, NO_USER_ACTION,    0},
+    {"expect-file-has",  SCRIPT_EXPECT_FILE_HAS,  0, FOLLOWS_NAME_TEXT,    NO_USER_ACTION,    0},
 };
 // clang-format on
 
@@ -206,7 +206,8 @@ int ParseScript(T_SCRIPT *script, const char *name, const char *text)
         memset(step, 0, sizeof(*step));
         step->line = line_number;
         if (!ParseLine(step, start)) {
-            snprintf(script->error, sizeof(script->error), "%.200s:%u: cannot read \"%.300s\"", name, line_number, start);
+            snprintf(script->error, sizeof(script->error), "%.200s:%u: cannot read \"%.300s\"", name, line_number,
+                     start);
             return DropSteps(script, capacity);
         }
         script->count++;
@@ -300,7 +301,7 @@ typedef struct T_PLAYER {
     int find_gadget;            // click-gadget: the combo has scrolled; the click comes now
     int state;
     int feeding;
-    u32 timeout_s;              // a step that takes longer fails the script; 0: no limit
+    u32 timeout_s;  // a step that takes longer fails the script; 0: no limit
 } T_PLAYER;
 
 static T_PLAYER player;
@@ -348,8 +349,7 @@ static void FindGadget(T_PLAYER *p)
         return;
     }
     p->find_gadget = 0;
-    ClickAt(p, (i16)(gadget->screen_x + gadget->base_width / 2),
-            (i16)(gadget->screen_y + gadget->base_height / 2));
+    ClickAt(p, (i16)(gadget->screen_x + gadget->base_width / 2), (i16)(gadget->screen_y + gadget->base_height / 2));
 }
 
 // Starts the next step: one that acts queues its batches; one that checks or writes a file is done
@@ -367,8 +367,8 @@ static int StartStep(T_PLAYER *p)
     }
     if (p->timeout_s) {
         snprintf(timeout_text, sizeof(timeout_text),
-                 "quillform: %.200s:%u: the step took longer than %u s (--script-timeout)\n", p->name,
-                 step->line, p->timeout_s);
+                 "quillform: %.200s:%u: the step took longer than %u s (--script-timeout)\n", p->name, step->line,
+                 p->timeout_s);
         alarm(p->timeout_s);
     }
     p->batches.count = 0;

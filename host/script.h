@@ -27,7 +27,7 @@ typedef struct T_SCRIPT_STEP {
     u32 line;
     i32 numbers[4];
     u16 key, qualifiers;
-    char text[512];  // typed text, a file name, or a window's name
+    char text[512];    // typed text, a file name, or a window's name
     char detail[512];  // what follows a quoted file name: the text it must hold
 } T_SCRIPT_STEP;
 

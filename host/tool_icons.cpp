@@ -43,10 +43,9 @@ static const char *const LETTER_K[] = {"#   #", "#  # ", "# #  ", "##   ", "# # 
 static const char *const ARROW_LEFT[] = {"  #", " ##", "###", " ##", "  #", NULL};
 static const char *const ARROW_RIGHT[] = {"#  ", "## ", "###", "## ", "#  ", NULL};
 static const char *const ARROW_DOWN[] = {"#####", " ### ", "  #  ", NULL};
-static const char *const POINTER[] = {
-    "#",         "##",          "#o#",         "#oo#",        "#ooo#",      "#oooo#",
-    "#ooooo#",   "#oooooo#",    "#ooooooo#",   "#oooooooo#",  "#ooooo#####", "#oo#oo#",
-    "#o# #oo#",  "##  #oo#",    "#    #oo#",   "     #oo#",   "      ##",   NULL};
+static const char *const POINTER[] = {"#",        "##",       "#o#",       "#oo#",       "#ooo#",       "#oooo#",
+                                      "#ooooo#",  "#oooooo#", "#ooooooo#", "#oooooooo#", "#ooooo#####", "#oo#oo#",
+                                      "#o# #oo#", "##  #oo#", "#    #oo#", "     #oo#",  "      ##",    NULL};
 
 static void DrawCheckBox(T_ICON_CANVAS *c)
 {
@@ -113,7 +112,7 @@ static void DrawStringEntry(T_ICON_CANVAS *c)
     IconPattern(c, 4, 8, LETTER_a, 1, INK, INK);
     IconPattern(c, 10, 8, LETTER_b, 1, INK, INK);
     IconLine(c, 17, 8, 17, 15, ACCENT);  // the text cursor
-    for (i32 y = 8; y <= 15; y += 7)  // its ends
+    for (i32 y = 8; y <= 15; y += 7)     // its ends
         IconLine(c, 16, y, 18, y, ACCENT);
 }
 
@@ -201,8 +200,8 @@ static const T_ICON_DRAWING tool_icons[] = {
 
 T_TEXTURE_BANK *MakeToolIconBank(void)
 {
-    T_TEXTURE_BANK *bank = DrawIconBank("tools", TOOL_ICON_COUNT, TOOL_ICON_SIZE, tool_icons,
-                                        sizeof tool_icons / sizeof *tool_icons);
+    T_TEXTURE_BANK *bank =
+        DrawIconBank("tools", TOOL_ICON_COUNT, TOOL_ICON_SIZE, tool_icons, sizeof tool_icons / sizeof *tool_icons);
     if (!bank)
         myprintf(0, "The toolbar's icons could not be made\n");
     return bank;

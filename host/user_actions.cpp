@@ -3,8 +3,8 @@
 
 #include <ctype.h>
 #include <stdio.h>
-#include <string.h>
 #include <stdlib.h>
+#include <string.h>
 #include <strings.h>
 
 #include "display/display.h"
@@ -24,8 +24,7 @@ static T_INPUT_EVENT Event(u16 kind, i16 x, i16 y, u16 button, u16 key, u16 qual
 }
 
 // Adds a batch of one or two events; the time goes on by `advance_ms` once it has been taken.
-static void AddBatch(T_USER_BATCHES *out, const T_INPUT_EVENT &first, const T_INPUT_EVENT *second,
-                     u32 advance_ms)
+static void AddBatch(T_USER_BATCHES *out, const T_INPUT_EVENT &first, const T_INPUT_EVENT *second, u32 advance_ms)
 {
     const u32 capacity = sizeof(out->batches) / sizeof(out->batches[0]);
     if (!QF_EXPECT(out->count < capacity))  // an action makes no more batches than a drag
@@ -99,15 +98,8 @@ void UserActionBatches(const T_USER_ACTION *action, T_USER_BATCHES *out)
 
 T_USER_ACTION UserAction(u16 kind, i16 x, i16 y)
 {
-    return T_USER_ACTION{.kind = kind,
-                         .x1 = x,
-                         .y1 = y,
-                         .x2 = 0,
-                         .y2 = 0,
-                         .button = 1,
-                         .key = 0,
-                         .qualifiers = 0,
-                         .text = NULL};
+    return T_USER_ACTION{
+        .kind = kind, .x1 = x, .y1 = y, .x2 = 0, .y2 = 0, .button = 1, .key = 0, .qualifiers = 0, .text = NULL};
 }
 
 // Plays an action here and now: each batch queued, the loop turned until it is taken.

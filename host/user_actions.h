@@ -5,7 +5,7 @@
 #include "toolkit.h"
 
 #define USER_CLICK_GAP_MS 500  // after a click: the next press is no second click
-#define DRAG_STEPS 8              // the moves of a drag between its press and its release
+#define DRAG_STEPS 8           // the moves of a drag between its press and its release
 
 // What a person does, as one record: the script player and the calls below share its shapes.
 typedef enum {
@@ -24,7 +24,7 @@ typedef struct T_USER_ACTION {
     i16 x1, y1, x2, y2;  // the point; a drag's start and end
     u16 button;          // 1 left, 3 right
     u16 key, qualifiers;
-    const char *text;    // typed
+    const char *text;  // typed
 } T_USER_ACTION;
 
 // The input of an action in batches: the events of a batch are queued together, and the loop
@@ -48,7 +48,7 @@ void UserActionBatches(const T_USER_ACTION *action, T_USER_BATCHES *out);
 // Each action queues its input and turns the loop until the input has been taken, plus one turn
 // so that what it caused has been painted.
 void UserMove(i16 x, i16 y);
-void UserPress(i16 x, i16 y, u16 button);    // button 1 left, 3 right
+void UserPress(i16 x, i16 y, u16 button);  // button 1 left, 3 right
 void UserRelease(i16 x, i16 y, u16 button);
 void UserClick(i16 x, i16 y, u16 button);
 void UserDoubleClick(i16 x, i16 y);

@@ -5,7 +5,6 @@
 #include <stdio.h>
 #include <string.h>
 
-
 #define TEXT_BUFFER_SIZE 256
 #define CREATED_MARK GADGET_MARK_CREATED
 #define EDIT_ACTION_MASK (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_LMOUSE_DBL | ACT_RMOUSE_UP | ACT_RMOUSE_DOWN)
@@ -78,7 +77,7 @@ static T_HSIA flat_hsia;
 
 static T_COLOUR_DATA flat_colour = {&flat_rgba, &flat_hsia, 5};
 
-#define SAMPLE_TEXT_SIZE 64                  // a sample entry's text
+#define SAMPLE_TEXT_SIZE 64                    // a sample entry's text
 #define SAMPLE_LEAF_FORMAT "Leaf %d Entry %d"  // the tree's leaves under each branch
 
 // The texture and scene records: zeroed blocks; the texture's sixth 32-bit word is 16.
@@ -233,8 +232,7 @@ static void *KindData(const T_CATALOGUE_ROW *row)
 }
 
 // The creation record of the kind, from the caller's arguments and the row.
-static void FillCreationRecord(T_GADGETOBJECTINIT *init, const T_GADGET_TOOL_ARGS *args,
-                               const T_CATALOGUE_ROW *row)
+static void FillCreationRecord(T_GADGETOBJECTINIT *init, const T_GADGET_TOOL_ARGS *args, const T_CATALOGUE_ROW *row)
 {
     memset(init, 0, sizeof(*init));
     init->x = args->x;

@@ -58,8 +58,8 @@ enum {
     KIND_FLAGS_AS_GIVEN = 0x020,     // its design flags are the caller's with the orientation
     KIND_RANGE = 0x040,              // min, max, step from the caller; starts halfway; marks across
     KIND_NO_ICON_BANK = 0x080,
-    KIND_NO_FONT = 0x100,            // neither font nor cursor goes in
-    KIND_BRANCHES = 0x200,           // its sample entries are three levels of branches
+    KIND_NO_FONT = 0x100,   // neither font nor cursor goes in
+    KIND_BRANCHES = 0x200,  // its sample entries are three levels of branches
 };
 
 // What a kind's creation record takes as its data.
@@ -74,22 +74,22 @@ enum {
 // One gadget kind: a tool index is the place of its row. A row names only the fields it sets; the
 // others are 0.
 typedef struct T_CATALOGUE_ROW {
-    u16 type = 0;                        // 0 for the selector
-    u32 orientation = 0;                 // added to the caller's flags
-    const char *label = NULL;            // the toolbar entry's; null for a kind only a file makes
-    u16 icon = 0;                        // the toolbar entry's picture, a TOOL_ICON_ place
-    u32 item_code = 0;                   // the toolbar entry's, which nothing reads
-    const char *object_text = NULL;      // the text given to CreateObject
-    const char *default_text = NULL;     // what the name buffer, or the string's buffer, starts with
-    u32 extra_flags = 0;                 // added to the caller's flags at creation
-    u16 traits = 0;                      // KIND_ bits
-    u8 data = KIND_DATA_NONE;            // KIND_DATA_
-    u16 gadget_icon = 0;                 // the creation record's icon
-    i32 init_val = 0, max = 0;           // the creation record's, where not from the caller
+    u16 type = 0;                     // 0 for the selector
+    u32 orientation = 0;              // added to the caller's flags
+    const char *label = NULL;         // the toolbar entry's; null for a kind only a file makes
+    u16 icon = 0;                     // the toolbar entry's picture, a TOOL_ICON_ place
+    u32 item_code = 0;                // the toolbar entry's, which nothing reads
+    const char *object_text = NULL;   // the text given to CreateObject
+    const char *default_text = NULL;  // what the name buffer, or the string's buffer, starts with
+    u32 extra_flags = 0;              // added to the caller's flags at creation
+    u16 traits = 0;                   // KIND_ bits
+    u8 data = KIND_DATA_NONE;         // KIND_DATA_
+    u16 gadget_icon = 0;              // the creation record's icon
+    i32 init_val = 0, max = 0;        // the creation record's, where not from the caller
     i16 mark_width = 0;
-    u8 entry_count = 0;                  // sample entries: of the list, or of each level of branches
-    const char *entry_format = NULL;     // the text of a sample entry, with its number from 0
-    u32 row_mask = 0;                    // the flag rows that the properties dialog shows
+    u8 entry_count = 0;               // sample entries: of the list, or of each level of branches
+    const char *entry_format = NULL;  // the text of a sample entry, with its number from 0
+    u32 row_mask = 0;                 // the flag rows that the properties dialog shows
 } T_CATALOGUE_ROW;
 
 extern const T_CATALOGUE_ROW catalogue_rows[TOOL_COUNT];

@@ -5,8 +5,8 @@
 
 typedef struct T_CODE_SLOT {
     u32 code;
-    u32 count;     // 0: an empty slot
-    void *first;   // what the first AddItemCodeOf of the code gave (its first holder), else null
+    u32 count;    // 0: an empty slot
+    void *first;  // what the first AddItemCodeOf of the code gave (its first holder), else null
 } T_CODE_SLOT;
 
 typedef struct T_ITEM_CODES {

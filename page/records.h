@@ -62,7 +62,7 @@ typedef struct T_EDITOR_CONFIG {
     u32 reserved;
     char last_path[256];
     char backup_path[256];
-    u32 size;  // the whole block, tail included
+    u32 size;   // the whole block, tail included
     u32 flags;  // CONFIG_ bits
     u32 resource;
     u32 open_count;

@@ -9,19 +9,19 @@
 #include "properties/texts.h"
 
 // It opens narrow and is fitted to its contents.
+#define ACTION_FRAME_FLAGS (WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE)  // 0x274
+#define ACTION_FRAME_IDCMP                                                                                             \
+    (IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_MENU_OPEN | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK |               \
+     IDCMP_REQUESTER_ABORT)  // 0x24486
 static const T_DIALOG_FRAME action_frame = {
-    TXT_ACTION_EDITOR, 187, 173, 4, 179, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
-    IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_MENU_OPEN | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK |
-        IDCMP_REQUESTER_ABORT,  // 0x24486
-    5, ActionEditorMsg};
+    TXT_ACTION_EDITOR, 187, 173, 4, 179, ACTION_FRAME_FLAGS, ACTION_FRAME_IDCMP, 5, ActionEditorMsg};
 #define COMBO_FLAGS (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_REPORT_DRAG)  // 0xC08
 #define COMBO_WIDTH 140
 #define COMBO_HEIGHT 96
-#define BOX_FIRST_ACTION \
-    (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_LMOUSE_DBL | ACT_RMOUSE_UP | ACT_RMOUSE_DOWN)  // 0x73
-#define TITLE_FLAGS (GADGET_FLAGS_AUTOSIZE | GADGET_FLAGS_BOLD)  // 0x4200
+#define BOX_FIRST_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_LMOUSE_DBL | ACT_RMOUSE_UP | ACT_RMOUSE_DOWN)  // 0x73
+#define TITLE_FLAGS (GADGET_FLAGS_AUTOSIZE | GADGET_FLAGS_BOLD)                                                // 0x4200
 #define CORNER_FLAGS (GADGET_FLAGS_AUTOSIZE | GADGET_FLAGS_PUSH | GADGET_FLAGS_FROM_BOTTOM)  // 0x2010200
-#define CORNER_RIGHT_FLAGS (CORNER_FLAGS | GADGET_FLAGS_FROM_RIGHT)  // 0x3010200
+#define CORNER_RIGHT_FLAGS (CORNER_FLAGS | GADGET_FLAGS_FROM_RIGHT)                          // 0x3010200
 #define BUTTON_GAP 12  // between "Ok" and "Cancel"
 
 typedef struct T_ACTION_BOX {
@@ -104,8 +104,8 @@ t_Window *OpenActionEditor(t_Window *page)
     AddDialogGadget(handler, TXT_RIGHT_BUTTON, GADGET_TYPE_TEXT, 0, 156, 4, 0, 0, TITLE_FLAGS, 0);
     AddDialogGadget(handler, TXT_DEFAULTS, GADGET_TYPE_BUTTON, ACTION_ITEM_DEFAULTS, 4, 4, 8, 0, CORNER_FLAGS,
                     ACT_LMOUSE_UP);
-    t_gadget *ok = AddDialogGadget(handler, TXT_OK, GADGET_TYPE_BUTTON, ACTION_ITEM_OK, 4, 4, 8, 0,
-                                   CORNER_RIGHT_FLAGS, ACT_LMOUSE_UP);
+    t_gadget *ok = AddDialogGadget(handler, TXT_OK, GADGET_TYPE_BUTTON, ACTION_ITEM_OK, 4, 4, 8, 0, CORNER_RIGHT_FLAGS,
+                                   ACT_LMOUSE_UP);
     AddDialogGadget(handler, TXT_CANCEL, GADGET_TYPE_BUTTON, ACTION_ITEM_CANCEL,
                     (i16)((ok ? ok->base_width : 0) + BUTTON_GAP), 4, 8, 0, CORNER_RIGHT_FLAGS, ACT_LMOUSE_UP);
     handler->current_gadget = NULL;

@@ -46,8 +46,8 @@ T_GADGETOBJECTINIT DialogGadgetInit(u16 type, u32 item_code, T_RPOS rect, u32 fl
     return init;
 }
 
-t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
-                          i16 width, i16 height, u32 flags, u32 action)
+t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y, i16 width,
+                          i16 height, u32 flags, u32 action)
 {
     T_GADGETOBJECTINIT init = DialogGadgetInit(type, item_code, T_RPOS{x, y, width, height}, flags, action);
     return (t_gadget *)CreateObject(&handler->head, text, &init);
@@ -88,10 +88,10 @@ static T_RECORD_KEEPER *FindKeeper(t_Window *window)
 void *NewDialogRecord(t_Window *window, u32 size)
 {
     void *record = AllocMemC(size);
-    T_RECORD_KEEPER *keeper = record ? (T_RECORD_KEEPER *)NewHandler(&window->handlers, RecordKeeperInput, NULL,
-                                                                     RECORD_KEEPER_NAME, -100,
-                                                                     sizeof(T_RECORD_KEEPER), window)
-                                     : NULL;
+    T_RECORD_KEEPER *keeper =
+        record ? (T_RECORD_KEEPER *)NewHandler(&window->handlers, RecordKeeperInput, NULL, RECORD_KEEPER_NAME, -100,
+                                               sizeof(T_RECORD_KEEPER), window)
+               : NULL;
     if (!keeper) {
         FreeMem(record, size);
         myprintf(0, "No memory for the record of the dialog %s\n", window->name);

@@ -20,8 +20,8 @@ t_Window *OpenDialogWindow(t_Window *page, const T_DIALOG_FRAME *frame, struct T
 // A zeroed creation record of a dialog's gadget with the values that differ between its gadgets.
 T_GADGETOBJECTINIT DialogGadgetInit(u16 type, u32 item_code, T_RPOS rect, u32 flags, u32 action);
 // A gadget of a dialog from the values that differ between its gadgets; the gadget, or null.
-t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y,
-                          i16 width, i16 height, u32 flags, u32 action);
+t_gadget *AddDialogGadget(t_Gaget_Handler *handler, const char *text, u16 type, u32 item_code, i16 x, i16 y, i16 width,
+                          i16 height, u32 flags, u32 action);
 // A combo "Combo" of the dialog at `rect` that reports ACT_LMOUSE_UP, with what CreateObject gave
 // for it and its gadget; when both were made, the gadgets made next go into it (until
 // RestoreGadgetList) and the result is true.

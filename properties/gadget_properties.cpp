@@ -16,29 +16,37 @@
 #include "source/name_tables.h"
 
 #define PROP_OFFSET 64  // the dialog opens this far up and left of the pointer
-#define PROP_COMBO_FLAGS (GADGET_FLAGS_NO_BORDER | GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | \
-                          GADGET_FLAGS_REPORT_DRAG)  // 0x20C08
+#define PROP_COMBO_FLAGS                                                                                               \
+    (GADGET_FLAGS_NO_BORDER | GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_REPORT_DRAG)  // 0x20C08
 #define PROP_MARGIN 8
-#define FLAG_ROW_WIDTH 32     // the narrowest a flag row's box is
+#define FLAG_ROW_WIDTH 32      // the narrowest a flag row's box is
 #define SECOND_CONTROL_GAP 32  // from a flag row's box to the control in the same row
 #define ICON_SCROLL_GAP 4
 #define ICON_SCROLL_WIDTH 80
 #define FLAG_ROW_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DBL)
 #define ICON_ROW_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_RMOUSE_UP | ACT_RMOUSE_DOWN)  // 0x33
-#define SLIDER_ROW_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_LMOUSE_DBL)  // 112
+#define SLIDER_ROW_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_LMOUSE_DBL)                 // 112
 #define COLOUR_DATA_MODE 5
 #define COLOUR_SELECTOR_MODE 3
 #define FLAG_BIT_CURSOR GADGET_FLAGS_CURSOR
 #define FLAG_BIT_ICON GADGET_FLAGS_ICON
 #define ITEM_OF_BIT(index) ((index) + 1)
-#define FLAG_BITS 32            // the bits of a gadget's flags word that may have a row
-#define LAST_FLAG_ROW_BIT 25    // GADGET_FLAGS_FROM_BOTTOM, the highest bit with a row
-#define CURSOR_FIELD_MAX 30     // characters of the cursor's number field
+#define FLAG_BITS 32          // the bits of a gadget's flags word that may have a row
+#define LAST_FLAG_ROW_BIT 25  // GADGET_FLAGS_FROM_BOTTOM, the highest bit with a row
+#define CURSOR_FIELD_MAX 30   // characters of the cursor's number field
 #define TYPE_BIT(type) (1u << (type))
 
 // The rows above the flag rows. Which text a control edits:
-enum { FIELD_NAME, FIELD_SLIDER_MIN, FIELD_SLIDER_MAX, FIELD_SLIDER_STEP, FIELD_ITEM_CODE, FIELD_HOVER,
-       FIELD_TEXT_COLOUR, FIELD_BACK_COLOUR };
+enum {
+    FIELD_NAME,
+    FIELD_SLIDER_MIN,
+    FIELD_SLIDER_MAX,
+    FIELD_SLIDER_STEP,
+    FIELD_ITEM_CODE,
+    FIELD_HOVER,
+    FIELD_TEXT_COLOUR,
+    FIELD_BACK_COLOUR
+};
 
 typedef struct T_PROPERTY_ROW {
     u32 types;  // TYPE_BIT of each type that shows the row; 0 for all
@@ -51,27 +59,31 @@ typedef struct T_PROPERTY_ROW {
     u32 flags;  // the control's own
 } T_PROPERTY_ROW;
 
-#define NAMED_TYPES (TYPE_BIT(GADGET_TYPE_BUTTON) | TYPE_BIT(GADGET_TYPE_CHECK_BOX) | TYPE_BIT(GADGET_TYPE_TEXT) | \
-                     TYPE_BIT(GADGET_TYPE_GROUP) | TYPE_BIT(GADGET_TYPE_RADIOBUTTON))
+#define NAMED_TYPES                                                                                                    \
+    (TYPE_BIT(GADGET_TYPE_BUTTON) | TYPE_BIT(GADGET_TYPE_CHECK_BOX) | TYPE_BIT(GADGET_TYPE_TEXT) |                     \
+     TYPE_BIT(GADGET_TYPE_GROUP) | TYPE_BIT(GADGET_TYPE_RADIOBUTTON))
 #define SLIDER_TYPE TYPE_BIT(GADGET_TYPE_SLIDER)
 
+// clang-format off
 //  types        label             control                   name                    item code              gap width max  field              flags
 static const T_PROPERTY_ROW property_rows[] = {
-    {NAMED_TYPES, TXT_GADGET_NAME, GADGET_TYPE_STRING, "Gadget Name string", PROP_ITEM_TEXT, 4, 120, 120, FIELD_NAME, 0},
-    {SLIDER_TYPE, TXT_SLIDER_MIN, GADGET_TYPE_STRING, "Slider min", PROP_ITEM_SLIDER_MIN, 4, 48, 16, FIELD_SLIDER_MIN, GADGET_FLAGS_REPORT_DRAG},
-    {SLIDER_TYPE, TXT_SLIDER_MAX, GADGET_TYPE_STRING, "Slider max", PROP_ITEM_SLIDER_MAX, 4, 48, 16, FIELD_SLIDER_MAX, GADGET_FLAGS_REPORT_DRAG},
-    {SLIDER_TYPE, TXT_SLIDER_STEP, GADGET_TYPE_STRING, "Slider step", PROP_ITEM_SLIDER_STEP, 4, 48, 16, FIELD_SLIDER_STEP, 0},
-    {0, TXT_ITEM_CODE, GADGET_TYPE_STRING, "Gadget ItemCode", PROP_ITEM_ITEM_CODE, 8, 48, 16, FIELD_ITEM_CODE, 0},
-    {0, TXT_HOVER, GADGET_TYPE_STRING, "Gadget hover string", PROP_ITEM_TEXT, 4, 120, 120, FIELD_HOVER, 0},
-    {0, TXT_TEXT_COLOUR, GADGET_TYPE_COLOUR_FLAT, "Colour", PROP_ITEM_TEXT_COLOUR, 8, 32, 0, FIELD_TEXT_COLOUR, GADGET_FLAGS_BOLD},
-    {0, TXT_BACK_COLOUR, GADGET_TYPE_COLOUR_FLAT, "Colour", PROP_ITEM_BACK_COLOUR, 8, 32, 0, FIELD_BACK_COLOUR, GADGET_FLAGS_BOLD},
+    {NAMED_TYPES, TXT_GADGET_NAME, GADGET_TYPE_STRING,      "Gadget Name string",  PROP_ITEM_TEXT,        4, 120, 120, FIELD_NAME,        0},
+    {SLIDER_TYPE, TXT_SLIDER_MIN,  GADGET_TYPE_STRING,      "Slider min",          PROP_ITEM_SLIDER_MIN,  4, 48,  16,  FIELD_SLIDER_MIN,  GADGET_FLAGS_REPORT_DRAG},
+    {SLIDER_TYPE, TXT_SLIDER_MAX,  GADGET_TYPE_STRING,      "Slider max",          PROP_ITEM_SLIDER_MAX,  4, 48,  16,  FIELD_SLIDER_MAX,  GADGET_FLAGS_REPORT_DRAG},
+    {SLIDER_TYPE, TXT_SLIDER_STEP, GADGET_TYPE_STRING,      "Slider step",         PROP_ITEM_SLIDER_STEP, 4, 48,  16,  FIELD_SLIDER_STEP, 0},
+    {0,           TXT_ITEM_CODE,   GADGET_TYPE_STRING,      "Gadget ItemCode",     PROP_ITEM_ITEM_CODE,   8, 48,  16,  FIELD_ITEM_CODE,   0},
+    {0,           TXT_HOVER,       GADGET_TYPE_STRING,      "Gadget hover string", PROP_ITEM_TEXT,        4, 120, 120, FIELD_HOVER,       0},
+    {0,           TXT_TEXT_COLOUR, GADGET_TYPE_COLOUR_FLAT, "Colour",              PROP_ITEM_TEXT_COLOUR, 8, 32,  0,   FIELD_TEXT_COLOUR, GADGET_FLAGS_BOLD},
+    {0,           TXT_BACK_COLOUR, GADGET_TYPE_COLOUR_FLAT, "Colour",              PROP_ITEM_BACK_COLOUR, 8, 32,  0,   FIELD_BACK_COLOUR, GADGET_FLAGS_BOLD},
 };
+// clang-format on
 
+#define PROPERTIES_FRAME_FLAGS (WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE)  // 0x274
+#define PROPERTIES_FRAME_IDCMP                                                                                         \
+    (IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL |                 \
+     IDCMP_REQUESTER_PREVIEW)  // 0x4C414
 static const T_DIALOG_FRAME properties_frame = {
-    TXT_GADGET_PROPERTIES, 0, 0, 240, 240, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
-    IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL |
-        IDCMP_REQUESTER_PREVIEW,  // 0x4C414
-    0, GadgetPropertiesMsg};
+    TXT_GADGET_PROPERTIES, 0, 0, 240, 240, PROPERTIES_FRAME_FLAGS, PROPERTIES_FRAME_IDCMP, 0, GadgetPropertiesMsg};
 
 u32 GadgetRowMask(u16 type)
 {

@@ -18,7 +18,7 @@ typedef struct T_GADGET_PROPERTIES {
     // The dialog's own:
     char hover_opening[256];  // what the hover field began with: an untouched field changes nothing
     T_COLOUR_DATA text_colour_data, back_colour_data;  // the swatches' data
-    t_Window *colour_selector[2];  // the open selector of each colour, or null
+    t_Window *colour_selector[2];                      // the open selector of each colour, or null
 } T_GADGET_PROPERTIES;
 
 // Item codes of the dialog's controls (the flag rows are the bit's index plus 1).

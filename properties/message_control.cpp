@@ -10,10 +10,10 @@
 #include "properties/texts.h"
 #include "source/name_tables.h"
 
+#define MESSAGE_FRAME_FLAGS (WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_RESIZE | WF_CLOSE)         // 0x27C
+#define MESSAGE_FRAME_IDCMP (IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE | IDCMP_FIRSTTIME_RUN)  // 0x454
 static const T_DIALOG_FRAME message_frame = {
-    TXT_MESSAGE_CONTROL, 32, 32, 340, 200, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_RESIZE | WF_CLOSE,  // 0x27C
-    IDCMP_TERMINATE | IDCMP_KEY | IDCMP_WINDOW_RESIZE | IDCMP_FIRSTTIME_RUN,  // 0x454
-    5, MessageControlMsg};
+    TXT_MESSAGE_CONTROL, 32, 32, 340, 200, MESSAGE_FRAME_FLAGS, MESSAGE_FRAME_IDCMP, 5, MessageControlMsg};
 #define COMBO_FLAGS (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_REPORT_DRAG)  // 0xC08
 #define ROW_X 8
 #define ROW_WIDTH 32
@@ -44,9 +44,9 @@ t_Window *OpenMessageControl(t_Window *page)
         for (u32 row = 0; idcmp_names[row].text[0]; row++) {
             char label[64];  // the table's own text never changes: the label is made in a copy
             snprintf(label, sizeof(label), "%s", idcmp_names[row].text);
-            T_GADGETOBJECTINIT init = DialogGadgetInit(GADGET_TYPE_CHECK_BOX, row + MSG_ITEM_FIRST_ROW,
-                                                       T_RPOS{ROW_X, y, ROW_WIDTH, font_h}, GADGET_FLAGS_AUTOSIZE,
-                                                       ACT_LMOUSE_UP);
+            T_GADGETOBJECTINIT init =
+                DialogGadgetInit(GADGET_TYPE_CHECK_BOX, row + MSG_ITEM_FIRST_ROW, T_RPOS{ROW_X, y, ROW_WIDTH, font_h},
+                                 GADGET_FLAGS_AUTOSIZE, ACT_LMOUSE_UP);
             init.init_val = (page->idcmp & idcmp_names[row].value) != 0;
             CreateObject(&handler->head, MakeReadable(label), &init);
             y = (i16)(y + font_h + ROW_GAP);

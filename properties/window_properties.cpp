@@ -10,12 +10,12 @@
 #include "properties/texts.h"
 
 // The first place and size, before it is fitted to its contents.
+#define WINDOW_FRAME_FLAGS (WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE)  // 0x274
+#define WINDOW_FRAME_IDCMP (IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN)     // 0x414
 static const T_DIALOG_FRAME window_frame = {
-    TXT_WINDOW_PROPERTIES, 32, 32, 32, 32, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
-    IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN,  // 0x414
-    0, WindowPropertiesMsg};
-#define COMBO_FLAGS (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_SOLID | \
-                     GADGET_FLAGS_REPORT_DRAG)  // 0xC28
+    TXT_WINDOW_PROPERTIES, 32, 32, 32, 32, WINDOW_FRAME_FLAGS, WINDOW_FRAME_IDCMP, 0, WindowPropertiesMsg};
+#define COMBO_FLAGS                                                                                                    \
+    (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_SOLID | GADGET_FLAGS_REPORT_DRAG)  // 0xC28
 #define COMBO_WIDTH 170
 #define COMBO_HEIGHT 96
 #define BOX_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DBL)
@@ -42,23 +42,23 @@ typedef struct T_WINDOW_BOX {
 
 // In list order: the enable rule counts the boxes after "Border" and "Title Bar".
 // clang-format off
-//  item code                text                   x                  bit                 after the change  flags
+//   item code                text                   x                  bit                 after the change flags
 static const T_WINDOW_BOX window_boxes[] = {
-    {WINPROP_ITEM_BACKDROP,   "Window as Backdrop",  BOX_X,             WF_BACKDROP,        AFTER_BACKDROP,   GADGET_FLAGS_AUTOSIZE},
-    {WINPROP_ITEM_FULLSCREEN, "Open FullScreen",     BOX_X,             WF_OPEN_FULLSCREEN, AFTER_NOTHING,    GADGET_FLAGS_AUTOSIZE},  // the saved source carries it
-    {WINPROP_ITEM_TITLE_BAR,  "Title Bar",           BOX_X,             WF_TITLE,           AFTER_TITLE_BAR,  0},
-    {6,                       "Minimise Gadget",     BOX_X_UNDER,       WF_MINIMISE,        AFTER_RECALC,     0},
-    {7,                       "Maximise Gadget",     BOX_X_UNDER,       WF_MAXIMISE,        AFTER_RECALC,     0},
-    {8,                       "Close Gadget",        BOX_X_UNDER,       WF_CLOSE,           AFTER_RECALC,     0},
-    {13,                      "Move Allowed",        BOX_X_UNDER,       WF_MOVE,            AFTER_NOTHING,    0},
-    {14,                      "Always in front",     BOX_X_UNDER,       WF_IN_FRONT,        AFTER_NOTHING,    0},
-    {15,                      "Let user modify",     BOX_X_UNDER_TWICE, WF_IN_FRONT_MODIFY, AFTER_RECALC,     0},
-    {WINPROP_ITEM_BORDER,     "Border",              BOX_X,             WF_BORDER,          AFTER_BORDER,     0},
-    {11,                      "Resize allowed",      BOX_X_UNDER,       WF_RESIZE,          AFTER_NOTHING,    0},
-    {16,                      "AltF4 Closes window", BOX_X,             WF_ALTF4,           AFTER_NOTHING,    0},
-    {17,                      "Clear ZBuffer",       BOX_X,             WF_CLEAR_ZBUFFER,   AFTER_NOTHING,    0},
-    {18,                      "See through",         BOX_X,             WF_SEETHROUGH,      AFTER_RECALC,     0},
-    {19,                      "No background",       BOX_X,             WF_NO_BACK,         AFTER_RECALC,     0},
+    {WINPROP_ITEM_BACKDROP,   "Window as Backdrop",  BOX_X,             WF_BACKDROP,        AFTER_BACKDROP,  GADGET_FLAGS_AUTOSIZE},
+    {WINPROP_ITEM_FULLSCREEN, "Open FullScreen",     BOX_X,             WF_OPEN_FULLSCREEN, AFTER_NOTHING,   GADGET_FLAGS_AUTOSIZE},  // the saved source carries it
+    {WINPROP_ITEM_TITLE_BAR,  "Title Bar",           BOX_X,             WF_TITLE,           AFTER_TITLE_BAR, 0},
+    {6,                       "Minimise Gadget",     BOX_X_UNDER,       WF_MINIMISE,        AFTER_RECALC,    0},
+    {7,                       "Maximise Gadget",     BOX_X_UNDER,       WF_MAXIMISE,        AFTER_RECALC,    0},
+    {8,                       "Close Gadget",        BOX_X_UNDER,       WF_CLOSE,           AFTER_RECALC,    0},
+    {13,                      "Move Allowed",        BOX_X_UNDER,       WF_MOVE,            AFTER_NOTHING,   0},
+    {14,                      "Always in front",     BOX_X_UNDER,       WF_IN_FRONT,        AFTER_NOTHING,   0},
+    {15,                      "Let user modify",     BOX_X_UNDER_TWICE, WF_IN_FRONT_MODIFY, AFTER_RECALC,    0},
+    {WINPROP_ITEM_BORDER,     "Border",              BOX_X,             WF_BORDER,          AFTER_BORDER,    0},
+    {11,                      "Resize allowed",      BOX_X_UNDER,       WF_RESIZE,          AFTER_NOTHING,   0},
+    {16,                      "AltF4 Closes window", BOX_X,             WF_ALTF4,           AFTER_NOTHING,   0},
+    {17,                      "Clear ZBuffer",       BOX_X,             WF_CLEAR_ZBUFFER,   AFTER_NOTHING,   0},
+    {18,                      "See through",         BOX_X,             WF_SEETHROUGH,      AFTER_RECALC,    0},
+    {19,                      "No background",       BOX_X,             WF_NO_BACK,         AFTER_RECALC,    0},
 };
 // clang-format on
 
@@ -121,8 +121,8 @@ t_Window *OpenWindowProperties(t_Window *page)
                        &page_record->win_combo, &page_record->win_combo_first)) {
         i16 y = 4;
         for (const T_WINDOW_BOX &box : window_boxes) {
-            init = DialogGadgetInit(GADGET_TYPE_CHECK_BOX, box.item_code, T_RPOS{box.x, y, 0, 0}, box.flags,
-                                    BOX_ACTION);
+            init =
+                DialogGadgetInit(GADGET_TYPE_CHECK_BOX, box.item_code, T_RPOS{box.x, y, 0, 0}, box.flags, BOX_ACTION);
             init.init_val = (i32)(page->flags & box.bit);
             CreateObject(&handler->head, box.text, &init);
             y = (i16)(y + row_h);
@@ -141,12 +141,12 @@ t_Window *OpenWindowProperties(t_Window *page)
     init.data = page_record->page_name;  // in place: the title and the undo list follow each key
     CreateObject(&handler->head, "Window name string", &init);
     // The two buttons are at least 80 wide, and as wide as their text.
-    t_gadget *buttons[2] = {
-        AddDialogGadget(handler, TXT_SET_IDCMP, GADGET_TYPE_BUTTON, WINPROP_ITEM_SET_IDCMP, 4,
-                        (i16)(3 * row_h + 120), 0, row_h, GADGET_FLAGS_AUTOSIZE, ACT_LMOUSE_UP),
-        AddDialogGadget(handler, TXT_SOURCE_FILE, GADGET_TYPE_BUTTON, WINPROP_ITEM_SOURCE_FILE, 4,
-                        (i16)(4 * row_h + 124), 0, row_h,
-                        GADGET_FLAGS_AUTOSIZE | (page_record->saved ? 0 : GADGET_FLAGS_DISABLED), ACT_LMOUSE_UP)};
+    t_gadget *buttons[2] = {AddDialogGadget(handler, TXT_SET_IDCMP, GADGET_TYPE_BUTTON, WINPROP_ITEM_SET_IDCMP, 4,
+                                            (i16)(3 * row_h + 120), 0, row_h, GADGET_FLAGS_AUTOSIZE, ACT_LMOUSE_UP),
+                            AddDialogGadget(handler, TXT_SOURCE_FILE, GADGET_TYPE_BUTTON, WINPROP_ITEM_SOURCE_FILE, 4,
+                                            (i16)(4 * row_h + 124), 0, row_h,
+                                            GADGET_FLAGS_AUTOSIZE | (page_record->saved ? 0 : GADGET_FLAGS_DISABLED),
+                                            ACT_LMOUSE_UP)};
     for (t_gadget *button : buttons)
         if (button && button->base_width < BUTTON_WIDTH)
             button->base_width = button->pos_width = BUTTON_WIDTH;

@@ -31,9 +31,9 @@ enum {
 };
 
 // Item codes that are no commands.
-#define ITEM_OPEN_SELECTOR 1     // the "Open Source file" selector
+#define ITEM_OPEN_SELECTOR 1                        // the "Open Source file" selector
 #define ITEM_RECENT_OR_DROP DROPPED_FILE_ITEM_CODE  // a recent-file entry, or with ACT_RECEIVE_OBJECT a dropped file
-#define ITEM_MAIN_MESSAGE_BOX 32 // the program's message boxes on the main window
+#define ITEM_MAIN_MESSAGE_BOX 32                    // the program's message boxes on the main window
 #define ITEM_ABOUT 0x501
 
 typedef struct T_COMMAND_ROW {

@@ -7,8 +7,8 @@
 #include "shell/menus.h"
 
 // The main window's creation record, less what comes from the host.
-static const u32 MAIN_WINDOW_FLAGS = WF_CLOSE | WF_RESIZE | WF_TITLE | WF_MOVE | WF_BORDER | WF_MAXIMISE |
-                                     WF_MINIMISE | WF_TASKBAR | WF_ALTF4;  // 0x501FC
+static const u32 MAIN_WINDOW_FLAGS = WF_CLOSE | WF_RESIZE | WF_TITLE | WF_MOVE | WF_BORDER | WF_MAXIMISE | WF_MINIMISE |
+                                     WF_TASKBAR | WF_ALTF4;  // 0x501FC
 static const u32 MAIN_WINDOW_IDCMP = IDCMP_TERMINATE | IDCMP_KEY | IDCMP_MENU_OPEN | IDCMP_RECEIVE_OBJECT |
                                      IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK;  // 0x4594
 
@@ -42,8 +42,7 @@ extern "C" __attribute__((visibility("default"))) t_Window *Dll_OpenQuillformWin
     }
 
     // The settings resource, found or made with its defaults.
-    T_RESOURCE *resource = OpenResource(&_MarshalryBase->resources, SETTINGS_RESOURCE_NAME,
-                                        RESOURCE_TYPE_SETTINGS, 0);
+    T_RESOURCE *resource = OpenResource(&_MarshalryBase->resources, SETTINGS_RESOURCE_NAME, RESOURCE_TYPE_SETTINGS, 0);
     if (resource && !ConfigIsWhole(resource)) {
         myprintf(0, "Stored settings \"%s\" are incomplete; starting with the defaults", SETTINGS_RESOURCE_NAME);
         RemoveResource(resource);

@@ -210,33 +210,33 @@ typedef struct T_ITEM_ROW {
 
 // The commands, by item code. Any other code (the toolbar's among them) does nothing.
 // clang-format off
-//  item code                needs a page  function
+//   item code               needs a page function
 static const T_ITEM_ROW item_table[] = {
-    {CMD_OPEN,               ON_MAIN,      OpenDocumentSelector},
-    {CMD_CLOSE,              ON_PAGE,      ClosePage},  // the page asks to close
-    {CMD_CLOSE_ALL,          ON_MAIN,      CloseAllPages},  // one query at a time
-    {CMD_SAVE,               ON_PAGE,      SavePageDocument},  // at once when the page has a file
-    {CMD_SAVE_AS,            ON_PAGE,      SavePageDocumentAs},
-    {CMD_SAVE_ALL,           ON_MAIN,      SaveAllPages},
-    {CMD_EXIT,               ON_MAIN,      ExitModule},
-    {CMD_UNDO,               ON_PAGE,      UndoPageStep},
-    {CMD_REDO,               ON_PAGE,      RedoPageStep},
-    {CMD_CUT,                ON_PAGE,      CutToClipboard},  // the page's gadgets through the clipboard
-    {CMD_COPY,               ON_PAGE,      CopyToClipboard},
-    {CMD_PASTE,              ON_PAGE,      PasteFromClipboard},
-    {CMD_SELECT_ALL,         ON_PAGE,      SelectAllGadgets},
-    {CMD_SELECT_NONE,        ON_PAGE,      SelectNoGadgets},
-    {CMD_INVERSE_SELECTION,  ON_PAGE,      InvertGadgetSelection},
-    {CMD_REORDER_ITEM_CODES, ON_PAGE,      ReorderItemCodes},  // the saved codes and the toolkit's
-    {CMD_SETTINGS,           ON_MAIN,      OpenSettings},
-    {CMD_CENTRE_HORIZONTAL,  ON_PAGE,      CentreHorizontally},
-    {CMD_CENTRE_VERTICAL,    ON_PAGE,      CentreVertically},
-    {CMD_SIZE_TO_CONTENT,    ON_PAGE,      SizeMarkedToContents},
-    {CMD_FLIP_HORIZONTAL,    ON_PAGE,      FlipHorizontal},
-    {CMD_TAB_ORDER,          ON_PAGE,      EnterTabOrder},
-    {CMD_KEYBOARD,           ON_MAIN,      OpenKeyboardWindow},
-    {CMD_PREVIEW,            ON_PAGE,      PreviewPage},  // the page as the finished program
-    {ITEM_ABOUT,             ON_MAIN,      ShowAbout},
+    {CMD_OPEN,               ON_MAIN, OpenDocumentSelector},
+    {CMD_CLOSE,              ON_PAGE, ClosePage},  // the page asks to close
+    {CMD_CLOSE_ALL,          ON_MAIN, CloseAllPages},  // one query at a time
+    {CMD_SAVE,               ON_PAGE, SavePageDocument},  // at once when the page has a file
+    {CMD_SAVE_AS,            ON_PAGE, SavePageDocumentAs},
+    {CMD_SAVE_ALL,           ON_MAIN, SaveAllPages},
+    {CMD_EXIT,               ON_MAIN, ExitModule},
+    {CMD_UNDO,               ON_PAGE, UndoPageStep},
+    {CMD_REDO,               ON_PAGE, RedoPageStep},
+    {CMD_CUT,                ON_PAGE, CutToClipboard},  // the page's gadgets through the clipboard
+    {CMD_COPY,               ON_PAGE, CopyToClipboard},
+    {CMD_PASTE,              ON_PAGE, PasteFromClipboard},
+    {CMD_SELECT_ALL,         ON_PAGE, SelectAllGadgets},
+    {CMD_SELECT_NONE,        ON_PAGE, SelectNoGadgets},
+    {CMD_INVERSE_SELECTION,  ON_PAGE, InvertGadgetSelection},
+    {CMD_REORDER_ITEM_CODES, ON_PAGE, ReorderItemCodes},  // the saved codes and the toolkit's
+    {CMD_SETTINGS,           ON_MAIN, OpenSettings},
+    {CMD_CENTRE_HORIZONTAL,  ON_PAGE, CentreHorizontally},
+    {CMD_CENTRE_VERTICAL,    ON_PAGE, CentreVertically},
+    {CMD_SIZE_TO_CONTENT,    ON_PAGE, SizeMarkedToContents},
+    {CMD_FLIP_HORIZONTAL,    ON_PAGE, FlipHorizontal},
+    {CMD_TAB_ORDER,          ON_PAGE, EnterTabOrder},
+    {CMD_KEYBOARD,           ON_MAIN, OpenKeyboardWindow},
+    {CMD_PREVIEW,            ON_PAGE, PreviewPage},  // the page as the finished program
+    {ITEM_ABOUT,             ON_MAIN, ShowAbout},
 };
 // clang-format on
 

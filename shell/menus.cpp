@@ -13,48 +13,48 @@
 
 // The menu bar, by rows.
 // clang-format off
-//  what                  label                item code                shortcut
+//   what                   label               item code               shortcut
 static const T_MENU_ROW main_menu_table[] = {
-    {MENU_ROW_TITLE,        "File",              MENU_FILE,               'F'},
-    {MENU_ROW_COMMAND,      NULL,                CMD_OPEN,                0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_CLOSE,               0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_CLOSE_ALL,           0},
-    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
-    {MENU_ROW_COMMAND_SAVE, NULL,                CMD_SAVE,                0},
-    {MENU_ROW_COMMAND_SAVE, NULL,                CMD_SAVE_AS,             0},
-    {MENU_ROW_COMMAND_SAVE, NULL,                CMD_SAVE_ALL,            0},
-    {MENU_ROW_PLACE,        NULL,                0,                       0},  // the recent files, behind "Save all"
-    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_EXIT,                0},
-    {MENU_ROW_TITLE,        "Edit",              MENU_EDIT,               'E'},
-    {MENU_ROW_COMMAND,      NULL,                CMD_UNDO,                0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_REDO,                0},
-    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_CUT,                 0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_COPY,                0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_PASTE,               0},
-    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_SELECT_ALL,          0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_SELECT_NONE,         0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_INVERSE_SELECTION,   0},
-    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_REORDER_ITEM_CODES,  0},
-    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_SETTINGS,            0},
-    {MENU_ROW_TITLE,        "Layout",            MENU_LAYOUT,             'E'},  // the same letter as "Edit"
-    {MENU_ROW_SUBMENU,      "Centre in window",  MENU_CENTRE,             'C'},
-    {MENU_ROW_COMMAND,      NULL,                CMD_CENTRE_HORIZONTAL,   0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_CENTRE_VERTICAL,     0},
-    {MENU_ROW_SUBMENU_END,  NULL,                0,                       0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_SIZE_TO_CONTENT,     0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_FLIP_HORIZONTAL,     0},
-    {MENU_ROW_SEPARATOR,    NULL,                0,                       0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_TAB_ORDER,           0},
-    {MENU_ROW_TITLE,        "Tools",             MENU_TOOLS,              'T'},
-    {MENU_ROW_COMMAND,      NULL,                CMD_KEYBOARD,            0},
-    {MENU_ROW_COMMAND,      NULL,                CMD_PREVIEW,             0},
-    {MENU_ROW_TITLE,        "Help",              MENU_HELP,               'H'},
-    {MENU_ROW_ENTRY,        "About",             ITEM_ABOUT,              'A'},
+    {MENU_ROW_TITLE,        "File",             MENU_FILE,              'F'},
+    {MENU_ROW_COMMAND,      NULL,               CMD_OPEN,               0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_CLOSE,              0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_CLOSE_ALL,          0},
+    {MENU_ROW_SEPARATOR,    NULL,               0,                      0},
+    {MENU_ROW_COMMAND_SAVE, NULL,               CMD_SAVE,               0},
+    {MENU_ROW_COMMAND_SAVE, NULL,               CMD_SAVE_AS,            0},
+    {MENU_ROW_COMMAND_SAVE, NULL,               CMD_SAVE_ALL,           0},
+    {MENU_ROW_PLACE,        NULL,               0,                      0},  // the recent files, behind "Save all"
+    {MENU_ROW_SEPARATOR,    NULL,               0,                      0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_EXIT,               0},
+    {MENU_ROW_TITLE,        "Edit",             MENU_EDIT,              'E'},
+    {MENU_ROW_COMMAND,      NULL,               CMD_UNDO,               0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_REDO,               0},
+    {MENU_ROW_SEPARATOR,    NULL,               0,                      0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_CUT,                0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_COPY,               0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_PASTE,              0},
+    {MENU_ROW_SEPARATOR,    NULL,               0,                      0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_SELECT_ALL,         0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_SELECT_NONE,        0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_INVERSE_SELECTION,  0},
+    {MENU_ROW_SEPARATOR,    NULL,               0,                      0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_REORDER_ITEM_CODES, 0},
+    {MENU_ROW_SEPARATOR,    NULL,               0,                      0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_SETTINGS,           0},
+    {MENU_ROW_TITLE,        "Layout",           MENU_LAYOUT,            'E'},  // the same letter as "Edit"
+    {MENU_ROW_SUBMENU,      "Centre in window", MENU_CENTRE,            'C'},
+    {MENU_ROW_COMMAND,      NULL,               CMD_CENTRE_HORIZONTAL,  0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_CENTRE_VERTICAL,    0},
+    {MENU_ROW_SUBMENU_END,  NULL,               0,                      0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_SIZE_TO_CONTENT,    0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_FLIP_HORIZONTAL,    0},
+    {MENU_ROW_SEPARATOR,    NULL,               0,                      0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_TAB_ORDER,          0},
+    {MENU_ROW_TITLE,        "Tools",            MENU_TOOLS,             'T'},
+    {MENU_ROW_COMMAND,      NULL,               CMD_KEYBOARD,           0},
+    {MENU_ROW_COMMAND,      NULL,               CMD_PREVIEW,            0},
+    {MENU_ROW_TITLE,        "Help",             MENU_HELP,              'H'},
+    {MENU_ROW_ENTRY,        "About",            ITEM_ABOUT,             'A'},
 };
 // clang-format on
 
@@ -85,8 +85,8 @@ t_Window *CreateGadgetToolBar(t_Window *main_window)
 #define MENU_LABEL_SIZE 256  // an Undo or Redo entry's label: the word and the record's name
 
 // Sets an Undo or Redo entry's label from the node next in turn, or greys it with the plain word.
-static void SetHistoryLabel(t_Window *main_window, t_Menu *edit_menu, u32 item_code, int possible,
-                            T_UNDO_NODE *node, const char *word)
+static void SetHistoryLabel(t_Window *main_window, t_Menu *edit_menu, u32 item_code, int possible, T_UNDO_NODE *node,
+                            const char *word)
 {
     t_Menu *entry = FindMenuByItemCode(edit_menu, item_code);
     if (!entry)

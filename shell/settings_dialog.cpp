@@ -39,8 +39,8 @@ static const T_SETTINGS_ROW settings_rows[] = {
 
 t_Window *OpenSettingsDialog(t_Window *main_window)
 {
-    static const T_DIALOG_FRAME settings_frame = {TXT_SETTINGS_TITLE, 236, 223, 340, 160, SETTINGS_FLAGS,
-                                                  IDCMP_TERMINATE, 0, SettingsDialogMsg};
+    static const T_DIALOG_FRAME settings_frame = {
+        TXT_SETTINGS_TITLE, 236, 223, 340, 160, SETTINGS_FLAGS, IDCMP_TERMINATE, 0, SettingsDialogMsg};
     t_Window *window = OpenDialogWindow(main_window, &settings_frame, main_window->icon_bank);
     if (!window)
         return NULL;

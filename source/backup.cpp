@@ -41,8 +41,7 @@ int BackupDocument(const char *path)
     const char *backup_path = editor_config ? editor_config->backup_path : default_backup_path;
     backup_failure[0] = 0;
     if (strlen(path) >= SRC_PATH_SIZE || strlen(backup_path) >= SRC_PATH_SIZE) {
-        myprintf(0, "No backup of %s: the path is longer than %d characters\n", path,
-                 SRC_PATH_SIZE - 1);
+        myprintf(0, "No backup of %s: the path is longer than %d characters\n", path, SRC_PATH_SIZE - 1);
         return 0;
     }
 
@@ -55,8 +54,7 @@ int BackupDocument(const char *path)
     if (!backup_path[0]) {
         // Beside the document, its extension replaced.
         StripPathAndExt(file_name, path);
-        fits = fits && AppendToPath(file_name, SRC_BACKUP_EXTENSION) &&
-               AppendToPath(target, file_name);
+        fits = fits && AppendToPath(file_name, SRC_BACKUP_EXTENSION) && AppendToPath(target, file_name);
     } else {
         // In the backup directory, under the document's full name.
         if (IsAbsolutePath(backup_path))
@@ -68,8 +66,7 @@ int BackupDocument(const char *path)
         fits = fits && AddSeparator(target) && AppendToPath(target, file_name);
     }
     if (!fits) {
-        myprintf(0, "No backup of %s: the backup's path would be longer than %d characters\n",
-                 path, SRC_PATH_SIZE - 1);
+        myprintf(0, "No backup of %s: the backup's path would be longer than %d characters\n", path, SRC_PATH_SIZE - 1);
         return BACKUP_NO_DOCUMENT;
     }
 

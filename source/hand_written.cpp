@@ -16,46 +16,48 @@ typedef struct T_WRITER_FORM {
     const char *tail;
 } T_WRITER_FORM;
 
-//  head                                  tail
+// clang-format off
+//   head                                             tail
 static const T_WRITER_FORM writer_forms[] = {
-    {"/*Quillform: START_OBJECT: MESSAGE */", NULL},
-    {"/*Quillform: END_OBJECT: MESSAGE */", NULL},
-    {"/*Quillform: START_OBJECT: PAGE */", NULL},
-    {"/*Quillform: END_OBJECT: PAGE */", NULL},
-    {"/*Quillform: START_OBJECT: WINDOW */", NULL},
-    {"/*Quillform: END_OBJECT: WINDOW */", NULL},
-    {"/*Quillform: START_OBJECT: GADGET */", NULL},
-    {"/*Quillform: END_OBJECT: GADGET */", NULL},
-    {"u32 ", "Msg(T_WINDOW *win,u32 item_code,u32 msg,void *data)"},  // the message function's head
-    {"T_WINDOW *Open", "Window()"},                                    // the open function's head
+    {"/*Quillform: START_OBJECT: MESSAGE */",         NULL},
+    {"/*Quillform: END_OBJECT: MESSAGE */",           NULL},
+    {"/*Quillform: START_OBJECT: PAGE */",            NULL},
+    {"/*Quillform: END_OBJECT: PAGE */",              NULL},
+    {"/*Quillform: START_OBJECT: WINDOW */",          NULL},
+    {"/*Quillform: END_OBJECT: WINDOW */",            NULL},
+    {"/*Quillform: START_OBJECT: GADGET */",          NULL},
+    {"/*Quillform: END_OBJECT: GADGET */",            NULL},
+    {"u32 ",                                          "Msg(T_WINDOW *win,u32 item_code,u32 msg,void *data)"},  // the message function's head
+    {"T_WINDOW *Open",                                "Window()"},  // the open function's head
     {"{", NULL},
     {"}", NULL},
-    {"switch(msg)", NULL},
-    {"switch(item_code)", NULL},
-    {"case ", ":"},   // a message's case
-    {"case ", "*/"},  // a gadget's case with its name
-    {"break;", NULL},
-    {"RemoveWindow(win);", NULL},
-    {"return(0);", NULL},
-    {"return(win);", NULL},
-    {"T_WINDOW_HANDLER *wh;", NULL},
-    {"T_WINDOW *win;", NULL},
-    {"T_WINDOWOBJINIT win_init;", NULL},
-    {"T_GADGET_HANDLER *gh;", NULL},
-    {"T_GADGET *gad;", NULL},
-    {"T_GADGETOBJECTINIT gadinit;", NULL},
-    {"T_MENU_HANDLER *mh;", NULL},
-    {"T_MENU *menu;", NULL},
-    {"T_MENUOBJECTINIT menuinit;", NULL},
-    {"ClearGadInit;", NULL},
-    {"ClearWinInit;", NULL},
-    {"wh=FindWindowHandler();", NULL},
-    {"win=ICreateWindow(\"", "\");"},
+    {"switch(msg)",                                   NULL},
+    {"switch(item_code)",                             NULL},
+    {"case ",                                         ":"},  // a message's case
+    {"case ",                                         "*/"},  // a gadget's case with its name
+    {"break;",                                        NULL},
+    {"RemoveWindow(win);",                            NULL},
+    {"return(0);",                                    NULL},
+    {"return(win);",                                  NULL},
+    {"T_WINDOW_HANDLER *wh;",                         NULL},
+    {"T_WINDOW *win;",                                NULL},
+    {"T_WINDOWOBJINIT win_init;",                     NULL},
+    {"T_GADGET_HANDLER *gh;",                         NULL},
+    {"T_GADGET *gad;",                                NULL},
+    {"T_GADGETOBJECTINIT gadinit;",                   NULL},
+    {"T_MENU_HANDLER *mh;",                           NULL},
+    {"T_MENU *menu;",                                 NULL},
+    {"T_MENUOBJECTINIT menuinit;",                    NULL},
+    {"ClearGadInit;",                                 NULL},
+    {"ClearWinInit;",                                 NULL},
+    {"wh=FindWindowHandler();",                       NULL},
+    {"win=ICreateWindow(\"",                          "\");"},
     {"gh=(T_GADGET_HANDLER *)NewGadgetHandler(win);", NULL},
-    {"mh=NewMenuHandler(win);", NULL},
-    {"gad=CreateGadget(\"", "\");"},
-    {"SetGadgetColours(gad,", ");"},
+    {"mh=NewMenuHandler(win);",                       NULL},
+    {"gad=CreateGadget(\"",                           "\");"},
+    {"SetGadgetColours(gad,",                         ");"},
 };
+// clang-format on
 
 // Whether the line, without the blanks around it, is one the writer writes. A blank line loses
 // nothing, so it counts as the writer's too.

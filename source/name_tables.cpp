@@ -2,7 +2,9 @@
 #include "source/name_tables.h"
 
 // A row whose text is the name of its own constant.
+// clang-format off
 #define NAME_ROW(constant) {constant, #constant}
+// clang-format on
 
 // Labels of the gadget flags in the gadget properties dialog.
 // clang-format off
@@ -28,7 +30,7 @@ const T_VAL2STRING gadget_flag_labels[] = {
     {GADGET_FLAGS_SECRET,       "Secret"},
     {GADGET_FLAGS_FROM_RIGHT,   "Display from right"},
     {GADGET_FLAGS_FROM_BOTTOM,  "Display from bottom"},
-    {0, ""},
+    {0,                         ""},
 };
 
 // Source words of the gadget flags. GADGET_FLAGS_DEPRESSED has none; GADGET_FLAGS_XY holds two
@@ -55,7 +57,7 @@ const T_VAL2STRING gadget_flag_names[] = {
     NAME_ROW(GADGET_FLAGS_SECRET),
     NAME_ROW(GADGET_FLAGS_FROM_RIGHT),
     NAME_ROW(GADGET_FLAGS_FROM_BOTTOM),
-    {0, ""},
+    {0,                         ""},
 };
 
 // A gadget's type, looked up by the whole value.
@@ -79,7 +81,7 @@ const T_VAL2STRING gadget_type_names[] = {
     NAME_ROW(GADGET_TYPE_SCROLLBAR),
     NAME_ROW(GADGET_TYPE_DROP_BOX),
     NAME_ROW(GADGET_TYPE_SCENE),
-    {0, ""},
+    {0,                         ""},
 };
 
 // Bits of a gadget's action word. The wheel's row holds two bits, so a walk by single bits
@@ -94,7 +96,7 @@ const T_VAL2STRING mouse_action_names[] = {
     NAME_ROW(ACT_LMOUSE_DROP),
     NAME_ROW(ACT_RMOUSE_DROP),
     NAME_ROW(ACT_MOUSE_WHEEL),
-    {0, ""},
+    {0,                         ""},
 };
 
 // Bits of a window's flags word.
@@ -119,7 +121,7 @@ const T_VAL2STRING window_flag_names[] = {
     NAME_ROW(WF_ALTF4),
     NAME_ROW(WF_CLEAR_ZBUFFER),
     NAME_ROW(WF_SEETHROUGH),
-    {0, ""},
+    {0,                         ""},
 };
 
 // Bits of a window's idcmp word; row k pairs with row k of message_names.
@@ -144,7 +146,7 @@ const T_VAL2STRING idcmp_names[] = {
     NAME_ROW(IDCMP_REFRESH_DAMAGED),
     NAME_ROW(IDCMP_EXTERNAL_REBUILD),
     NAME_ROW(IDCMP_INTERNAL_REBUILD),
-    {0, ""},
+    {0,                         ""},
 };
 
 // The messages that the idcmp bits enable, in the rows of idcmp_names.
@@ -169,6 +171,6 @@ const T_VAL2STRING message_names[] = {
     NAME_ROW(ACT_REFRESH_DAMAGED),
     NAME_ROW(ACT_EXTERNAL_REBUILD),
     NAME_ROW(ACT_INTERNAL_REBUILD),
-    {0, ""},
+    {0,                         ""},
 };
 // clang-format on

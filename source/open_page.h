@@ -5,7 +5,7 @@
 #include "page/records.h"
 
 #define READER_LINE_SIZE READ_LINE_SIZE  // a longer line is cut by ReadLine
-#define READER_NAME_SIZE 128   // window and gadget names, bitmap and font names
+#define READER_NAME_SIZE 128             // window and gadget names, bitmap and font names
 #define READER_HOVER_SIZE 256
 #define READER_TOKEN_SIZE 256  // a word of a name list; a longer one is cut and matches nothing
 
@@ -13,7 +13,7 @@
 typedef struct T_READING {
     const char *source;  // the file's path, or what else the text comes from; named in the log
     t_Window *window;    // the page window once it exists
-    u8 *line_map;      // a byte per line, 1 for a line the reader didn't take; 2 bytes per line
+    u8 *line_map;        // a byte per line, 1 for a line the reader didn't take; 2 bytes per line
     u32 lines_read;
     u32 lines_total;
 } T_READING;

@@ -83,8 +83,7 @@ t_Window *OpenPageFile(t_Window *main_window, const char *path)
     }
     t_Window *page = OpenPage(main_window, path);
     if (!page) {
-        ShowPathMessage(main_window, TXT_ERROR_TITLE, TXT_COULD_NOT_OPEN, path, OPEN_ERROR_STYLE,
-                        OPEN_ERROR_ITEM_CODE);
+        ShowPathMessage(main_window, TXT_ERROR_TITLE, TXT_COULD_NOT_OPEN, path, OPEN_ERROR_STYLE, OPEN_ERROR_ITEM_CODE);
         return NULL;
     }
     T_WINEDIT_HANDLER *record = (T_WINEDIT_HANDLER *)page->user_data;

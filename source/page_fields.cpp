@@ -11,10 +11,12 @@
 #include "source/source_format.h"
 
 // A field's place in a record, its sign taken from its type.
+// clang-format off
 #define PLACE(type, field)                                                                         \
     {(u16)offsetof(type, field), (u8)sizeof(((type *)0)->field),                                   \
      (u8)std::is_signed<std::remove_cvref_t<decltype(((type *)0)->field)>>::value}
 #define NOWHERE {0, 0, 0}
+// clang-format on
 #define REC(field) PLACE(T_GADGETOBJECTINIT, field)
 #define GAD(field) PLACE(t_gadget, field)
 #define SLD(field) PLACE(T_SLIDER_DATA, field)
@@ -53,49 +55,49 @@ static const T_VAL2STRING string_max_texts[] = {
 // clang-format off
 //  word                   kind               decides from         flags               record                object            types         live_bit             names               fixed
 const T_PAGE_FIELD window_fields[] = {
-    {WININIT("flags"),     FIELD_NAMES,       1, FROM_OBJECT, 0,                  WREC(flags),          WIN(flags),       0,            0,                   window_flag_names,  NULL},
-    {WININIT("x"),         FIELD_DECIMAL,     2, FROM_OBJECT, 0,                  WREC(x),              WIN(x),           0,            0,                   NULL,               NULL},
-    {WININIT("y"),         FIELD_DECIMAL,     3, FROM_OBJECT, 0,                  WREC(y),              WIN(y),           0,            0,                   NULL,               NULL},
-    {WININIT("w"),         FIELD_DECIMAL,     4, FROM_OBJECT, 0,                  WREC(w),              WIN(w),           0,            0,                   NULL,               NULL},
-    {WININIT("h"),         FIELD_DECIMAL,     5, FROM_OBJECT, 0,                  WREC(h),              WIN(h),           0,            0,                   NULL,               NULL},
+    {WININIT("flags"),       FIELD_NAMES,       1,  FROM_OBJECT, 0,                  WREC(flags),      WIN(flags),          0,            0,                   window_flag_names,  NULL},
+    {WININIT("x"),           FIELD_DECIMAL,     2,  FROM_OBJECT, 0,                  WREC(x),          WIN(x),              0,            0,                   NULL,               NULL},
+    {WININIT("y"),           FIELD_DECIMAL,     3,  FROM_OBJECT, 0,                  WREC(y),          WIN(y),              0,            0,                   NULL,               NULL},
+    {WININIT("w"),           FIELD_DECIMAL,     4,  FROM_OBJECT, 0,                  WREC(w),          WIN(w),              0,            0,                   NULL,               NULL},
+    {WININIT("h"),           FIELD_DECIMAL,     5,  FROM_OBJECT, 0,                  WREC(h),          WIN(h),              0,            0,                   NULL,               NULL},
     // The word stands in the icon bank's statement too, which so reads as an icon of 0.
-    {WININIT("icon"),      FIELD_DECIMAL,     6, FROM_OBJECT, 0,                  WREC(icon),           WIN(icon),        0,            0,                   NULL,               NULL},
-    {WININIT("idcmp"),     FIELD_NAMES,       7, FROM_OBJECT, 0,                  WREC(idcmp),          WIN(idcmp),       0,            0,                   idcmp_names,        NULL},
-    {WININIT("bitmap"),    FIELD_RESOURCE,    8, FROM_OBJECT, 0,                  WREC(bitmap),         WIN(bitmap),      0,            0,                   NULL,               NULL},
-    {WININIT("message"),   FIELD_MESSAGE,     0, FROM_NONE,   0,                  NOWHERE,              NOWHERE,          0,            0,                   NULL,               NULL},
-    {WININIT("icon_bank"), FIELD_NULL,        0, FROM_NONE,   0,                  NOWHERE,              NOWHERE,          0,            0,                   NULL,               NULL},
-    {"UserAreaColour",     FIELD_AREA_COLOUR, 9, FROM_OBJECT, FIELD_AFTER_CREATE, NOWHERE,              WIN(UserAreaColour), 0,         0,                   NULL,               NULL},
-    {NULL,                 0,                 0, FROM_NONE,   0,                  NOWHERE,              NOWHERE,          0,            0,                   NULL,               NULL},
+    {WININIT("icon"),        FIELD_DECIMAL,     6,  FROM_OBJECT, 0,                  WREC(icon),       WIN(icon),           0,            0,                   NULL,               NULL},
+    {WININIT("idcmp"),       FIELD_NAMES,       7,  FROM_OBJECT, 0,                  WREC(idcmp),      WIN(idcmp),          0,            0,                   idcmp_names,        NULL},
+    {WININIT("bitmap"),      FIELD_RESOURCE,    8,  FROM_OBJECT, 0,                  WREC(bitmap),     WIN(bitmap),         0,            0,                   NULL,               NULL},
+    {WININIT("message"),     FIELD_MESSAGE,     0,  FROM_NONE,   0,                  NOWHERE,          NOWHERE,             0,            0,                   NULL,               NULL},
+    {WININIT("icon_bank"),   FIELD_NULL,        0,  FROM_NONE,   0,                  NOWHERE,          NOWHERE,             0,            0,                   NULL,               NULL},
+    {"UserAreaColour",       FIELD_AREA_COLOUR, 9,  FROM_OBJECT, FIELD_AFTER_CREATE, NOWHERE,          WIN(UserAreaColour), 0,            0,                   NULL,               NULL},
+    {NULL,                   0,                 0,  FROM_NONE,   0,                  NOWHERE,          NOWHERE,             0,            0,                   NULL,               NULL},
 };
 
 const T_PAGE_FIELD gadget_fields[] = {
-    {GADINIT("x"),           FIELD_DECIMAL,  3, FROM_OBJECT, 0,                  REC(x),           GAD(x),           0,            0,                   NULL,               NULL},
-    {GADINIT("y"),           FIELD_DECIMAL,  4, FROM_OBJECT, 0,                  REC(y),           GAD(y),           0,            0,                   NULL,               NULL},
-    {GADINIT("base_width"),  FIELD_DECIMAL,  5, FROM_OBJECT, 0,                  REC(base_width),  GAD(base_width),  0,            0,                   NULL,               NULL},
-    {GADINIT("base_height"), FIELD_DECIMAL,  6, FROM_OBJECT, 0,                  REC(base_height), GAD(base_height), 0,            0,                   NULL,               NULL},
-    {GADINIT("item_code"),   FIELD_HEX,     10, FROM_OBJECT, 0,                  REC(item_code),   GAD(item_code),   0,            0,                   NULL,               NULL},
+    {GADINIT("x"),           FIELD_DECIMAL,     3,  FROM_OBJECT, 0,                  REC(x),           GAD(x),              0,            0,                   NULL,               NULL},
+    {GADINIT("y"),           FIELD_DECIMAL,     4,  FROM_OBJECT, 0,                  REC(y),           GAD(y),              0,            0,                   NULL,               NULL},
+    {GADINIT("base_width"),  FIELD_DECIMAL,     5,  FROM_OBJECT, 0,                  REC(base_width),  GAD(base_width),     0,            0,                   NULL,               NULL},
+    {GADINIT("base_height"), FIELD_DECIMAL,     6,  FROM_OBJECT, 0,                  REC(base_height), GAD(base_height),    0,            0,                   NULL,               NULL},
+    {GADINIT("item_code"),   FIELD_HEX,         10, FROM_OBJECT, 0,                  REC(item_code),   GAD(item_code),      0,            0,                   NULL,               NULL},
     // Flags and action compare the whole words, bits without a name too.
-    {GADINIT("flags"),       FIELD_NAMES,    2, FROM_OBJECT, 0,                  REC(flags),       GAD(flags),       0,            0,                   gadget_flag_names,  NULL},
-    {GADINIT("action"),      FIELD_NAMES,    9, FROM_OBJECT, 0,                  REC(action),      GAD(action),      0,            0,                   mouse_action_names, NULL},
-    {GADINIT("tab[0]"),      FIELD_HEX,     11, FROM_OBJECT, 0,                  REC(tab[0]),      GAD(tab[0]),      0,            0,                   NULL,               NULL},
-    {GADINIT("tab[1]"),      FIELD_HEX,     12, FROM_OBJECT, 0,                  REC(tab[1]),      GAD(tab[1]),      0,            0,                   NULL,               NULL},
-    {GADINIT("hover_text"),  FIELD_TEXT,    20, FROM_OBJECT, 0,                  REC(hover_text),  GAD(hover_text),  0,            0,                   NULL,               NULL},
-    {GADINIT("type"),        FIELD_TYPE,     1, FROM_OBJECT, 0,                  REC(type),        GAD(type),        0,            0,                   gadget_type_names,  NULL},
-    {GADINIT("font"),        FIELD_RESOURCE,21, FROM_OBJECT, 0,                  REC(font),        GAD(font),        0,            0,                   NULL,               NULL},
+    {GADINIT("flags"),       FIELD_NAMES,       2,  FROM_OBJECT, 0,                  REC(flags),       GAD(flags),          0,            0,                   gadget_flag_names,  NULL},
+    {GADINIT("action"),      FIELD_NAMES,       9,  FROM_OBJECT, 0,                  REC(action),      GAD(action),         0,            0,                   mouse_action_names, NULL},
+    {GADINIT("tab[0]"),      FIELD_HEX,         11, FROM_OBJECT, 0,                  REC(tab[0]),      GAD(tab[0]),         0,            0,                   NULL,               NULL},
+    {GADINIT("tab[1]"),      FIELD_HEX,         12, FROM_OBJECT, 0,                  REC(tab[1]),      GAD(tab[1]),         0,            0,                   NULL,               NULL},
+    {GADINIT("hover_text"),  FIELD_TEXT,        20, FROM_OBJECT, 0,                  REC(hover_text),  GAD(hover_text),     0,            0,                   NULL,               NULL},
+    {GADINIT("type"),        FIELD_TYPE,        1,  FROM_OBJECT, 0,                  REC(type),        GAD(type),           0,            0,                   gadget_type_names,  NULL},
+    {GADINIT("font"),        FIELD_RESOURCE,    21, FROM_OBJECT, 0,                  REC(font),        GAD(font),           0,            0,                   NULL,               NULL},
     // The record's cursor is one byte: a number above 255 never equals it, and is written at
     // every gadget.
-    {GADINIT("cursor"),      FIELD_DECIMAL,  7, FROM_OBJECT, 0,                  REC(cursor),      GAD(cursor),      0,            GADGET_FLAGS_CURSOR, NULL,               NULL},
-    {GADINIT("icon"),        FIELD_DECIMAL,  8, FROM_OBJECT, 0,                  REC(icon),        GAD(icon),        0,            GADGET_FLAGS_ICON,   NULL,               NULL},
-    {GADINIT("data"),        FIELD_DATA,     0, FROM_NONE,   0,                  NOWHERE,          NOWHERE,          0,            0,                   NULL,               gadget_data_texts},
-    {GADINIT("min"),         FIELD_DECIMAL, 15, FROM_CLASS,  FIELD_CUT16,        REC(min),         SLD(min),         SLIDERS|BARS, 0,                   NULL,               NULL},
-    {GADINIT("max"),         FIELD_DECIMAL, 16, FROM_CLASS,  FIELD_CUT16,        REC(max),         SLD(max),         SLIDERS|BARS, 0,                   NULL,               string_max_texts},
-    {GADINIT("step"),        FIELD_DECIMAL, 17, FROM_CLASS,  FIELD_CUT16,        REC(step),        SLD(step),        SLIDERS,      0,                   NULL,               NULL},
+    {GADINIT("cursor"),      FIELD_DECIMAL,     7,  FROM_OBJECT, 0,                  REC(cursor),      GAD(cursor),         0,            GADGET_FLAGS_CURSOR, NULL,               NULL},
+    {GADINIT("icon"),        FIELD_DECIMAL,     8,  FROM_OBJECT, 0,                  REC(icon),        GAD(icon),           0,            GADGET_FLAGS_ICON,   NULL,               NULL},
+    {GADINIT("data"),        FIELD_DATA,        0,  FROM_NONE,   0,                  NOWHERE,          NOWHERE,             0,            0,                   NULL,               gadget_data_texts},
+    {GADINIT("min"),         FIELD_DECIMAL,     15, FROM_CLASS,  FIELD_CUT16,        REC(min),         SLD(min),            SLIDERS|BARS, 0,                   NULL,               NULL},
+    {GADINIT("max"),         FIELD_DECIMAL,     16, FROM_CLASS,  FIELD_CUT16,        REC(max),         SLD(max),            SLIDERS|BARS, 0,                   NULL,               string_max_texts},
+    {GADINIT("step"),        FIELD_DECIMAL,     17, FROM_CLASS,  FIELD_CUT16,        REC(step),        SLD(step),           SLIDERS,      0,                   NULL,               NULL},
     // A slider's marks come from its size when it is made; they are written all the same.
-    {GADINIT("mark_width"),  FIELD_DECIMAL, 13, FROM_CLASS,  0,                  REC(mark_width),  SLD(mark_width),  SLIDERS,      0,                   NULL,               NULL},
-    {GADINIT("mark_height"), FIELD_DECIMAL, 14, FROM_CLASS,  0,                  REC(mark_height), SLD(mark_height), SLIDERS,      0,                   NULL,               NULL},
-    {GADINIT("init_val"),    FIELD_DECIMAL, 18, FROM_CLASS,  FIELD_CUT16,        REC(init_val),    BAR(init_val),    BARS,         0,                   NULL,               NULL},
-    {"SetGadgetColours",     FIELD_COLOURS, 19, FROM_OBJECT, FIELD_AFTER_CREATE, NOWHERE,          NOWHERE,          0,            0,                   NULL,               NULL},
-    {NULL,                   0,              0, FROM_NONE,   0,                  NOWHERE,          NOWHERE,          0,            0,                   NULL,               NULL},
+    {GADINIT("mark_width"),  FIELD_DECIMAL,     13, FROM_CLASS,  0,                  REC(mark_width),  SLD(mark_width),     SLIDERS,      0,                   NULL,               NULL},
+    {GADINIT("mark_height"), FIELD_DECIMAL,     14, FROM_CLASS,  0,                  REC(mark_height), SLD(mark_height),    SLIDERS,      0,                   NULL,               NULL},
+    {GADINIT("init_val"),    FIELD_DECIMAL,     18, FROM_CLASS,  FIELD_CUT16,        REC(init_val),    BAR(init_val),       BARS,         0,                   NULL,               NULL},
+    {"SetGadgetColours",     FIELD_COLOURS,     19, FROM_OBJECT, FIELD_AFTER_CREATE, NOWHERE,          NOWHERE,             0,            0,                   NULL,               NULL},
+    {NULL,                   0,                 0,  FROM_NONE,   0,                  NOWHERE,          NOWHERE,             0,            0,                   NULL,               NULL},
 };
 // clang-format on
 

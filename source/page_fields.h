@@ -40,16 +40,16 @@ enum {
 #define FIELD_AFTER_CREATE 0x2  // written behind the line that creates the object
 
 typedef struct T_PAGE_FIELD {
-    const char *word;     // the statement's word, by which the reader knows the line
-    u8 kind;              // FIELD_
-    u8 decides;           // the reader's precedence when a line holds several words, 1 first;
-                          // 0: the reader passes over the statement
-    u8 from;              // FROM_
-    u8 flags;             // FIELD_CUT16, FIELD_AFTER_CREATE
-    T_FIELD_PLACE record; // in the creation record (T_GADGETOBJECTINIT or T_WINDOWOBJINIT)
-    T_FIELD_PLACE object; // in t_gadget or t_Window, or in the class record
-    u32 types;            // FROM_CLASS: the gadget types (a bit each) whose class record holds it
-    u32 live_bit;         // a gadget's statement has its turn only with this bit of live_flags
+    const char *word;           // the statement's word, by which the reader knows the line
+    u8 kind;                    // FIELD_
+    u8 decides;                 // the reader's precedence when a line holds several words, 1 first;
+                                // 0: the reader passes over the statement
+    u8 from;                    // FROM_
+    u8 flags;                   // FIELD_CUT16, FIELD_AFTER_CREATE
+    T_FIELD_PLACE record;       // in the creation record (T_GADGETOBJECTINIT or T_WINDOWOBJINIT)
+    T_FIELD_PLACE object;       // in t_gadget or t_Window, or in the class record
+    u32 types;                  // FROM_CLASS: the gadget types (a bit each) whose class record holds it
+    u32 live_bit;               // a gadget's statement has its turn only with this bit of live_flags
     const T_VAL2STRING *names;  // FIELD_NAMES and FIELD_TYPE: the name table
     const T_VAL2STRING *fixed;  // by gadget type: a text written in place of the value, in both
                                 // forms, that leaves the record of the optimised form alone

@@ -28,8 +28,7 @@ static const T_DECLARATION_WORD clear_words[] = {
     {"T_HANDLER *wh", DECL_HANDLER_CLEAR},
 };
 
-static int MatchFirstWord(T_DECLARATIONS *declarations, const char *line, const T_DECLARATION_WORD *words,
-                          u32 count)
+static int MatchFirstWord(T_DECLARATIONS *declarations, const char *line, const T_DECLARATION_WORD *words, u32 count)
 {
     for (u32 i = 0; i < count; i++) {
         if (!LineHasWord(line, words[i].word))

@@ -159,9 +159,8 @@ int ParseGadgetLine(const char *line, T_GADGETOBJECTINIT *init, T_GADGET_BLOCK *
 // The lines of a block up to its end marker: the line of its creation call (`create_call`, or
 // CreateObject) gives `name`; `parse` takes each other line into `into`, and a line it doesn't take
 // is marked foreign.
-static const char *ReadBlockLines(const char *position, const char *end, T_READING *reading,
-                                  const char *create_call, char *name, void *into,
-                                  int (*parse)(const char *line, void *into))
+static const char *ReadBlockLines(const char *position, const char *end, T_READING *reading, const char *create_call,
+                                  char *name, void *into, int (*parse)(const char *line, void *into))
 {
     char line[READER_LINE_SIZE];
     while (u32 used = ReadLine(line, position, end)) {
@@ -182,10 +181,9 @@ const char *ReadGadgetsFromFile(t_Window *window, const char *position, const ch
     T_GADGET_BLOCK block;
     memset(&block, 0, sizeof(block));
     u32 marker_line = reading->lines_read;  // the block's start marker, counted by the caller
-    position = ReadBlockLines(position, end, reading, SRC_WORD_CREATE_GADGET, block.name, &block,
-                              [](const char *line, void *into) {
-                                  return ParseGadgetLine(line, &gadget_init, (T_GADGET_BLOCK *)into);
-                              });
+    position = ReadBlockLines(
+        position, end, reading, SRC_WORD_CREATE_GADGET, block.name, &block,
+        [](const char *line, void *into) { return ParseGadgetLine(line, &gadget_init, (T_GADGET_BLOCK *)into); });
     i16 tool = ToolOfType((u16)gadget_init.type, gadget_init.flags);
     if (!tool)
         return position;
@@ -219,15 +217,16 @@ const char *ReadWindowBlock(t_Window *parent, const char *position, const char *
     window.colour = 0xFFFFFFFF;
     u32 marker_line = reading->lines_read;  // the WINDOW marker, counted by the caller
     char name[READER_NAME_SIZE] = "";
-    position = ReadBlockLines(position, end, reading, SRC_WORD_CREATE_WINDOW, name, &window,
-                              [](const char *line, void *into) { return ParseWindowLine(line, (T_WINDOW_READ *)into); });
+    position =
+        ReadBlockLines(position, end, reading, SRC_WORD_CREATE_WINDOW, name, &window,
+                       [](const char *line, void *into) { return ParseWindowLine(line, (T_WINDOW_READ *)into); });
 
     // Only the size comes from the file; the place comes from the parent's cascade. A size that
     // is no page's (zero, negative, below the smallest page) makes no window, which the opening
     // tells, rather than a page that nobody could see.
     if (window.init.w < PAGE_MIN_WIDTH || window.init.h < PAGE_MIN_HEIGHT) {
-        myprintf(0, SRC_READ_SMALL_WINDOW, ReadingSource(reading), (unsigned)marker_line, window.init.w,
-                 window.init.h, PAGE_MIN_WIDTH, PAGE_MIN_HEIGHT);
+        myprintf(0, SRC_READ_SMALL_WINDOW, ReadingSource(reading), (unsigned)marker_line, window.init.w, window.init.h,
+                 PAGE_MIN_WIDTH, PAGE_MIN_HEIGHT);
         return position;
     }
     i16 k = (i16)(parent->cascade_index * 16);

@@ -1,7 +1,7 @@
 // SavePage: the walk of a save, from the tab links and the type order through the backup to the
 // MESSAGE block, the PAGE block with the WINDOW block and one GADGET block for each gadget.
-#include <stdio.h>
 #include <algorithm>
+#include <stdio.h>
 #include <vector>
 
 #include "source/backup.h"
@@ -10,7 +10,6 @@
 #include "source/source_writer.h"
 
 #define SAVE_MESSAGE_SIZE 1024  // a message box's text about a save: a path and a reason
-
 
 void SaveMessageFunction(u32 idcmp, const char *plain_name, t_Gaget_Handler *gadget_handler)
 {
@@ -137,8 +136,7 @@ int SavePage(t_Window *window, const char *path)
             return 0;
         case BACKUP_NOT_WRITTEN:  // the document is written all the same; the message stays
             // when the page closes after the save (the close query's Yes)
-            TellSaveError(window->parent ? window->parent : window, SRC_SAVE_ERROR_BACKUP_COPY,
-                          BackupFailure());
+            TellSaveError(window->parent ? window->parent : window, SRC_SAVE_ERROR_BACKUP_COPY, BackupFailure());
             break;
         default:
             break;
@@ -156,8 +154,7 @@ int SavePage(t_Window *window, const char *path)
         u32 number = 1;
         for (t_gadget *g = gadget_handler->first_gadget; g->next; g = g->next, number++) {
             if (number & 1)  // the bar moves at every second gadget
-                UpdateProgressBar(bar, number,
-                                  g->name && g->name[0] ? g->name : SRC_SAVE_BAR_UNTITLED);
+                UpdateProgressBar(bar, number, g->name && g->name[0] ? g->name : SRC_SAVE_BAR_UNTITLED);
             SaveGadget(g, &previous_values, full);
         }
     }

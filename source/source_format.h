@@ -92,16 +92,16 @@
 #define SRC_SAVE_BAR_BACKUP "Backing up document"
 #define SRC_SAVE_BAR_UNTITLED "Untitled"
 #define SRC_SAVE_ERROR_TITLE "Document Save error"
-#define SRC_SAVE_ERROR_BACKUP                                                                      \
-    "A backup copy of the document could not be saved. Saving will be aborted. Check file and "   \
+#define SRC_SAVE_ERROR_BACKUP                                                                                          \
+    "A backup copy of the document could not be saved. Saving will be aborted. Check file and "                        \
     "path destinations, and check there is enough free memory for this operation."
 // printf form: the file's path, then the reason that the toolkit gives.
-#define SRC_SAVE_ERROR_WRITE                                                                       \
-    "The document could not be written to %s: %s. The file that stood there, if any, is "        \
+#define SRC_SAVE_ERROR_WRITE                                                                                           \
+    "The document could not be written to %s: %s. The file that stood there, if any, is "                              \
     "unchanged."
 // printf form: the backup's path and the reason, as "PATH: REASON".
-#define SRC_SAVE_ERROR_BACKUP_COPY                                                                 \
-    "A backup copy of the document could not be written to %s. The document is saved without "    \
+#define SRC_SAVE_ERROR_BACKUP_COPY                                                                                     \
+    "A backup copy of the document could not be written to %s. The document is saved without "                         \
     "it; check the backup path in the settings."
 #define SRC_SAVE_ERROR_STYLE MSGBOX_ERROR
 #define SRC_SAVE_ERROR_ITEM_CODE 208

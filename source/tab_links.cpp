@@ -33,8 +33,7 @@ static int AddMember(T_TAB_INDEX *index, u32 number, u32 place)
 // The member's entry, or null.
 static const T_LINK_ENTRY *Member(const T_TAB_INDEX *index, const T_LINK_ENTRY *entries, u32 number)
 {
-    u32 place = number < index->dense_size ? index->dense[number]
-                                          : (u32)(uintptr_t)FirstHolder(&index->sparse, number);
+    u32 place = number < index->dense_size ? index->dense[number] : (u32)(uintptr_t)FirstHolder(&index->sparse, number);
     return place ? &entries[place - 1] : NULL;
 }
 

@@ -5,5 +5,4 @@
 #define TXT_WARNING_TITLE "Quillform warning"
 #define TXT_ALREADY_OPEN "File %s is already open."
 #define TXT_COULD_NOT_OPEN "Could not open page in file %s"
-#define TXT_DUPLICATES_REMAPPED \
-    "Duplicate item codes were found in this page, duplicate item codes have been remapped."
+#define TXT_DUPLICATES_REMAPPED "Duplicate item codes were found in this page, duplicate item codes have been remapped."

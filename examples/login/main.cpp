@@ -1,6 +1,8 @@
 // The login example: a program built on a page made in Quillform (login_page.cpp).
 #include "quillform_app.h"
-#include "login_page.cpp"  // Quillform's file, rewritten whole at each save: no code of ours in it
+
+// Quillform's file, rewritten whole at each save: no code of ours in it. It needs the toolkit first.
+#include "login_page.cpp"
 
 void StartLogin(T_WINDOW *win);  // login_events.cpp: our own code
 

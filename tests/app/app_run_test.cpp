@@ -29,6 +29,7 @@ struct TAB_CASE {
 
 static const u16 T_BUTTON = GADGET_TYPE_BUTTON, T_TEXT = GADGET_TYPE_TEXT, T_STRING = GADGET_TYPE_STRING;
 
+// clang-format off
 static const TAB_CASE tab_cases[] = {
     {"the head of the chain, wherever it stands in the list",
      {{T_BUTTON, 0, 3, 2}, {T_BUTTON, 0, 1, 3}, {T_BUTTON, 0, TAB_FIRST | 2, 1}}, 2},
@@ -45,18 +46,20 @@ static const TAB_CASE tab_cases[] = {
     {"a chain that loops without its head ends: the first stop in list order",
      {{T_TEXT, 0, TAB_FIRST | 3, 2}, {T_TEXT, 0, 3, 3}, {T_TEXT, 0, 2, 2}, {T_BUTTON, 0, 0, 0}}, 3},
     {"a chain naming a missing gadget ends there", {{T_TEXT, 0, TAB_FIRST, 9}, {T_STRING, 0, 0, 0}}, 1},
-    {"nothing takes the focus", {{T_TEXT, 0, 0, 0}, {T_TEXT, 0, 0, 0}}, -1},
+    {"nothing takes the focus",                    {{T_TEXT, 0, 0, 0}, {T_TEXT, 0, 0, 0}},           -1},
 };
+// clang-format on
 
-TEST_F(LumoraTest, FocusStartsOnTheFirstGadgetOfTheTabOrder) {
+TEST_F(LumoraTest, FocusStartsOnTheFirstGadgetOfTheTabOrder)
+{
     for (const TAB_CASE &c : tab_cases) {
         SCOPED_TRACE(c.what);
         t_Window *w = MakeWindow("Page", 10, 10, 300, 200, WF_TITLE, 0);
         std::vector<t_gadget *> made;
         for (size_t i = 0; i < c.gadgets.size(); i++) {
             const TAB_GADGET &g = c.gadgets[i];
-            t_gadget *gadget = MakeGadget(w, "gadget", g.type, 10, (i16)(10 + 24 * i), 80, 20, (u32)i + 1,
-                                          ACT_LMOUSE_UP, g.flags);
+            t_gadget *gadget =
+                MakeGadget(w, "gadget", g.type, 10, (i16)(10 + 24 * i), 80, 20, (u32)i + 1, ACT_LMOUSE_UP, g.flags);
             ASSERT_NE(gadget, nullptr);
             gadget->tab[0] = g.tab0, gadget->tab[1] = g.tab1;
             made.push_back(gadget);
@@ -71,31 +74,38 @@ TEST_F(LumoraTest, FocusStartsOnTheFirstGadgetOfTheTabOrder) {
 
 // --- Running the page's window ------------------------------------------------------------------
 
-static u32 PageLikeMsg(t_Window *window, u32, u32 msg, void *) {
-    if (msg == ACT_TERMINATE) RemoveWindow(window);
+static u32 PageLikeMsg(t_Window *window, u32, u32 msg, void *)
+{
+    if (msg == ACT_TERMINATE)
+        RemoveWindow(window);
     return 0;
 }
 
-static u32 StubbornMsg(t_Window *, u32, u32, void *) {
+static u32 StubbornMsg(t_Window *, u32, u32, void *)
+{
     return 0;
 }
 
 // The toolkit opened as a program opens it, in a fresh data root.
-class AppRunTest : public ::testing::Test {
+class AppRunTest : public ::testing::Test
+{
   protected:
-    void SetUp() override {
+    void SetUp() override
+    {
         char pattern[] = "/tmp/app_run_test_XXXXXX";
         ASSERT_NE(mkdtemp(pattern), nullptr);
         data_root = pattern;
         _OstrandBase->log_level = 0;
         ASSERT_TRUE(SetDataRoot(data_root.c_str()));
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         CloseToolkit();
         unsetenv("QF_HEADLESS");
         std::filesystem::remove_all(data_root);
     }
-    int Open(std::vector<const char *> args) {
+    int Open(std::vector<const char *> args)
+    {
         args.insert(args.begin(), "page_program");
         return OpenAppToolkit((int)args.size(), (char **)args.data());
     }
@@ -108,10 +118,11 @@ struct CHOICE_CASE {
     int headless;
 };
 
-TEST_F(AppRunTest, HeadlessByFlagOrVariableElseSdl) {
+TEST_F(AppRunTest, HeadlessByFlagOrVariableElseSdl)
+{
     static const CHOICE_CASE cases[] = {
-        {{"--headless"}, nullptr, 1}, {{"--other", "--headless"}, "0", 1}, {{}, "1", 1},
-        {{}, "0", 0},                 {{}, "", 0},                         {{"--headlessly"}, nullptr, 0},
+        {{"--headless"}, nullptr, 1},   {{"--other", "--headless"}, "0", 1}, {{}, "1", 1}, {{}, "0", 0}, {{}, "", 0},
+        {{"--headlessly"}, nullptr, 0},
     };
     setenv("SDL_VIDEODRIVER", "dummy", 1);
     for (const CHOICE_CASE &c : cases) {
@@ -129,7 +140,8 @@ TEST_F(AppRunTest, HeadlessByFlagOrVariableElseSdl) {
     }
 }
 
-TEST_F(AppRunTest, HeadlessRunPrintsTheWindowAndEndsItAsItsCloseGadget) {
+TEST_F(AppRunTest, HeadlessRunPrintsTheWindowAndEndsItAsItsCloseGadget)
+{
     ASSERT_TRUE(Open({"--headless"}));
     t_Window *w = MakeWindow("Login", 120, 90, 300, 200, WF_TITLE | WF_CLOSE, IDCMP_TERMINATE, nullptr, PageLikeMsg);
     MakeGadget(w, "User name", T_TEXT, 10, 10, 80, 20, 5, 0);
@@ -138,18 +150,18 @@ TEST_F(AppRunTest, HeadlessRunPrintsTheWindowAndEndsItAsItsCloseGadget) {
     SetStringGadgetText(field, "ann");
     testing::internal::CaptureStdout();
     EXPECT_EQ(RunAppWindow(w), 0);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "window \"Login\" 300x200\n"
-              "gadget 5 text \"User name\" at 10,10 size 80x20\n"
-              "gadget 1 string \"ann\" at 100,10 size 120x20 focus\n"
-              "gadget 10 button \"Log in\" at 100,40 size 80x24\n");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "window \"Login\" 300x200\n"
+                                                      "gadget 5 text \"User name\" at 10,10 size 80x20\n"
+                                                      "gadget 1 string \"ann\" at 100,10 size 120x20 focus\n"
+                                                      "gadget 10 button \"Log in\" at 100,40 size 80x24\n");
     EXPECT_EQ(FindWindowByName(nullptr, "Login"), nullptr);
     // The screen took the window's size.
     EXPECT_EQ(CURRENT_DISPLAY->width, 300);
     EXPECT_EQ(CURRENT_DISPLAY->height, 200);
 }
 
-TEST_F(AppRunTest, WindowThatWontEndOrIsMissingFails) {
+TEST_F(AppRunTest, WindowThatWontEndOrIsMissingFails)
+{
     ASSERT_TRUE(Open({"--headless"}));
     EXPECT_EQ(RunAppWindow(nullptr), 1);
     t_Window *w = MakeWindow("Stubborn", 0, 0, 200, 100, WF_TITLE, IDCMP_TERMINATE, nullptr, StubbornMsg);
@@ -161,10 +173,11 @@ TEST_F(AppRunTest, WindowThatWontEndOrIsMissingFails) {
     EXPECT_TRUE(IsWindowLive(w));
 }
 
-TEST_F(AppRunTest, FullScreenPageKeepsTheScreenAndFillsIt) {
+TEST_F(AppRunTest, FullScreenPageKeepsTheScreenAndFillsIt)
+{
     ASSERT_TRUE(Open({"--headless"}));
-    t_Window *w = MakeWindow("Wide", 40, 40, 200, 100, WF_TITLE | WF_OPEN_FULLSCREEN, IDCMP_TERMINATE, nullptr,
-                             PageLikeMsg);
+    t_Window *w =
+        MakeWindow("Wide", 40, 40, 200, 100, WF_TITLE | WF_OPEN_FULLSCREEN, IDCMP_TERMINATE, nullptr, PageLikeMsg);
     testing::internal::CaptureStdout();
     EXPECT_EQ(RunAppWindow(w), 0);
     EXPECT_EQ(testing::internal::GetCapturedStdout().rfind("window \"Wide\" 800x600\n", 0), 0u);
@@ -172,15 +185,19 @@ TEST_F(AppRunTest, FullScreenPageKeepsTheScreenAndFillsIt) {
 }
 
 // The SDL window whose title and size a program sets: the only one open.
-static SDL_Window *OpenSdlWindow() {
+static SDL_Window *OpenSdlWindow()
+{
     for (Uint32 id = 1; id < 256; id++)
-        if (SDL_Window *window = SDL_GetWindowFromID(id)) return window;
+        if (SDL_Window *window = SDL_GetWindowFromID(id))
+            return window;
     return nullptr;
 }
 
-TEST_F(AppRunTest, SdlWindowTakesThePageNameAndSizeAndEndsWithIt) {
+TEST_F(AppRunTest, SdlWindowTakesThePageNameAndSizeAndEndsWithIt)
+{
     setenv("SDL_VIDEODRIVER", "dummy", 1);
-    if (!Open({})) GTEST_SKIP() << "SDL can't start here";
+    if (!Open({}))
+        GTEST_SKIP() << "SDL can't start here";
     t_Window *w = MakeWindow("Login", 50, 60, 300, 200, WF_TITLE | WF_CLOSE, IDCMP_TERMINATE, nullptr, PageLikeMsg);
     // Closing the program's window asks each window to end; the page's message function does.
     SDL_Event quit = {};

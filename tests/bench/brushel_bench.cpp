@@ -14,17 +14,20 @@
 struct BenchScreen {
     std::vector<u32> pixels;
     T_SURFACE surface;
-    BenchScreen() : pixels(BENCH_WIDTH * BENCH_HEIGHT), surface{pixels.data(), BENCH_WIDTH, BENCH_HEIGHT, BENCH_WIDTH} {
+    BenchScreen() : pixels(BENCH_WIDTH * BENCH_HEIGHT), surface{pixels.data(), BENCH_WIDTH, BENCH_HEIGHT, BENCH_WIDTH}
+    {
         SetDrawSurface(&surface);
         InitFonts(nullptr);
     }
-    ~BenchScreen() {
+    ~BenchScreen()
+    {
         CloseFonts();
         SetDrawSurface(nullptr);
     }
 };
 
-static void BM_FillScreen(benchmark::State &state) {
+static void BM_FillScreen(benchmark::State &state)
+{
     BenchScreen screen;
     u32 colour = 0;
     for (auto _ : state) {
@@ -35,15 +38,18 @@ static void BM_FillScreen(benchmark::State &state) {
 }
 BENCHMARK(BM_FillScreen);
 
-static void BM_TextLineWarmCache(benchmark::State &state) {
+static void BM_TextLineWarmCache(benchmark::State &state)
+{
     BenchScreen screen;
     DrawText(10, 10, BENCH_LINE, 0);
-    for (auto _ : state) benchmark::DoNotOptimize(DrawText(10, 10, BENCH_LINE, 0x00FFFFFF));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(DrawText(10, 10, BENCH_LINE, 0x00FFFFFF));
 }
 BENCHMARK(BM_TextLineWarmCache);
 
 // Every line renders its glyphs anew from a font just loaded.
-static void BM_TextLineColdCache(benchmark::State &state) {
+static void BM_TextLineColdCache(benchmark::State &state)
+{
     BenchScreen screen;
     for (auto _ : state) {
         state.PauseTiming();
@@ -61,7 +67,8 @@ BENCHMARK(BM_TextLineColdCache);
 
 // What a turn of the loop paints: the desktop, a framed window with a title, gadget bevels with
 // labels, and a dotted rubber band.
-static void BM_RepaintScreen(benchmark::State &state) {
+static void BM_RepaintScreen(benchmark::State &state)
+{
     BenchScreen screen;
     for (auto _ : state) {
         DrawRectangle(0, 0, BENCH_WIDTH, BENCH_HEIGHT, 0x705030);

@@ -100,8 +100,8 @@ static void BM_RepaintPage(benchmark::State &state)
     SelectedPage(&h, state.range(0));
     for (auto _ : state)
         RefreshHandlers(NULL);
-    state.counters["time_per_gadget"] = benchmark::Counter(
-        (double)state.iterations() * state.range(0), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * state.range(0),
+                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     HarnessStop(&h, 0);
 }
 BENCHMARK(BM_RepaintPage)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
@@ -132,8 +132,8 @@ static void BM_DragStep(benchmark::State &state)
     }
     PushEvent(INPUT_MOUSE_UP, x, y, 1);
     RefreshHandlers(NULL);
-    state.counters["time_per_gadget"] = benchmark::Counter(
-        (double)state.iterations() * state.range(0), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * state.range(0),
+                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     HarnessStop(&h, 0);
 }
 BENCHMARK(BM_DragStep)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);

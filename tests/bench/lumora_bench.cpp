@@ -12,7 +12,8 @@
 #define BENCH_HEIGHT 800
 #define BENCH_BUTTONS 20
 
-static void BM_LumoraFullRepaint(benchmark::State &state) {
+static void BM_LumoraFullRepaint(benchmark::State &state)
+{
     char pattern[] = "/tmp/lumora_bench_XXXXXX";
     if (!mkdtemp(pattern) || !OpenToolkit("headless", BENCH_WIDTH, BENCH_HEIGHT, pattern)) {
         state.SkipWithError("the headless toolkit can't be opened");
@@ -32,7 +33,8 @@ static void BM_LumoraFullRepaint(benchmark::State &state) {
         CreateObject(&gh->head, name.c_str(), &gi);
     }
     RefreshHandlers(nullptr);  // warms the glyph cache
-    for (auto _ : state) RefreshHandlers(nullptr);
+    for (auto _ : state)
+        RefreshHandlers(nullptr);
     CloseToolkit();
     std::filesystem::remove_all(pattern);
 }

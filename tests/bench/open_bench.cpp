@@ -11,7 +11,8 @@
 #include "source/open_page.h"
 #include "source/source_writer.h"
 
-namespace {
+namespace
+{
 
 // A page file of `count` gadgets of mixed kinds, each with a hover text, the tab order running
 // through all of them, and a tenth of the item codes doubled, written by the editor itself.
@@ -73,13 +74,19 @@ void OpenPages(benchmark::State &state, int and_save)
         RefreshHandlers(NULL);
         state.ResumeTiming();
     }
-    state.counters["time_per_gadget"] = benchmark::Counter(
-        (double)state.iterations() * count, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * count,
+                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     HarnessStop(&h, 0);
 }
 
-void BM_OpenPage(benchmark::State &state) { OpenPages(state, 0); }
-void BM_OpenAndSavePage(benchmark::State &state) { OpenPages(state, 1); }
+void BM_OpenPage(benchmark::State &state)
+{
+    OpenPages(state, 0);
+}
+void BM_OpenAndSavePage(benchmark::State &state)
+{
+    OpenPages(state, 1);
+}
 
 BENCHMARK(BM_OpenPage)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_OpenAndSavePage)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);

@@ -8,20 +8,20 @@
 #include "page/records.h"
 #include "source/source_writer.h"
 
-namespace {
+namespace
+{
 
 // A page of `count` gadgets of mixed types, every one with an item code and a tab index in
 // reverse list order, so that the tab links and the type order have real work.
 t_Window *MakeLargePage(u32 count)
 {
-    static const u16 types[] = {GADGET_TYPE_BUTTON, GADGET_TYPE_STRING, GADGET_TYPE_TEXT,
-                                GADGET_TYPE_CHECK_BOX, GADGET_TYPE_RADIOBUTTON};
+    static const u16 types[] = {GADGET_TYPE_BUTTON, GADGET_TYPE_STRING, GADGET_TYPE_TEXT, GADGET_TYPE_CHECK_BOX,
+                                GADGET_TYPE_RADIOBUTTON};
     T_WINDOWOBJINIT win_init;
     memset(&win_init, 0, sizeof(win_init));
     win_init.x = 16, win_init.y = 16, win_init.w = 640, win_init.h = 480;
     win_init.flags = WF_TITLE | WF_CLOSE | WF_MOVE;
-    t_Window *window =
-        (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, "Large Page", &win_init);
+    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, "Large Page", &win_init);
     window->idcmp = IDCMP_TERMINATE | IDCMP_KEY;
     t_Gaget_Handler *gh = NewGadgetHandler(window);
     for (u32 i = 0; i < count; i++) {
@@ -63,8 +63,8 @@ void BM_SavePage(benchmark::State &state)
     for (auto _ : state)
         SavePage(window, path.c_str());
     state.SetItemsProcessed(state.iterations() * count);
-    state.counters["time_per_gadget"] = benchmark::Counter(
-        (double)state.iterations() * count, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * count,
+                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 
     editor_config = saved_config;
     CloseToolkit();

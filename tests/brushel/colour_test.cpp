@@ -3,7 +3,8 @@
 
 #include "toolkit.h"
 
-TEST(Colour, KnownColoursInHSI) {
+TEST(Colour, KnownColoursInHSI)
+{
     const struct {
         const char *what;
         T_RGBA rgb;
@@ -13,8 +14,8 @@ TEST(Colour, KnownColoursInHSI) {
         {"white", {255, 255, 255, 255}, {0, 0, 255, 255}},
         {"grey", {128, 128, 128, 0}, {0, 0, 128, 0}},
         {"red", {255, 0, 0, 255}, {0, 255, 85, 255}},
-        {"green", {0, 255, 0, 255}, {85, 255, 85, 255}},   // 120 degrees
-        {"blue", {0, 0, 255, 255}, {170, 255, 85, 255}},   // 240 degrees
+        {"green", {0, 255, 0, 255}, {85, 255, 85, 255}},  // 120 degrees
+        {"blue", {0, 0, 255, 255}, {170, 255, 85, 255}},  // 240 degrees
         {"yellow", {255, 255, 0, 255}, {42.5f, 255, 170, 255}},
         {"pale red", {200, 100, 100, 255}, {0, 63.75f, 133.333f, 255}},
     };
@@ -36,11 +37,13 @@ TEST(Colour, KnownColoursInHSI) {
 }
 
 // Every colour of a 6-step cube, and some near the grey axis, survive the round trip.
-TEST(Colour, HSIRoundTripIsStable) {
+TEST(Colour, HSIRoundTripIsStable)
+{
     std::vector<T_RGBA> colours;
     for (int r = 0; r <= 255; r += 51)
         for (int g = 0; g <= 255; g += 51)
-            for (int b = 0; b <= 255; b += 51) colours.push_back({(float)r, (float)g, (float)b, 255});
+            for (int b = 0; b <= 255; b += 51)
+                colours.push_back({(float)r, (float)g, (float)b, 255});
     colours.push_back({100, 100, 101, 0});
     colours.push_back({254, 255, 255, 0});
     colours.push_back({1, 0, 0, 0});

@@ -18,7 +18,8 @@ struct ClipCase {
 };
 
 // A filled rectangle changes exactly the pixels inside it, the clip and the surface.
-TEST_F(DrawTest, RectangleIsCutByClipAndSurface) {
+TEST_F(DrawTest, RectangleIsCutByClipAndSurface)
+{
     const ClipCase cases[] = {
         {"inside", 0, 0, kWidth, kHeight, 5, 6, 10, 7},
         {"straddles left and top", 10, 10, 40, 40, 4, 3, 12, 12},
@@ -49,15 +50,18 @@ struct LineCase {
     i16 x1, y1, x2, y2;
 };
 
+// clang-format off
 static const LineCase line_cases[] = {
-    {"horizontal", 3, 7, 40, 7},       {"horizontal backwards", 40, 9, 3, 9},
-    {"vertical", 12, 2, 12, 30},       {"diagonal", 2, 2, 30, 30},
-    {"anti-diagonal", 30, 4, 4, 30},   {"shallow", 1, 1, 50, 12},
-    {"steep backwards", 20, 40, 14, 3}, {"one point", 9, 9, 9, 9},
+    {"horizontal",      3,  7,  40, 7},       {"horizontal backwards", 40, 9, 3,  9},
+    {"vertical",        12, 2,  12, 30},       {"diagonal",            2,  2, 30, 30},
+    {"anti-diagonal",   30, 4,  4,  30},   {"shallow",                 1,  1, 50, 12},
+    {"steep backwards", 20, 40, 14, 3}, {"one point",                  9,  9, 9,  9},
 };
+// clang-format on
 
 // A clipped line is the unclipped line cut to the clip, pixel for pixel.
-TEST_F(DrawTest, ClippedLineIsTheLineCutToTheClip) {
+TEST_F(DrawTest, ClippedLineIsTheLineCutToTheClip)
+{
     for (const LineCase &c : line_cases) {
         SCOPED_TRACE(c.what);
         Clear();
@@ -75,16 +79,20 @@ TEST_F(DrawTest, ClippedLineIsTheLineCutToTheClip) {
     }
 }
 
-static std::set<std::pair<int, int>> FramePixels(int x, int y, int w, int h) {
+static std::set<std::pair<int, int>> FramePixels(int x, int y, int w, int h)
+{
     std::set<std::pair<int, int>> set;
-    for (int i = 0; i < w; i++) set.insert({x + i, y}), set.insert({x + i, y + h - 1});
-    for (int j = 0; j < h; j++) set.insert({x, y + j}), set.insert({x + w - 1, y + j});
+    for (int i = 0; i < w; i++)
+        set.insert({x + i, y}), set.insert({x + i, y + h - 1});
+    for (int j = 0; j < h; j++)
+        set.insert({x, y + j}), set.insert({x + w - 1, y + j});
     return set;
 }
 
 // Dots two on, two off, on the frame only; each phase moves them one pixel on, so that over the
 // four phases every frame pixel is lit exactly twice.
-TEST_F(DrawTest, DottedBoxRunsWithPhase) {
+TEST_F(DrawTest, DottedBoxRunsWithPhase)
+{
     const i16 x = 4, y = 6, w = 17, h = 10;
     auto frame = FramePixels(x, y, w, h);
     std::map<std::pair<int, int>, int> lit;
@@ -100,7 +108,8 @@ TEST_F(DrawTest, DottedBoxRunsWithPhase) {
                     lit[{px, py}]++;
                 }
     }
-    for (auto p : frame) EXPECT_EQ(lit[p], 2) << p.first << "," << p.second;
+    for (auto p : frame)
+        EXPECT_EQ(lit[p], 2) << p.first << "," << p.second;
     for (u16 phase = 0; phase < 4; phase++) {
         const std::vector<u32> &now = by_phase[phase], &next = by_phase[(phase + 1) % 4];
         EXPECT_EQ(now[y * kWidth + x] == INK && now[y * kWidth + x + 1] == INK, phase == 0);
@@ -112,21 +121,23 @@ TEST_F(DrawTest, DottedBoxRunsWithPhase) {
     EXPECT_EQ(pixels, by_phase[0]);
 }
 
-TEST_F(DrawTest, IconsComeFromTheirBankAndScale) {
+TEST_F(DrawTest, IconsComeFromTheirBankAndScale)
+{
     T_TEXTURE_BANK *bank = NewTextureBank("test", 3, 2, 2);
     ASSERT_NE(bank, nullptr);
     EXPECT_TRUE(std::all_of(bank->pixels, bank->pixels + 12, [](u32 p) { return p == 0; }));
     const u32 icon[4] = {0xFF0000FF, 0xFF00FF00, 0xFFFF0000, 0xFFFFFFFF};
     std::copy(icon, icon + 4, bank->pixels + 4);  // icon 1
-    DrawIcon(bank, 0, 0, 0);                       // fully transparent
-    DrawIcon(bank, 3, 0, 0);                       // no such icon
+    DrawIcon(bank, 0, 0, 0);                      // fully transparent
+    DrawIcon(bank, 3, 0, 0);                      // no such icon
     EXPECT_EQ(CountChanged(), 0);
     DrawIcon(bank, 1, 10, 10);
     EXPECT_EQ(At(11, 11), 0x00FFFFFFu);
     Clear();
     DrawIconScaled(bank, 1, 20, 20, 4, 4);  // each icon pixel becomes a 2 by 2 block
     for (i32 y = 0; y < 4; y++)
-        for (i32 x = 0; x < 4; x++) EXPECT_EQ(At(20 + x, 20 + y), icon[(y / 2) * 2 + x / 2] & 0xFFFFFF);
+        for (i32 x = 0; x < 4; x++)
+            EXPECT_EQ(At(20 + x, 20 + y), icon[(y / 2) * 2 + x / 2] & 0xFFFFFF);
     EXPECT_EQ(CountChanged(), 16);
     FreeTextureBank(bank);
 }

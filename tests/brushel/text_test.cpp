@@ -9,13 +9,16 @@
 #define TEXT_INK 0x00FFFFFFu
 #define FONT_FOLDER "/usr/share/fonts/truetype/dejavu"
 
-class TextTest : public SurfaceTest {
+class TextTest : public SurfaceTest
+{
   protected:
-    void SetUp() override {
+    void SetUp() override
+    {
         SurfaceTest::SetUp();
         ASSERT_TRUE(InitFonts(nullptr));
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         CloseFonts();
         SurfaceTest::TearDown();
     }
@@ -23,7 +26,8 @@ class TextTest : public SurfaceTest {
 
 // "Hello" lights pixels, all inside the box of its width and the line height, and the same text
 // cut by a clip changes nothing outside the clip.
-TEST_F(TextTest, TextStaysInsideItsBoxAndClip) {
+TEST_F(TextTest, TextStaysInsideItsBoxAndClip)
+{
     const i16 x = 5, y = 8;
     for (u16 style = 0; style < 4; style++) {
         SCOPED_TRACE(style);
@@ -52,15 +56,16 @@ TEST_F(TextTest, TextStaysInsideItsBoxAndClip) {
     SetFontStyle(0);
 }
 
-TEST_F(TextTest, Utf8IsReadAndUnknownCharactersShowAsQuestionMarks) {
+TEST_F(TextTest, Utf8IsReadAndUnknownCharactersShowAsQuestionMarks)
+{
     const struct {
         const char *text, *same_as;
     } cases[] = {
-        {"caf\xC3\xA9", "caf\xE9"},        // two-byte UTF-8 and the Latin-1 byte
-        {"\xE2\x82\xAC", "?"},             // the euro sign is past Latin-1
-        {"a\xF0\x9F\x98\x80z", "a?z"},     // so is an emoji
-        {"\xC3", "\xC3"},                  // a cut sequence reads as Latin-1
-        {"\x01", "?"},                     // a control character has no glyph
+        {"caf\xC3\xA9", "caf\xE9"},     // two-byte UTF-8 and the Latin-1 byte
+        {"\xE2\x82\xAC", "?"},          // the euro sign is past Latin-1
+        {"a\xF0\x9F\x98\x80z", "a?z"},  // so is an emoji
+        {"\xC3", "\xC3"},               // a cut sequence reads as Latin-1
+        {"\x01", "?"},                  // a control character has no glyph
     };
     for (auto c : cases) {
         EXPECT_EQ(GetStringWidth(c.text), GetStringWidth(c.same_as)) << c.same_as;
@@ -68,7 +73,8 @@ TEST_F(TextTest, Utf8IsReadAndUnknownCharactersShowAsQuestionMarks) {
     }
 }
 
-TEST_F(TextTest, FontsAreFoundInFolderSystemAndPathWithTheirFamily) {
+TEST_F(TextTest, FontsAreFoundInFolderSystemAndPathWithTheirFamily)
+{
     std::string folder = testing::TempDir() + "brushel_fonts";
     std::filesystem::create_directories(folder);
     std::filesystem::copy_file(FONT_FOLDER "/DejaVuSerif.ttf", folder + "/Custom.ttf",
@@ -78,10 +84,10 @@ TEST_F(TextTest, FontsAreFoundInFolderSystemAndPathWithTheirFamily) {
         const char *name;
         bool has_bold_face;
     } cases[] = {
-        {"Custom.ttf", false},                    // the font folder; no family beside it
-        {"DejaVuSansMono.ttf", true},             // the system's fonts
-        {FONT_FOLDER "/DejaVuSerif.ttf", true},   // a path; the family uses -Bold, -Italic
-        {"DejaVuMathTeXGyre.ttf", false},         // no family at all
+        {"Custom.ttf", false},                   // the font folder; no family beside it
+        {"DejaVuSansMono.ttf", true},            // the system's fonts
+        {FONT_FOLDER "/DejaVuSerif.ttf", true},  // a path; the family uses -Bold, -Italic
+        {"DejaVuMathTeXGyre.ttf", false},        // no family at all
     };
     for (auto c : cases) {
         SCOPED_TRACE(c.name);
@@ -106,7 +112,8 @@ TEST_F(TextTest, FontsAreFoundInFolderSystemAndPathWithTheirFamily) {
     std::filesystem::remove_all(folder);
 }
 
-TEST_F(TextTest, MissingFontIsLoggedAndTextWithoutFontsDrawsNothing) {
+TEST_F(TextTest, MissingFontIsLoggedAndTextWithoutFontsDrawsNothing)
+{
     testing::internal::CaptureStderr();
     EXPECT_EQ(LoadFont("NoSuchFont.ttf", 13), nullptr);
     EXPECT_NE(testing::internal::GetCapturedStderr().find("NoSuchFont.ttf"), std::string::npos);

@@ -7,9 +7,11 @@
 #include "display/display.h"
 #include "toolkit.h"
 
-TEST(SdlDisplay, OpensPresentsPollsAndCloses) {
+TEST(SdlDisplay, OpensPresentsPollsAndCloses)
+{
     setenv("SDL_VIDEODRIVER", "dummy", 1);
-    if (!display_sdl.open(320, 200, "Quillform test")) GTEST_SKIP() << "SDL can't start here";
+    if (!display_sdl.open(320, 200, "Quillform test"))
+        GTEST_SKIP() << "SDL can't start here";
     i32 width, height, pitch;
     u32 *pixels = display_sdl.pixels(&width, &height, &pitch);
     ASSERT_NE(pixels, nullptr);

@@ -6,8 +6,9 @@
 #include "source/source_writer.h"
 #include "tests/editor/editor_fixture.h"
 
-class ArrangeTest : public PageTest {
-protected:
+class ArrangeTest : public PageTest
+{
+  protected:
     void SetUp() override
     {
         PageTest::SetUp();
@@ -74,12 +75,8 @@ TEST_F(ArrangeTest, ArrowKeysNudgeTheMarkedGadgets)
         i16 dx, dy;
         u32 records;
     } const cases[] = {
-        {KEY_RIGHT, 0, true, 1, 0, 2},
-        {KEY_LEFT, QUAL_SHIFT, true, -8, 0, 2},
-        {KEY_DOWN, 0, true, 0, 1, 2},
-        {KEY_UP, QUAL_SHIFT, true, 0, -8, 2},
-        {KEY_RIGHT, QUAL_CONTROL, true, 0, 0, 0},
-        {KEY_RIGHT, 0, false, 0, 0, 0},
+        {KEY_RIGHT, 0, true, 1, 0, 2},        {KEY_LEFT, QUAL_SHIFT, true, -8, 0, 2},   {KEY_DOWN, 0, true, 0, 1, 2},
+        {KEY_UP, QUAL_SHIFT, true, 0, -8, 2}, {KEY_RIGHT, QUAL_CONTROL, true, 0, 0, 0}, {KEY_RIGHT, 0, false, 0, 0, 0},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(testing::Message() << c.key << "/" << c.qualifiers << (c.marked ? " marked" : ""));
@@ -170,9 +167,9 @@ TEST_F(ArrangeTest, ReorderedCodesAndTheirTabLinksAreSaved)
                                         "\tcase 0x3:\t\t/*Fourth*/"}));
     // First (1) follows Third (2), which follows Fourth (3), the first of the order.
     EXPECT_EQ(Statements(text, "gadinit.tab[0]="),
-              (std::vector<std::string>{"\tgadinit.tab[0]=0x2;", "\tgadinit.tab[0]=0x0;",
-                                        "\tgadinit.tab[0]=0x3;", "\tgadinit.tab[0]=0x80000001;"}));
+              (std::vector<std::string>{"\tgadinit.tab[0]=0x2;", "\tgadinit.tab[0]=0x0;", "\tgadinit.tab[0]=0x3;",
+                                        "\tgadinit.tab[0]=0x80000001;"}));
     EXPECT_EQ(Statements(text, "gadinit.tab[1]="),
-              (std::vector<std::string>{"\tgadinit.tab[1]=0x3;", "\tgadinit.tab[1]=0x0;",
-                                        "\tgadinit.tab[1]=0x1;", "\tgadinit.tab[1]=0x2;"}));
+              (std::vector<std::string>{"\tgadinit.tab[1]=0x3;", "\tgadinit.tab[1]=0x0;", "\tgadinit.tab[1]=0x1;",
+                                        "\tgadinit.tab[1]=0x2;"}));
 }

@@ -32,8 +32,9 @@ static std::vector<std::string> GadgetBlocks(const std::string &text)
     return blocks;
 }
 
-class ClipboardTest : public PageTest {
-protected:
+class ClipboardTest : public PageTest
+{
+  protected:
     t_Window *second = NULL;  // another page, made on demand
 
     t_Window *SecondPage()
@@ -163,8 +164,8 @@ TEST_F(ClipboardTest, PasteTakesBlocksAndPassesOverWhatItCannotMake)
     struct {
         const char *name;
         std::string text;
-        u32 made;           // gadgets pasted
-        const char *log;    // what the log says, or null
+        u32 made;         // gadgets pasted
+        const char *log;  // what the log says, or null
     } const cases[] = {
         {"foreign text", "Dear diary,\nno gadgets today.\n", 0, "no GADGET block"},
         {"an empty clipboard", "", 0, "no GADGET block"},
@@ -207,12 +208,9 @@ TEST_F(ClipboardTest, PastedGadgetsStandByWhereTheyCameFrom)
         int other_page;
         T_GEOM last;  // the last gadget of the page pasted into
     } steps[] = {
-        {"copy", CMD_COPY, 0, {20, 30, 80, 20}},
-        {"paste", CMD_PASTE, 0, {28, 38, 80, 20}},
-        {"paste again", CMD_PASTE, 0, {36, 46, 80, 20}},
-        {"paste into another page", CMD_PASTE, 1, {20, 30, 80, 20}},
-        {"cut the first", CMD_CUT, 0, {36, 46, 80, 20}},
-        {"paste the cut back", CMD_PASTE, 0, {20, 30, 80, 20}},
+        {"copy", CMD_COPY, 0, {20, 30, 80, 20}},         {"paste", CMD_PASTE, 0, {28, 38, 80, 20}},
+        {"paste again", CMD_PASTE, 0, {36, 46, 80, 20}}, {"paste into another page", CMD_PASTE, 1, {20, 30, 80, 20}},
+        {"cut the first", CMD_CUT, 0, {36, 46, 80, 20}}, {"paste the cut back", CMD_PASTE, 0, {20, 30, 80, 20}},
         {"and again", CMD_PASTE, 0, {28, 38, 80, 20}},
     };
     for (const auto &s : steps) {
@@ -258,7 +256,13 @@ TEST_F(ClipboardTest, UndoAndRedoFollowPasteCutFlipAndNudge)
         {"undo the other", UNDO, 1, 2, {128, 10, 40, 20}, {10, 50, 60, 16}, 5},
         {"redo both", REDO, 2, 4, {128, 10, 40, 20}, {10, 50, 60, 16}, 5},
         {"cut the last", CUT_LAST, 1, 3, {128, 10, 40, 20}, {10, 50, 60, 16}, 5},
-        {"undo: the cut one's record does nothing, the next takes the other", UNDO, 2, 2, {128, 10, 40, 20}, {10, 50, 60, 16}, 5},
+        {"undo: the cut one's record does nothing, the next takes the other",
+         UNDO,
+         2,
+         2,
+         {128, 10, 40, 20},
+         {10, 50, 60, 16},
+         5},
     };
     u32 pasted_code = 0;
     for (const auto &s : steps) {

@@ -31,8 +31,9 @@ typedef std::array<i16, 4> T_GEOM;
 // After a step, the page's records must still hold together.
 #define CHECK_PAGE() EXPECT_EQ(CheckPageInvariants(page), "")
 
-class PageTest : public ::testing::Test {
-protected:
+class PageTest : public ::testing::Test
+{
+  protected:
     T_HARNESS harness;
     t_Window *page = NULL;
     T_WINEDIT_HANDLER *record = NULL;

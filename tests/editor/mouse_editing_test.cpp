@@ -151,7 +151,7 @@ TEST_F(PageTest, BackgroundPressInAHandleBoxResizesThatGadget)
     Move((i16)(x + 20), y);
     CHECK_PAGE();
     EXPECT_EQ(first->base_width, 60 + 2 + 20);  // the right side went to the mouse
-    EXPECT_TRUE(Modified());  // a handle resize marks the page at each repaint
+    EXPECT_TRUE(Modified());                    // a handle resize marks the page at each repaint
     u32 records = Records();
     Release((i16)(x + 20), y);
     CHECK_PAGE();

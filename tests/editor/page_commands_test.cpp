@@ -4,8 +4,9 @@
 
 #include "shell/menus.h"
 
-class CommandTest : public PageTest {
-protected:
+class CommandTest : public PageTest
+{
+  protected:
     // Gives the page a user area of w by h.
     void SizeUserArea(i16 w, i16 h)
     {
@@ -22,11 +23,8 @@ TEST_F(CommandTest, CentringHalvesBeforeSubtracting)
         u32 direction;
         i16 area, size, expected;
     } const cases[] = {
-        {CENTRE_HORIZONTAL, 300, 101, 100},
-        {CENTRE_HORIZONTAL, 301, 101, 100},
-        {CENTRE_HORIZONTAL, 300, 100, 100},
-        {CENTRE_VERTICAL, 200, 21, 90},
-        {CENTRE_VERTICAL, 201, 20, 90},
+        {CENTRE_HORIZONTAL, 300, 101, 100}, {CENTRE_HORIZONTAL, 301, 101, 100}, {CENTRE_HORIZONTAL, 300, 100, 100},
+        {CENTRE_VERTICAL, 200, 21, 90},     {CENTRE_VERTICAL, 201, 20, 90},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(testing::Message() << c.area << "/" << c.size);
@@ -67,10 +65,8 @@ TEST_F(CommandTest, SizeToContentsFitsTheTextInTheSystemFont)
         const char *name;
         int with_box, with_icon;
     } const cases[] = {
-        {TOOL_CHECK_BOX, 0, "New Checkbox", 1, 0},
-        {TOOL_CHECK_BOX, GADGET_FLAGS_ICON, "New Checkbox", 1, 1},
-        {TOOL_RADIO_BUTTON, 0, "New Radio button", 1, 0},
-        {TOOL_BUTTON, 0, "New Button", 0, 0},
+        {TOOL_CHECK_BOX, 0, "New Checkbox", 1, 0},        {TOOL_CHECK_BOX, GADGET_FLAGS_ICON, "New Checkbox", 1, 1},
+        {TOOL_RADIO_BUTTON, 0, "New Radio button", 1, 0}, {TOOL_BUTTON, 0, "New Button", 0, 0},
         {TOOL_TEXT, GADGET_FLAGS_ICON, "New Text", 0, 1},
     };
     for (const auto &c : cases) {
@@ -95,7 +91,7 @@ TEST_F(CommandTest, DeleteTakesTheMarkedOrTheCurrentGadget)
 {
     struct {
         int mark_a, mark_b;
-        int current;    // 0 none, 1 a, 2 b
+        int current;  // 0 none, 1 a, 2 b
         int a_stays, b_stays;
     } const cases[] = {
         {1, 0, 2, 0, 1},

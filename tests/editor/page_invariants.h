@@ -53,8 +53,7 @@ static inline void CheckHistory(t_Window *page, T_WINEDIT_HANDLER *record, std::
 
 // The page's kept set of item codes counts exactly the codes its gadgets hold, and no code below
 // its lowest free one is free.
-static inline void CheckItemCodes(t_Window *page, T_WINEDIT_HANDLER *record, t_Gaget_Handler *handler,
-                                  std::string &out)
+static inline void CheckItemCodes(t_Window *page, T_WINEDIT_HANDLER *record, t_Gaget_Handler *handler, std::string &out)
 {
     (void)page;
     if (!record->item_codes_valid)
@@ -99,9 +98,8 @@ static inline std::string CheckPageInvariants(t_Window *page)
             Violation(out, "gadget %ld: working size differs from the base size", index);
         i16 sx = (g->live_flags & GADGET_FLAGS_FROM_RIGHT) ? page->user_x + page->user_w - g->pos_x - g->base_width
                                                            : page->user_x + g->pos_x;
-        i16 sy = (g->live_flags & GADGET_FLAGS_FROM_BOTTOM)
-                     ? page->user_y + page->user_h - g->pos_y - g->base_height
-                     : page->user_y + g->pos_y;
+        i16 sy = (g->live_flags & GADGET_FLAGS_FROM_BOTTOM) ? page->user_y + page->user_h - g->pos_y - g->base_height
+                                                            : page->user_y + g->pos_y;
         if (g->screen_x != sx || g->screen_y != sy)
             Violation(out, "gadget %ld: screen position out of step", index);
         // A drag mark outlives the press only on a gadget whose selection went during it.

@@ -24,8 +24,8 @@ TEST_F(PageTest, SelectionCommandsSetClearAndToggleEveryMark)
     for (const auto &c : cases) {
         SCOPED_TRACE(c.command);
         for (int i = 0; i < 3; i++)
-            g[i]->live_flags = c.before[i] ? g[i]->live_flags | GADGET_MARK_SELECTED
-                                           : g[i]->live_flags & ~GADGET_MARK_SELECTED;
+            g[i]->live_flags =
+                c.before[i] ? g[i]->live_flags | GADGET_MARK_SELECTED : g[i]->live_flags & ~GADGET_MARK_SELECTED;
         Command(c.command);
         for (int i = 0; i < 3; i++)
             EXPECT_EQ(Marked(g[i]), c.after[i]) << i;

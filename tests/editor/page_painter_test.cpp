@@ -63,12 +63,9 @@ TEST_F(PageTest, HandlesShowOnTheCurrentGadgetWhenExactlyOneIsMarked)
         int tab_mode;
         t_gadget *expected;
     } const cases[] = {
-        {1, 0, a, 0, a},
-        {0, 1, a, 0, a},  // one marked while another is current: the current one has the handles
-        {1, 1, a, 0, NULL},
-        {0, 0, a, 0, NULL},
-        {1, 0, NULL, 0, NULL},
-        {1, 0, a, 1, NULL},  // tab-order mode draws numbers instead
+        {1, 0, a, 0, a},       {0, 1, a, 0, a},  // one marked while another is current: the current one has the handles
+        {1, 1, a, 0, NULL},    {0, 0, a, 0, NULL},
+        {1, 0, NULL, 0, NULL}, {1, 0, a, 1, NULL},  // tab-order mode draws numbers instead
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(testing::Message() << c.mark_a << c.mark_b << (c.current != NULL) << c.tab_mode);

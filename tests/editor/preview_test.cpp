@@ -5,8 +5,9 @@
 #include "source/gadget_blocks.h"
 #include "tests/editor/editor_fixture.h"
 
-class PreviewTest : public PageTest {
-protected:
+class PreviewTest : public PageTest
+{
+  protected:
     t_Window *Preview() { return FindWindowByName(harness.main_window, "Test (preview)"); }
     // The page as a save would write its gadgets.
     std::string PageText()

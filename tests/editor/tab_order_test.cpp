@@ -4,8 +4,9 @@
 
 #define TAB_FIRST_BIT 0x80000000u
 
-class TabOrderTest : public PageTest {
-protected:
+class TabOrderTest : public PageTest
+{
+  protected:
     t_gadget *g[5] = {};
 
     void SetUp() override

@@ -2,8 +2,9 @@
 // Redo, their labels, the modified bit, and records whose gadget has gone.
 #include "tests/editor/editor_fixture.h"
 
-class UndoTest : public PageTest {
-protected:
+class UndoTest : public PageTest
+{
+  protected:
     // A gadget made with a tool by a drag on the background, as a person makes it.
     t_gadget *Draw(u16 tool, i16 x, i16 y, i16 w, i16 h)
     {
@@ -52,7 +53,9 @@ TEST_F(UndoTest, GeometryRecordsTakeBackPositionAndSizeTogether)
         SCOPED_TRACE(c.label);
         UserClick(MidX(g), MidY(g), 1);  // selected and current: the handles show
         const T_GEOM before = Geom(g);
-        i16 px = c.where == MIDDLE ? MidX(g) : c.where == TOP_LEFT_BOX ? (i16)(g->screen_x - 3) : (i16)(g->screen_x + g->base_width + 3);
+        i16 px = c.where == MIDDLE         ? MidX(g)
+                 : c.where == TOP_LEFT_BOX ? (i16)(g->screen_x - 3)
+                                           : (i16)(g->screen_x + g->base_width + 3);
         i16 py = c.where == TOP_LEFT_BOX ? (i16)(g->screen_y - 3) : MidY(g);
         Drag(px, py, (i16)(px + c.dx), (i16)(py + c.dy));
         CHECK_PAGE();

@@ -21,8 +21,9 @@ static char root[] = "/tmp/qf-fuzz-XXXXXX";  // the data root of the run, remove
 
 static void RemoveRoot(void)
 {
-    nftw(root, [](const char *path, const struct stat *, int, struct FTW *) { return remove(path); }, 16,
-         FTW_DEPTH | FTW_PHYS);
+    nftw(
+        root, [](const char *path, const struct stat *, int, struct FTW *) { return remove(path); }, 16,
+        FTW_DEPTH | FTW_PHYS);
 }
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)

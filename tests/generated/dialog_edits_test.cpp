@@ -10,7 +10,8 @@
 #include "source/source_fixture.h"
 #include "source/source_writer.h"
 
-namespace {
+namespace
+{
 
 #define ITEM_DISABLED 1
 #define ITEM_SOLID 6
@@ -18,11 +19,12 @@ namespace {
 #define ITEM_ICON 20
 #define ITEM_ALTF4 16
 #define ITEM_FULLSCREEN 5
-#define ROW_KEY 4      // idcmp_names: IDCMP_KEY
-#define ROW_RESIZE 6   // IDCMP_WINDOW_RESIZE
+#define ROW_KEY 4     // idcmp_names: IDCMP_KEY
+#define ROW_RESIZE 6  // IDCMP_WINDOW_RESIZE
 
-class DialogEditedPage : public PageTest {
-protected:
+class DialogEditedPage : public PageTest
+{
+  protected:
     // A control of a dialog reports as a person's click leaves it: a box toggled first.
     static void Report(t_Window *dialog, u32 item_code, int nth = 0)
     {

@@ -20,9 +20,8 @@ inline std::vector<std::string> Describe(t_Window *window)
     lines.push_back(DescribeWindow(line, full ? RUN_PAGE_SCREEN_W : window->w, full ? RUN_PAGE_SCREEN_H : window->h,
                                    window->flags, window->idcmp));
     for (t_gadget *g = FindGadgetHandler(window)->first_gadget; g->next; g = g->next)
-        lines.push_back(DescribeGadget(line, g->type, g->pos_x, g->pos_y, g->base_width, g->base_height,
-                                       g->item_code, g->flags, g->back_colour, g->text_colour, g->action,
-                                       g->icon));
+        lines.push_back(DescribeGadget(line, g->type, g->pos_x, g->pos_y, g->base_width, g->base_height, g->item_code,
+                                       g->flags, g->back_colour, g->text_colour, g->action, g->icon));
     lines.push_back(DescribeTermination(line, (window->idcmp & IDCMP_TERMINATE) != 0));
     return lines;
 }

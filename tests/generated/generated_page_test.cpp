@@ -4,7 +4,8 @@
 #include "generated/generated_page.h"
 #include "source/golden_pages.h"
 
-namespace {
+namespace
+{
 
 struct GENERATED_ROW {
     const char *golden;
@@ -20,7 +21,9 @@ const GENERATED_ROW generated_rows[] = {
     {"every_kind_full.cpp", QF_RUN_EVERY_KIND_FULL, &every_kind_page, &every_kind_gadgets},
 };
 
-class GeneratedPage : public SourceTest {};
+class GeneratedPage : public SourceTest
+{
+};
 
 TEST_F(GeneratedPage, OpensTheWindowThatTheEditorDrew)
 {

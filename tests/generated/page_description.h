@@ -3,8 +3,8 @@
 #pragma once
 #include <stdio.h>
 
-#include "types.h"
 #include "constants.h"
+#include "types.h"
 
 #define DESCRIPTION_LINE_SIZE 256
 #define RUN_PAGE_SCREEN_W 1280  // the headless screen a page's program opens on
@@ -17,8 +17,8 @@ static inline const char *DescribeWindow(char *line, i16 w, i16 h, u32 flags, u3
 }
 
 // The icon counts only where the Icon flag shows it.
-static inline const char *DescribeGadget(char *line, u16 type, i16 x, i16 y, i16 w, i16 h, u32 item_code,
-                                         u32 flags, u32 back_colour, u32 text_colour, u32 action, u16 icon)
+static inline const char *DescribeGadget(char *line, u16 type, i16 x, i16 y, i16 w, i16 h, u32 item_code, u32 flags,
+                                         u32 back_colour, u32 text_colour, u32 action, u16 icon)
 {
     snprintf(line, DESCRIPTION_LINE_SIZE,
              "gadget type=%u x=%d y=%d w=%d h=%d item_code=0x%x flags=0x%x back=0x%x text=0x%x action=0x%x "

@@ -11,8 +11,8 @@
 
 #include <filesystem>
 
-#include "quillform_app.h"
 #include "page_description.h"
+#include "quillform_app.h"
 
 #include QF_PAGE_FILE
 
@@ -50,9 +50,8 @@ int main(int argc, char **argv)
         T_GADGET_HANDLER *gh = FindGadgetHandler(win);
         if (gh)
             for (T_GADGET *g = gh->first_gadget; g->next; g = g->next)
-                puts(DescribeGadget(line, g->type, g->pos_x, g->pos_y, g->base_width, g->base_height,
-                                    g->live_item_code, g->flags, g->back_colour, g->text_colour, g->live_action,
-                                    g->icon));
+                puts(DescribeGadget(line, g->type, g->pos_x, g->pos_y, g->base_width, g->base_height, g->live_item_code,
+                                    g->flags, g->back_colour, g->text_colour, g->live_action, g->icon));
         // The window is found again by name once the toolkit has freed what was removed.
         char name[256];
         snprintf(name, sizeof(name), "%s", win->name);

@@ -1,7 +1,7 @@
 // The whole application, headless, in a temporary data root, driven as a person would.
 #pragma once
-#include "host/user_actions.h"
 #include "host/tool_icons.h"
+#include "host/user_actions.h"
 #include "page/records.h"
 #include "tests/harness/input.h"
 

@@ -97,8 +97,7 @@ void Drag(i16 x1, i16 y1, i16 x2, i16 y2, u16 qualifiers)
 {
     Press(x1, y1, 1, qualifiers);
     for (int i = 1; i <= INPUT_DRAG_STEPS; i++)
-        Move((i16)(x1 + (x2 - x1) * i / INPUT_DRAG_STEPS), (i16)(y1 + (y2 - y1) * i / INPUT_DRAG_STEPS),
-             qualifiers);
+        Move((i16)(x1 + (x2 - x1) * i / INPUT_DRAG_STEPS), (i16)(y1 + (y2 - y1) * i / INPUT_DRAG_STEPS), qualifiers);
     Release(x2, y2, 1, qualifiers);
 }
 

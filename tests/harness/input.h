@@ -4,13 +4,12 @@
 #include "display/display.h"
 #include "lumora.h"
 
-#define INPUT_PAUSE_MS 500   // after a button goes up: the next press is no second click
-#define INPUT_DRAG_STEPS 4   // the moves of a drag between its press and its release
-#define INPUT_TURNS_MAX 1000 // turns that taking the queued input may need at most
+#define INPUT_PAUSE_MS 500    // after a button goes up: the next press is no second click
+#define INPUT_DRAG_STEPS 4    // the moves of a drag between its press and its release
+#define INPUT_TURNS_MAX 1000  // turns that taking the queued input may need at most
 
 // One event of `kind`, the rest zero but what is given.
-T_INPUT_EVENT InputEvent(u16 kind, i16 x = 0, i16 y = 0, u16 button = 0, u16 key = 0,
-                         u16 qualifiers = 0);
+T_INPUT_EVENT InputEvent(u16 kind, i16 x = 0, i16 y = 0, u16 button = 0, u16 key = 0, u16 qualifiers = 0);
 // An event that carries a text: typed characters (INPUT_TEXT) or a dropped path (INPUT_DROP_FILE).
 T_INPUT_EVENT TextEvent(u16 kind, const char *text);
 // Queues an event without turning the loop.

@@ -9,7 +9,8 @@
 
 std::vector<RECORDED_MESSAGE> recorded;
 
-void LumoraTest::SetUp() {
+void LumoraTest::SetUp()
+{
     char pattern[] = "/tmp/lumora_test_XXXXXX";
     ASSERT_NE(mkdtemp(pattern), nullptr);
     data_root = pattern;
@@ -19,35 +20,40 @@ void LumoraTest::SetUp() {
     recorded.clear();
 }
 
-void LumoraTest::TearDown() {
+void LumoraTest::TearDown()
+{
     CloseToolkit();
     EXPECT_EQ(_OstrandBase->blocks_allocated, blocks_at_start);
     EXPECT_EQ(_OstrandBase->size_mismatches, 0u);
     std::filesystem::remove_all(data_root);
 }
 
-u32 RecordMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+u32 RecordMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     recorded.push_back({window, item_code, msg, data});
     return 0;
 }
 
-u32 CountRecorded(u32 msg, t_Window *window) {
+u32 CountRecorded(u32 msg, t_Window *window)
+{
     u32 n = 0;
     for (const RECORDED_MESSAGE &m : recorded)
         n += m.msg == msg && (!window || m.window == window);
     return n;
 }
 
-t_Window *MakeWindow(const char *name, i16 x, i16 y, i16 w, i16 h, u32 flags, u32 idcmp,
-                     t_Window *parent, T_MESSAGE_FN message) {
+t_Window *MakeWindow(const char *name, i16 x, i16 y, i16 w, i16 h, u32 flags, u32 idcmp, t_Window *parent,
+                     T_MESSAGE_FN message)
+{
     T_WINDOWOBJINIT init = {};
     init.x = x, init.y = y, init.w = w, init.h = h;
     init.flags = flags, init.idcmp = idcmp, init.message = message, init.parent = parent;
     return (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, name, &init);
 }
 
-t_gadget *MakeGadget(t_Window *window, const char *name, u16 type, i16 x, i16 y, i16 w, i16 h,
-                     u32 item_code, u32 action, u32 flags) {
+t_gadget *MakeGadget(t_Window *window, const char *name, u16 type, i16 x, i16 y, i16 w, i16 h, u32 item_code,
+                     u32 action, u32 flags)
+{
     t_Gaget_Handler *gh = NewGadgetHandler(window);
     T_GADGETOBJECTINIT init = {};
     init.type = type, init.x = x, init.y = y, init.base_width = w, init.base_height = h;

@@ -10,7 +10,8 @@
 #include "tests/harness/input.h"
 
 // A headless screen of 800 by 600 in a fresh data root for each test.
-class LumoraTest : public ::testing::Test {
+class LumoraTest : public ::testing::Test
+{
   protected:
     void SetUp() override;
     void TearDown() override;
@@ -29,7 +30,7 @@ u32 RecordMessage(t_Window *window, u32 item_code, u32 msg, void *data);
 u32 CountRecorded(u32 msg, t_Window *window = nullptr);
 
 // A window made through the window class handler.
-t_Window *MakeWindow(const char *name, i16 x, i16 y, i16 w, i16 h, u32 flags, u32 idcmp,
-                     t_Window *parent = nullptr, T_MESSAGE_FN message = RecordMessage);
-t_gadget *MakeGadget(t_Window *window, const char *name, u16 type, i16 x, i16 y, i16 w, i16 h,
-                     u32 item_code, u32 action, u32 flags = 0);
+t_Window *MakeWindow(const char *name, i16 x, i16 y, i16 w, i16 h, u32 flags, u32 idcmp, t_Window *parent = nullptr,
+                     T_MESSAGE_FN message = RecordMessage);
+t_gadget *MakeGadget(t_Window *window, const char *name, u16 type, i16 x, i16 y, i16 w, i16 h, u32 item_code,
+                     u32 action, u32 flags = 0);

@@ -12,7 +12,8 @@
 
 #include "tests/harness/harness.h"
 
-namespace {
+namespace
+{
 
 struct RUN {
     int status;
@@ -24,8 +25,8 @@ RUN RunQuillform(const std::string &root)
 {
     std::string script = root + "/script.txt", error = root + "/stderr.txt";
     std::ofstream(script) << "turns 1\n";
-    std::string command = std::string("'") + QF_BINARY_DIR + "/quillform' --headless --home '" + root +
-                          "' --script '" + script + "' 2>'" + error + "' >/dev/null";
+    std::string command = std::string("'") + QF_BINARY_DIR + "/quillform' --headless --home '" + root + "' --script '" +
+                          script + "' 2>'" + error + "' >/dev/null";
     int status = system(command.c_str());
     std::ifstream in(error);
     std::ostringstream text;

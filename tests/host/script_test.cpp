@@ -7,23 +7,22 @@
 
 TEST(Script, ReadsEveryAction)
 {
-    const char *text =
-        "# a comment\n"
-        "\n"
-        "move 10 20\n"
-        "press 1 2\n"
-        "release 3 4\n"
-        "click 5 6\n"
-        "dclick 7 8\n"
-        "rclick 9 10\n"
-        "drag 1 2 3 4\n"
-        "key ctrl+s\n"
-        "type hello world\n"
-        "turns 5\n"
-        "screenshot /tmp/x.png\n"
-        "click-gadget \"Settings for Quillform\" 3\n"
-        "expect-window \"Quillform\"\r\n"
-        "  expect-no-window \"New Window\"";
+    const char *text = "# a comment\n"
+                       "\n"
+                       "move 10 20\n"
+                       "press 1 2\n"
+                       "release 3 4\n"
+                       "click 5 6\n"
+                       "dclick 7 8\n"
+                       "rclick 9 10\n"
+                       "drag 1 2 3 4\n"
+                       "key ctrl+s\n"
+                       "type hello world\n"
+                       "turns 5\n"
+                       "screenshot /tmp/x.png\n"
+                       "click-gadget \"Settings for Quillform\" 3\n"
+                       "expect-window \"Quillform\"\r\n"
+                       "  expect-no-window \"New Window\"";
     T_SCRIPT script;
     ASSERT_TRUE(ParseScript(&script, "t", text)) << script.error;
     struct {
@@ -32,14 +31,20 @@ TEST(Script, ReadsEveryAction)
         i32 n0, n1;
         const char *text;
     } const expected[] = {
-        {SCRIPT_MOVE, 3, 10, 20, ""},        {SCRIPT_PRESS, 4, 1, 2, ""},
-        {SCRIPT_RELEASE, 5, 3, 4, ""},       {SCRIPT_CLICK, 6, 5, 6, ""},
-        {SCRIPT_DCLICK, 7, 7, 8, ""},        {SCRIPT_RCLICK, 8, 9, 10, ""},
-        {SCRIPT_DRAG, 9, 1, 2, ""},          {SCRIPT_KEY, 10, 0, 0, "ctrl+s"},
-        {SCRIPT_TYPE, 11, 0, 0, "hello world"}, {SCRIPT_TURNS, 12, 5, 0, ""},
+        {SCRIPT_MOVE, 3, 10, 20, ""},
+        {SCRIPT_PRESS, 4, 1, 2, ""},
+        {SCRIPT_RELEASE, 5, 3, 4, ""},
+        {SCRIPT_CLICK, 6, 5, 6, ""},
+        {SCRIPT_DCLICK, 7, 7, 8, ""},
+        {SCRIPT_RCLICK, 8, 9, 10, ""},
+        {SCRIPT_DRAG, 9, 1, 2, ""},
+        {SCRIPT_KEY, 10, 0, 0, "ctrl+s"},
+        {SCRIPT_TYPE, 11, 0, 0, "hello world"},
+        {SCRIPT_TURNS, 12, 5, 0, ""},
         {SCRIPT_SCREENSHOT, 13, 0, 0, "/tmp/x.png"},
         {SCRIPT_CLICK_GADGET, 14, 3, 0, "Settings for Quillform"},
-        {SCRIPT_EXPECT_WINDOW, 15, 0, 0, "Quillform"}, {SCRIPT_EXPECT_NO_WINDOW, 16, 0, 0, "New Window"},
+        {SCRIPT_EXPECT_WINDOW, 15, 0, 0, "Quillform"},
+        {SCRIPT_EXPECT_NO_WINDOW, 16, 0, 0, "New Window"},
     };
     ASSERT_EQ(script.count, sizeof(expected) / sizeof(expected[0]));
     for (u32 i = 0; i < script.count; i++) {
@@ -84,12 +89,18 @@ TEST(Script, KeySpecs)
         const char *name;
         u16 key, qualifiers;
     } const cases[] = {
-        {"ctrl+s", KEY_CTRL('S'), QUAL_CONTROL}, {"ctrl+S", KEY_CTRL('S'), QUAL_CONTROL},
-        {"alt+f4", KEY_F1 + 3, QUAL_ALT},       {"escape", KEY_ESCAPE, 0},
-        {"f10", 275, 0},                         {"shift+tab", KEY_TAB, QUAL_SHIFT},
-        {"delete", KEY_DELETE, 0},               {"a", 'a', 0},
-        {"alt+f", 'f', QUAL_ALT},                {"return", KEY_RETURN, 0},
-        {"z", 'z', 0},                           {"space", ' ', 0},
+        {"ctrl+s", KEY_CTRL('S'), QUAL_CONTROL},
+        {"ctrl+S", KEY_CTRL('S'), QUAL_CONTROL},
+        {"alt+f4", KEY_F1 + 3, QUAL_ALT},
+        {"escape", KEY_ESCAPE, 0},
+        {"f10", 275, 0},
+        {"shift+tab", KEY_TAB, QUAL_SHIFT},
+        {"delete", KEY_DELETE, 0},
+        {"a", 'a', 0},
+        {"alt+f", 'f', QUAL_ALT},
+        {"return", KEY_RETURN, 0},
+        {"z", 'z', 0},
+        {"space", ' ', 0},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.name);

@@ -11,7 +11,8 @@ struct COMBO_PAGE {
 };
 
 static COMBO_PAGE MakeComboPage(GadgetTest *t, t_Window *window, u32 combo_flags,
-                                T_GADGETOBJECTINIT (*init)(u16, i16, i16, i16, i16, u32, u32, u32)) {
+                                T_GADGETOBJECTINIT (*init)(u16, i16, i16, i16, i16, u32, u32, u32))
+{
     (void)t;
     COMBO_PAGE p;
     t_Gaget_Handler *gh = FindGadgetHandler(window);
@@ -20,7 +21,8 @@ static COMBO_PAGE MakeComboPage(GadgetTest *t, t_Window *window, u32 combo_flags
     p.combo = GetCurrentGadget(window);
     SaveSetGadgetList(window, &p.data->entries);
     for (int i = 0; i < 8; i++) {
-        T_GADGETOBJECTINIT bi = init(GADGET_TYPE_CHECK_BOX, 4, (i16)(4 + 20 * i), 100, 18, (u32)(2 + i), ACT_LMOUSE_UP, 0);
+        T_GADGETOBJECTINIT bi =
+            init(GADGET_TYPE_CHECK_BOX, 4, (i16)(4 + 20 * i), 100, 18, (u32)(2 + i), ACT_LMOUSE_UP, 0);
         bi.hover_text = "inside";
         p.boxes[i] = (t_gadget *)CreateObject(&gh->head, "Option", &bi);
     }
@@ -31,7 +33,8 @@ static COMBO_PAGE MakeComboPage(GadgetTest *t, t_Window *window, u32 combo_flags
     return p;
 }
 
-TEST_F(GadgetTest, ComboHoldsWhatIsMadeBetweenSaveAndRestore) {
+TEST_F(GadgetTest, ComboHoldsWhatIsMadeBetweenSaveAndRestore)
+{
     COMBO_PAGE p = MakeComboPage(this, window, GADGET_FLAGS_VERTICAL | GADGET_FLAGS_HORIZONTAL, Init);
     ASSERT_NE(p.data, nullptr);
     EXPECT_EQ(p.combo->type, GADGET_TYPE_COMBO);
@@ -54,7 +57,8 @@ TEST_F(GadgetTest, ComboHoldsWhatIsMadeBetweenSaveAndRestore) {
     EXPECT_EQ(p.data->content_h, 8 * 20 + 2 + 4);
 }
 
-TEST_F(GadgetTest, ComboScrollsItsChildren) {
+TEST_F(GadgetTest, ComboScrollsItsChildren)
+{
     COMBO_PAGE p = MakeComboPage(this, window, GADGET_FLAGS_VERTICAL, Init);
     Turn();
     t_gadget *first = p.boxes[0];
@@ -87,16 +91,19 @@ struct TAB_PAGE {
     char field[32];
 };
 
-static t_gadget *MakeIn(GadgetTest *t, u16 type, const char *name, i16 x, i16 y, i16 w, i16 h, u32 code,
-                        u32 flags = 0, void *data = nullptr) {
+static t_gadget *MakeIn(GadgetTest *t, u16 type, const char *name, i16 x, i16 y, i16 w, i16 h, u32 code, u32 flags = 0,
+                        void *data = nullptr)
+{
     T_GADGETOBJECTINIT init = GadgetTest::Init(type, x, y, w, h, code, ACT_LMOUSE_UP, flags);
     init.data = data;
-    if (type == GADGET_TYPE_STRING) init.max = 31;
+    if (type == GADGET_TYPE_STRING)
+        init.max = 31;
     void *made = t->Create(name, init);
     return type == GADGET_TYPE_COMBO ? ((T_LIST_DATA *)made)->gadget : (t_gadget *)made;
 }
 
-static void MakeTabPage(GadgetTest *t, TAB_PAGE *p) {
+static void MakeTabPage(GadgetTest *t, TAB_PAGE *p)
+{
     t_Window *w = t->GetWindow();
     p->field[0] = 0;
     MakeIn(t, GADGET_TYPE_TEXT, "Name", 10, 10, 60, 20, 1);
@@ -123,20 +130,27 @@ static void MakeTabPage(GadgetTest *t, TAB_PAGE *p) {
 }
 
 // The data of the window's ACT_LMOUSE_UP reports with this item code.
-static std::vector<void *> ReportsOf(u32 item_code) {
+static std::vector<void *> ReportsOf(u32 item_code)
+{
     std::vector<void *> data;
     for (const RECORDED_MESSAGE &m : recorded)
-        if (m.msg == ACT_LMOUSE_UP && m.item_code == item_code) data.push_back(m.data);
+        if (m.msg == ACT_LMOUSE_UP && m.item_code == item_code)
+            data.push_back(m.data);
     return data;
 }
 
-static T_RPOS Rect(t_gadget *g) { return T_RPOS{g->screen_x, g->screen_y, g->base_width, g->base_height}; }
+static T_RPOS Rect(t_gadget *g)
+{
+    return T_RPOS{g->screen_x, g->screen_y, g->base_width, g->base_height};
+}
 
-static bool Inside(T_RPOS a, T_RPOS b) {
+static bool Inside(T_RPOS a, T_RPOS b)
+{
     return a.x >= b.x && a.y >= b.y && a.x + a.w <= b.x + b.w && a.y + a.h <= b.y + b.h;
 }
 
-TEST_F(GadgetTest, TabWalksIntoCombosAndScrollsTheStopIntoView) {
+TEST_F(GadgetTest, TabWalksIntoCombosAndScrollsTheStopIntoView)
+{
     TAB_PAGE p;
     MakeTabPage(this, &p);
     Turn();
@@ -169,7 +183,8 @@ TEST_F(GadgetTest, TabWalksIntoCombosAndScrollsTheStopIntoView) {
     }
 }
 
-TEST_F(GadgetTest, ScrollComboToGadgetMovesNoMoreThanNeeded) {
+TEST_F(GadgetTest, ScrollComboToGadgetMovesNoMoreThanNeeded)
+{
     COMBO_PAGE p = MakeComboPage(this, window, GADGET_FLAGS_VERTICAL, Init);
     T_RPOS view = ComboView(p.combo);
     struct {
@@ -178,7 +193,7 @@ TEST_F(GadgetTest, ScrollComboToGadgetMovesNoMoreThanNeeded) {
     } steps[] = {
         {7, 4 + 20 * 7 + 18 - view.h},  // below: its bottom at the view's bottom
         {5, 4 + 20 * 7 + 18 - view.h},  // already in view: no move
-        {1, 24},                       // above: its top at the view's top
+        {1, 24},                        // above: its top at the view's top
         {0, 4},
         {4, 4 + 20 * 4 + 18 - view.h},
     };
@@ -193,7 +208,8 @@ TEST_F(GadgetTest, ScrollComboToGadgetMovesNoMoreThanNeeded) {
     EXPECT_EQ(p.data->top, 4 + 20 * 4 + 18 - view.h);
 }
 
-TEST_F(GadgetTest, KeysReachTheStopInACombo) {
+TEST_F(GadgetTest, KeysReachTheStopInACombo)
+{
     TAB_PAGE p;
     MakeTabPage(this, &p);
     Turn();
@@ -224,7 +240,8 @@ TEST_F(GadgetTest, KeysReachTheStopInACombo) {
 }
 
 // A field that the wheel scrolled out of its combo's view still tells that it was left.
-TEST_F(GadgetTest, AFieldScrolledOutOfViewReportsLeaving) {
+TEST_F(GadgetTest, AFieldScrolledOutOfViewReportsLeaving)
+{
     TAB_PAGE p;
     MakeTabPage(this, &p);
     Turn();

@@ -1,20 +1,27 @@
 // Drop boxes: the list opens on a press, an entry is picked, and the list closes.
 #include "knobkit_fixture.h"
 
-static T_LIST_DATA *ListOf(t_gadget *g) { return (T_LIST_DATA *)g->class_data; }
+static T_LIST_DATA *ListOf(t_gadget *g)
+{
+    return (T_LIST_DATA *)g->class_data;
+}
 
-static t_Window *OpenPopup() {
+static t_Window *OpenPopup()
+{
     for (t_Node *n = CURRENT_DISPLAY->window_class->windows.first; n->next; n = n->next)
-        if (IsPopup((t_Window *)n) && IsWindowLive((t_Window *)n)) return (t_Window *)n;
+        if (IsPopup((t_Window *)n) && IsWindowLive((t_Window *)n))
+            return (t_Window *)n;
     return nullptr;
 }
 
-static i16 PopupRowY(t_gadget *g, t_Window *popup, i32 row) {
+static i16 PopupRowY(t_gadget *g, t_Window *popup, i32 row)
+{
     i16 row_h = GadgetFontHeight(g) + 2;
     return (i16)(popup->y + 1 + row * row_h + row_h / 2);
 }
 
-TEST_F(GadgetTest, DropBoxOpensPicksAndCloses) {
+TEST_F(GadgetTest, DropBoxOpensPicksAndCloses)
+{
     t_gadget *g = MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 160, 0, 10, 4);
     EXPECT_EQ(ListOf(g)->selected, 0);  // the first entry shows
     EXPECT_GT(g->base_height, 0);
@@ -36,7 +43,8 @@ TEST_F(GadgetTest, DropBoxOpensPicksAndCloses) {
 }
 
 // The entry shown stands at the field's left, long or short: a long one is cut at the arrow only.
-TEST_F(GadgetTest, DropBoxShowsItsEntryFromTheLeft) {
+TEST_F(GadgetTest, DropBoxShowsItsEntryFromTheLeft)
+{
     const struct {
         const char *entry;
         i16 width;

@@ -4,12 +4,14 @@
 
 #include <functional>
 
-TEST_F(GadgetTest, RadioButtonsClearTheirRunOnly) {
+TEST_F(GadgetTest, RadioButtonsClearTheirRunOnly)
+{
     u32 action = ACT_LMOUSE_UP;
     t_gadget *r[5];
     const char *names[] = {"One", "Two", "Three", "Four", "Five"};
     for (int i = 0; i < 5; i++) {
-        if (i == 3) Make("Between", Init(GADGET_TYPE_BUTTON, 200, 10, 80, 20, 9, 0));  // ends the run
+        if (i == 3)
+            Make("Between", Init(GADGET_TYPE_BUTTON, 200, 10, 80, 20, 9, 0));  // ends the run
         T_GADGETOBJECTINIT init = Init(GADGET_TYPE_RADIOBUTTON, 10, (i16)(10 + 25 * i), 120, 20, (u32)(i + 1), action);
         init.init_val = i == 0 || i == 3;
         r[i] = Make(names[i], init);
@@ -27,7 +29,8 @@ TEST_F(GadgetTest, RadioButtonsClearTheirRunOnly) {
     };
     for (const auto &row : rows) {
         Click(r[row.click]->screen_x + 5, MidY(r[row.click]));
-        for (int i = 0; i < 5; i++) EXPECT_EQ(r[i]->class_data, row.states[i]) << "click " << row.click << " radio " << i;
+        for (int i = 0; i < 5; i++)
+            EXPECT_EQ(r[i]->class_data, row.states[i]) << "click " << row.click << " radio " << i;
     }
     EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 4u);
     SetCurrentGadget(window, r[1]);
@@ -36,7 +39,8 @@ TEST_F(GadgetTest, RadioButtonsClearTheirRunOnly) {
     EXPECT_EQ(r[0]->class_data, 0u);
 }
 
-TEST_F(GadgetTest, ColourSwatchShowsAndTakesADroppedColour) {
+TEST_F(GadgetTest, ColourSwatchShowsAndTakesADroppedColour)
+{
     T_RGBA rgba = {10, 20, 30, 0};
     T_HSIA hsia = {};
     T_COLOUR_DATA data = {&rgba, &hsia, 5};
@@ -71,38 +75,74 @@ struct TYPE_CASE {
 
 static char type_case_buffer[64];
 
-static std::vector<TYPE_CASE> TypeCases() {
-    auto list_state = [](t_gadget *g) { return (i64)((T_LIST_DATA *)g->class_data)->selected * 2 + (g->gadget_state & GSTATE_OPEN ? 1 : 0); };
+static std::vector<TYPE_CASE> TypeCases()
+{
+    auto list_state = [](t_gadget *g) {
+        return (i64)((T_LIST_DATA *)g->class_data)->selected * 2 + (g->gadget_state & GSTATE_OPEN ? 1 : 0);
+    };
     return {
-        {"string", [](GadgetTest *t, u32 f) {
+        {"string",
+         [](GadgetTest *t, u32 f) {
              strcpy(type_case_buffer, "text");
              T_GADGETOBJECTINIT i = t->Init(GADGET_TYPE_STRING, 10, 10, 150, 0, 1, 0x73, f);
              i.data = type_case_buffer;
              return t->Make("s", i);
-         }, [](t_gadget *g) { return (i64)strlen((char *)g->data) * 1000 + g->value; }},
-        {"radio", [](GadgetTest *t, u32 f) { return t->Make("r", t->Init(GADGET_TYPE_RADIOBUTTON, 10, 10, 150, 20, 1, 0x73, f)); },
+         },
+         [](t_gadget *g) { return (i64)strlen((char *)g->data) * 1000 + g->value; }},
+        {"radio",
+         [](GadgetTest *t, u32 f) {
+             return t->Make("r", t->Init(GADGET_TYPE_RADIOBUTTON, 10, 10, 150, 20, 1, 0x73, f));
+         },
          [](t_gadget *g) { return (i64)g->class_data; }},
-        {"slider", [](GadgetTest *t, u32 f) {
+        {"slider",
+         [](GadgetTest *t, u32 f) {
              T_GADGETOBJECTINIT i = t->Init(GADGET_TYPE_SLIDER, 10, 10, 150, 20, 1, 0x73, f | GADGET_FLAGS_HORIZONTAL);
              i.max = 100;
              return t->Make("sl", i);
-         }, [](t_gadget *g) { return (i64)((T_SLIDER_DATA *)g->class_data)->value; }},
-        {"scroll bar", [](GadgetTest *t, u32 f) {
-             T_GADGETOBJECTINIT i = t->Init(GADGET_TYPE_SCROLLBAR, 10, 10, 150, 16, 1, 0x73, f | GADGET_FLAGS_HORIZONTAL);
+         },
+         [](t_gadget *g) { return (i64)((T_SLIDER_DATA *)g->class_data)->value; }},
+        {"scroll bar",
+         [](GadgetTest *t, u32 f) {
+             T_GADGETOBJECTINIT i =
+                 t->Init(GADGET_TYPE_SCROLLBAR, 10, 10, 150, 16, 1, 0x73, f | GADGET_FLAGS_HORIZONTAL);
              i.max = 64, i.mark_width = 4;
              return t->Make("sb", i);
-         }, [](t_gadget *g) { return (i64)((T_SCROLLBAR_DATA *)g->class_data)->init_val; }},
-        {"list box", [](GadgetTest *t, u32 f) { t_gadget *g = t->MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 150, 100, 5); g->live_flags |= f; return g; }, list_state},
-        {"tree", [](GadgetTest *t, u32 f) { t_gadget *g = t->MakeList(GADGET_TYPE_TREE, 10, 10, 150, 100, 5); g->live_flags |= f; return g; }, list_state},
-        {"drop box", [](GadgetTest *t, u32 f) { t_gadget *g = t->MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 150, 0, 5); g->live_flags |= f; return g; }, list_state},
-        {"colour", [](GadgetTest *t, u32 f) { return t->Make("c", t->Init(GADGET_TYPE_COLOUR_FLAT, 10, 10, 150, 20, 1, 0x73, f)); },
+         },
+         [](t_gadget *g) { return (i64)((T_SCROLLBAR_DATA *)g->class_data)->init_val; }},
+        {"list box",
+         [](GadgetTest *t, u32 f) {
+             t_gadget *g = t->MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 150, 100, 5);
+             g->live_flags |= f;
+             return g;
+         },
+         list_state},
+        {"tree",
+         [](GadgetTest *t, u32 f) {
+             t_gadget *g = t->MakeList(GADGET_TYPE_TREE, 10, 10, 150, 100, 5);
+             g->live_flags |= f;
+             return g;
+         },
+         list_state},
+        {"drop box",
+         [](GadgetTest *t, u32 f) {
+             t_gadget *g = t->MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 150, 0, 5);
+             g->live_flags |= f;
+             return g;
+         },
+         list_state},
+        {"colour",
+         [](GadgetTest *t, u32 f) {
+             return t->Make("c", t->Init(GADGET_TYPE_COLOUR_FLAT, 10, 10, 150, 20, 1, 0x73, f));
+         },
          [](t_gadget *g) { return (i64)(g->gadget_state & GSTATE_PRESSED); }},
-        {"user", [](GadgetTest *t, u32 f) { return t->Make("u", t->Init(GADGET_TYPE_USER, 10, 10, 150, 40, 1, 0x73, f)); },
+        {"user",
+         [](GadgetTest *t, u32 f) { return t->Make("u", t->Init(GADGET_TYPE_USER, 10, 10, 150, 40, 1, 0x73, f)); },
          [](t_gadget *g) { return (i64)(g->gadget_state & ~GSTATE_HOVER); }},
     };
 }
 
-TEST_F(GadgetTest, DisabledGadgetsIgnoreInput) {
+TEST_F(GadgetTest, DisabledGadgetsIgnoreInput)
+{
     for (const TYPE_CASE &c : TypeCases()) {
         SCOPED_TRACE(c.name);
         t_gadget *g = c.make(this, GADGET_FLAGS_DISABLED);
@@ -121,9 +161,11 @@ TEST_F(GadgetTest, DisabledGadgetsIgnoreInput) {
     }
 }
 
-TEST_F(GadgetTest, EnabledGadgetsTakeTheSameInput) {  // the counterpart: the input does reach them
+TEST_F(GadgetTest, EnabledGadgetsTakeTheSameInput)
+{  // the counterpart: the input does reach them
     for (const TYPE_CASE &c : TypeCases()) {
-        if (std::string(c.name) == "user" || std::string(c.name) == "colour") continue;  // no state to change
+        if (std::string(c.name) == "user" || std::string(c.name) == "colour")
+            continue;  // no state to change
         SCOPED_TRACE(c.name);
         t_gadget *g = c.make(this, 0);
         Turn();
@@ -140,7 +182,8 @@ TEST_F(GadgetTest, EnabledGadgetsTakeTheSameInput) {  // the counterpart: the in
     }
 }
 
-TEST_F(GadgetTest, HoverTextShowsOverEachType) {
+TEST_F(GadgetTest, HoverTextShowsOverEachType)
+{
     for (const TYPE_CASE &c : TypeCases()) {
         SCOPED_TRACE(c.name);
         t_gadget *g = c.make(this, 0);
@@ -157,9 +200,11 @@ TEST_F(GadgetTest, HoverTextShowsOverEachType) {
     }
 }
 
-TEST_F(GadgetTest, FreeingEachTypeGivesBackItsBlocks) {
+TEST_F(GadgetTest, FreeingEachTypeGivesBackItsBlocks)
+{
     std::vector<std::function<void(GadgetTest *)>> makers;
-    for (const TYPE_CASE &c : TypeCases()) makers.push_back([c](GadgetTest *t) { c.make(t, 0); });
+    for (const TYPE_CASE &c : TypeCases())
+        makers.push_back([c](GadgetTest *t) { c.make(t, 0); });
     makers.push_back([](GadgetTest *t) {  // a string with a buffer of its own
         T_GADGETOBJECTINIT i = t->Init(GADGET_TYPE_STRING, 10, 10, 150, 0);
         i.data = PutStringName;
@@ -176,7 +221,8 @@ TEST_F(GadgetTest, FreeingEachTypeGivesBackItsBlocks) {
         Click(MidX(g), MidY(g));
     });
     makers.push_back([](GadgetTest *t) {  // a combo with children and scroll bars
-        T_LIST_DATA *d = (T_LIST_DATA *)t->Create("Combo", t->Init(GADGET_TYPE_COMBO, 10, 10, 60, 40, 1, 0, GADGET_FLAGS_XY));
+        T_LIST_DATA *d =
+            (T_LIST_DATA *)t->Create("Combo", t->Init(GADGET_TYPE_COMBO, 10, 10, 60, 40, 1, 0, GADGET_FLAGS_XY));
         SaveSetGadgetList(t->GetWindow(), &d->entries);
         T_GADGETOBJECTINIT i = t->Init(GADGET_TYPE_STRING, 0, 0, 150, 0);
         t->Make("inner string", i);

@@ -4,15 +4,20 @@
 
 #include <string.h>
 
-static T_LIST_DATA *ListOf(t_gadget *g) { return (T_LIST_DATA *)g->class_data; }
+static T_LIST_DATA *ListOf(t_gadget *g)
+{
+    return (T_LIST_DATA *)g->class_data;
+}
 
-static i16 RowY(t_gadget *g, i32 row) {  // the middle of a visible row
+static i16 RowY(t_gadget *g, i32 row)
+{  // the middle of a visible row
     T_LIST_LAYOUT l;
     ListLayout(g, &l);
     return (i16)(l.inner.y + (row - ListOf(g)->top) * l.row_h + l.row_h / 2);
 }
 
-TEST_F(GadgetTest, ListClickSelectsAndReports) {
+TEST_F(GadgetTest, ListClickSelectsAndReports)
+{
     t_gadget *g = MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 200, 120, 5, 9);
     Turn();
     recorded.clear();
@@ -30,7 +35,8 @@ TEST_F(GadgetTest, ListClickSelectsAndReports) {
     EXPECT_EQ(ListOf(g)->selected, 3);
 }
 
-TEST_F(GadgetTest, ListScrollsByWheelAndScrollBar) {
+TEST_F(GadgetTest, ListScrollsByWheelAndScrollBar)
+{
     t_gadget *g = MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 200, 80, 30);
     Turn();
     T_LIST_DATA *d = ListOf(g);
@@ -54,7 +60,8 @@ TEST_F(GadgetTest, ListScrollsByWheelAndScrollBar) {
 }
 
 // A tab in a row's text puts what follows at the row's right end; the middle stays empty.
-TEST_F(GadgetTest, ListRowTabSetsTheRestAtTheRight) {
+TEST_F(GadgetTest, ListRowTabSetsTheRestAtTheRight)
+{
     T_GADGETOBJECTINIT init = Init(GADGET_TYPE_LIST_BOX, 10, 10, 300, 60);
     void *holder = Create("Keys", init);
     init.parent_gadget = holder;
@@ -65,7 +72,8 @@ TEST_F(GadgetTest, ListRowTabSetsTheRestAtTheRight) {
     ListLayout(g, &l);
     auto inked = [&](i16 x, i16 w) {  // inside the row, clear of the focus frame
         for (u32 p : Pixels(T_RPOS{x, (i16)(l.inner.y + 2), w, (i16)(l.row_h - 2)}))
-            if (p != DISPLAY_RECORD->field_colour) return true;
+            if (p != DISPLAY_RECORD->field_colour)
+                return true;
         return false;
     };
     i16 third = (i16)((l.inner.w - 4) / 3);

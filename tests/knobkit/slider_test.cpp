@@ -2,11 +2,18 @@
 // the step grid, keys, and what they report.
 #include "knobkit_fixture.h"
 
-static T_SLIDER_DATA *SliderOf(t_gadget *g) { return (T_SLIDER_DATA *)g->class_data; }
-static T_SCROLLBAR_DATA *BarOf(t_gadget *g) { return (T_SCROLLBAR_DATA *)g->class_data; }
+static T_SLIDER_DATA *SliderOf(t_gadget *g)
+{
+    return (T_SLIDER_DATA *)g->class_data;
+}
+static T_SCROLLBAR_DATA *BarOf(t_gadget *g)
+{
+    return (T_SCROLLBAR_DATA *)g->class_data;
+}
 
 // The point that brings a default mark's middle to `frac` of the slider's travel.
-static void PointAt(t_gadget *g, double frac, i16 *x, i16 *y) {
+static void PointAt(t_gadget *g, double frac, i16 *x, i16 *y)
+{
     int horizontal = g->live_flags & GADGET_FLAGS_HORIZONTAL;
     i16 along = horizontal ? g->base_width : g->base_height, half = 4;  // the mark is 8 long
     i16 at = (i16)(half + frac * (along - 2 * half));
@@ -14,7 +21,8 @@ static void PointAt(t_gadget *g, double frac, i16 *x, i16 *y) {
     *y = horizontal ? MidY(g) : g->screen_y + at;
 }
 
-TEST_F(GadgetTest, SliderTakesClickedValuesInStepsAndRange) {
+TEST_F(GadgetTest, SliderTakesClickedValuesInStepsAndRange)
+{
     struct {
         u32 orientation;
         i32 min, max, step;
@@ -34,8 +42,8 @@ TEST_F(GadgetTest, SliderTakesClickedValuesInStepsAndRange) {
     for (const auto &row : rows) {
         SCOPED_TRACE(row.frac);
         int horizontal = row.orientation == GADGET_FLAGS_HORIZONTAL;
-        T_GADGETOBJECTINIT init = Init(GADGET_TYPE_SLIDER, 20, 20, horizontal ? 108 : 20, horizontal ? 20 : 108,
-                                       7, ACT_LMOUSE_UP, row.orientation);
+        T_GADGETOBJECTINIT init = Init(GADGET_TYPE_SLIDER, 20, 20, horizontal ? 108 : 20, horizontal ? 20 : 108, 7,
+                                       ACT_LMOUSE_UP, row.orientation);
         init.min = row.min, init.max = row.max, init.step = row.step, init.init_val = row.min;
         t_gadget *g = Make("slider", init);
         Turn();
@@ -50,7 +58,8 @@ TEST_F(GadgetTest, SliderTakesClickedValuesInStepsAndRange) {
     }
 }
 
-TEST_F(GadgetTest, SliderDragIsClampedAndReportedWhenAsked) {
+TEST_F(GadgetTest, SliderDragIsClampedAndReportedWhenAsked)
+{
     for (u32 orientation : {GADGET_FLAGS_HORIZONTAL, GADGET_FLAGS_VERTICAL}) {
         int horizontal = orientation == GADGET_FLAGS_HORIZONTAL;
         T_GADGETOBJECTINIT init = Init(GADGET_TYPE_SLIDER, 20, 20, horizontal ? 108 : 20, horizontal ? 20 : 108, 7,
@@ -78,7 +87,8 @@ TEST_F(GadgetTest, SliderDragIsClampedAndReportedWhenAsked) {
     }
 }
 
-TEST_F(GadgetTest, ScrollBarArrowsTrackThumbAndKeys) {
+TEST_F(GadgetTest, ScrollBarArrowsTrackThumbAndKeys)
+{
     for (u32 orientation : {GADGET_FLAGS_VERTICAL, GADGET_FLAGS_HORIZONTAL}) {
         int horizontal = orientation == GADGET_FLAGS_HORIZONTAL;
         T_GADGETOBJECTINIT init = Init(GADGET_TYPE_SCROLLBAR, 20, 20, horizontal ? 120 : 16, horizontal ? 16 : 120, 3,

@@ -9,7 +9,8 @@ struct EDIT_STEP {
     u16 key, qualifiers;
 };
 
-static void Play(const std::vector<EDIT_STEP> &steps) {
+static void Play(const std::vector<EDIT_STEP> &steps)
+{
     for (const EDIT_STEP &s : steps) {
         if (s.text)
             TypeText(s.text);
@@ -18,10 +19,17 @@ static void Play(const std::vector<EDIT_STEP> &steps) {
     }
 }
 
-static EDIT_STEP T(const char *text) { return {text, 0, 0}; }
-static EDIT_STEP K(u16 key, u16 qualifiers = 0) { return {nullptr, key, qualifiers}; }
+static EDIT_STEP T(const char *text)
+{
+    return {text, 0, 0};
+}
+static EDIT_STEP K(u16 key, u16 qualifiers = 0)
+{
+    return {nullptr, key, qualifiers};
+}
 
-TEST_F(GadgetTest, StringEditingKeys) {
+TEST_F(GadgetTest, StringEditingKeys)
+{
     struct {
         const char *start;
         i32 max;
@@ -38,9 +46,9 @@ TEST_F(GadgetTest, StringEditingKeys) {
         {"abcd", 0, {K(KEY_LEFT, QUAL_SHIFT), K(KEY_LEFT, QUAL_SHIFT), K(KEY_DELETE)}, "ab", 2},
         {"abc", 0, {K(KEY_HOME, QUAL_SHIFT), K(KEY_RIGHT), T("q")}, "abcq", 4},  // collapses to the end
         {"abc", 0, {K(KEY_END, QUAL_SHIFT), K(KEY_HOME), T("q")}, "qabc", 1},
-        {"abc", 5, {T("defg")}, "abcde", 5},                       // max characters at most
-        {"abcde", 5, {K(KEY_CTRL('A')), T("xy")}, "xy", 2},        // a replaced selection makes room
-        {"", 0, {T("\xc3\xa9")}, "\xe9", 1},                       // typed é is one Latin-1 byte
+        {"abc", 5, {T("defg")}, "abcde", 5},                        // max characters at most
+        {"abcde", 5, {K(KEY_CTRL('A')), T("xy")}, "xy", 2},         // a replaced selection makes room
+        {"", 0, {T("\xc3\xa9")}, "\xe9", 1},                        // typed é is one Latin-1 byte
         {"ab", 0, {K('x', QUAL_CONTROL), K(KEY_ESCAPE)}, "ab", 2},  // shortcuts are not typed
         {"ab", 0, {K(KEY_HOME), K(KEY_BACKSPACE), K(KEY_END), K(KEY_DELETE)}, "ab", 2},  // nothing there
     };
@@ -60,7 +68,8 @@ TEST_F(GadgetTest, StringEditingKeys) {
     }
 }
 
-TEST_F(GadgetTest, StringMakesItsOwnBufferWithItsName) {
+TEST_F(GadgetTest, StringMakesItsOwnBufferWithItsName)
+{
     struct {
         void *data;
         i32 max;
@@ -77,7 +86,8 @@ TEST_F(GadgetTest, StringMakesItsOwnBufferWithItsName) {
         t_gadget *g = Make(row.name, init);
         EXPECT_NE(g->data, (void *)PutStringName);
         EXPECT_STREQ((char *)g->data, row.text);
-        for (t_gadget *other : made) EXPECT_NE(other->data, g->data);
+        for (t_gadget *other : made)
+            EXPECT_NE(other->data, g->data);
         made.push_back(g);
     }
     EXPECT_EQ(made[2]->max_chars, 255);  // max 0 means 255
@@ -88,7 +98,8 @@ TEST_F(GadgetTest, StringMakesItsOwnBufferWithItsName) {
     EXPECT_EQ(PutStringName[0], 0);
 }
 
-TEST_F(GadgetTest, SecretStringShowsNoText) {
+TEST_F(GadgetTest, SecretStringShowsNoText)
+{
     char a[32] = "iiii", b[32] = "WWWW";
     T_GADGETOBJECTINIT init = Init(GADGET_TYPE_STRING, 10, 10, 120, 0);
     init.data = a;

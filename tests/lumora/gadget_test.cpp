@@ -1,7 +1,8 @@
 // Gadgets: a check box's click and report, and the dialog keys with the tab walk.
 #include "tests/harness/toolkit_fixture.h"
 
-TEST_F(LumoraTest, CheckBoxTogglesOnAReleaseInsideAndReports) {
+TEST_F(LumoraTest, CheckBoxTogglesOnAReleaseInsideAndReports)
+{
     struct {
         u32 flags;
         i16 release_dx;  // where the release lands, from the press
@@ -9,13 +10,12 @@ TEST_F(LumoraTest, CheckBoxTogglesOnAReleaseInsideAndReports) {
         u32 reports;
     } rows[] = {
         {0, 0, 1, 1},
-        {0, 200, 0, 0},                      // released off the box: no toggle
-        {GADGET_FLAGS_DISABLED, 0, 0, 0},    // disabled: nothing
+        {0, 200, 0, 0},                    // released off the box: no toggle
+        {GADGET_FLAGS_DISABLED, 0, 0, 0},  // disabled: nothing
     };
     for (const auto &row : rows) {
         t_Window *w = MakeWindow("Boxes", 10, 10, 400, 200, 0, 0);
-        t_gadget *g = MakeGadget(w, "Option", GADGET_TYPE_CHECK_BOX, 10, 10, 100, 20, 5,
-                                 ACT_LMOUSE_UP, row.flags);
+        t_gadget *g = MakeGadget(w, "Option", GADGET_TYPE_CHECK_BOX, 10, 10, 100, 20, 5, ACT_LMOUSE_UP, row.flags);
         Turn();
         recorded.clear();
         i16 x = g->screen_x + 5, y = g->screen_y + 5;
@@ -33,7 +33,8 @@ TEST_F(LumoraTest, CheckBoxTogglesOnAReleaseInsideAndReports) {
     }
 }
 
-TEST_F(LumoraTest, DialogKeysClickAndTabWalk) {
+TEST_F(LumoraTest, DialogKeysClickAndTabWalk)
+{
     t_Window *w = MakeWindow("Dialog", 10, 10, 400, 200, 0, 0);
     t_gadget *label = MakeGadget(w, "Label", GADGET_TYPE_TEXT, 10, 10, 80, 20, 1, 0);
     t_gadget *ok = MakeGadget(w, "OK", GADGET_TYPE_BUTTON, 10, 40, 80, 20, 2, ACT_LMOUSE_UP);

@@ -3,9 +3,13 @@
 
 static const u32 ALL_ANSWERS = IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL | IDCMP_REQUESTER_ABORT;
 
-static t_gadget *Button(t_Window *box, u32 index) { return FindGadgetByItemCode(box, index); }
+static t_gadget *Button(t_Window *box, u32 index)
+{
+    return FindGadgetByItemCode(box, index);
+}
 
-TEST_F(LumoraTest, EachButtonOfAQuestionAnswersItsParent) {
+TEST_F(LumoraTest, EachButtonOfAQuestionAnswersItsParent)
+{
     struct {
         u32 button;
         u32 answer;
@@ -33,16 +37,15 @@ TEST_F(LumoraTest, EachButtonOfAQuestionAnswersItsParent) {
     }
 }
 
-TEST_F(LumoraTest, EnterEscapeAndTheMaskDecideTheAnswer) {
+TEST_F(LumoraTest, EnterEscapeAndTheMaskDecideTheAnswer)
+{
     struct {
         u32 style, mask;
         u16 key;
         u32 answers, answer;
     } rows[] = {
-        {35, ALL_ANSWERS, KEY_RETURN, 1, ACT_REQUESTER_OK},
-        {35, ALL_ANSWERS, KEY_ESCAPE, 1, ACT_REQUESTER_CANCEL},
-        {16, ALL_ANSWERS, KEY_ESCAPE, 1, ACT_REQUESTER_OK},
-        {64, ALL_ANSWERS, KEY_RETURN, 1, ACT_REQUESTER_OK},
+        {35, ALL_ANSWERS, KEY_RETURN, 1, ACT_REQUESTER_OK}, {35, ALL_ANSWERS, KEY_ESCAPE, 1, ACT_REQUESTER_CANCEL},
+        {16, ALL_ANSWERS, KEY_ESCAPE, 1, ACT_REQUESTER_OK}, {64, ALL_ANSWERS, KEY_RETURN, 1, ACT_REQUESTER_OK},
         {35, IDCMP_REQUESTER_OK, KEY_ESCAPE, 0, 0},  // an answer the parent didn't ask for
     };
     for (const auto &row : rows) {

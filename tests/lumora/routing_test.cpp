@@ -10,7 +10,8 @@ struct ACTION_CALL {
 static std::vector<ACTION_CALL> actions;
 static u32 action_result;
 
-static u32 RecordAction(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg) {
+static u32 RecordAction(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg)
+{
     (void)window;
     actions.push_back({gadget, msg->keyboard_flags, msg->mouse_action, msg->x, msg->y});
     return action_result;
@@ -23,16 +24,20 @@ struct HANDLER_CALL {
 static std::vector<HANDLER_CALL> handler_calls;
 static u32 handler_result;
 
-static u32 RecordHandler(t_Handler *handler, u32 event, void *data) {
+static u32 RecordHandler(t_Handler *handler, u32 event, void *data)
+{
     (void)handler;
     u16 action = 0;
-    if (event == HANDLER_EVENT_MOUSE) action = ((T_MOUSE_MSG *)data)->mouse_action;
-    if (event == HANDLER_EVENT_KEY) action = ((T_KEY_MSG *)data)->key_code;
+    if (event == HANDLER_EVENT_MOUSE)
+        action = ((T_MOUSE_MSG *)data)->mouse_action;
+    if (event == HANDLER_EVENT_KEY)
+        action = ((T_KEY_MSG *)data)->key_code;
     handler_calls.push_back({event, action});
     return event == HANDLER_EVENT_END ? 0 : handler_result;
 }
 
-static void Reset() {
+static void Reset()
+{
     actions.clear();
     handler_calls.clear();
     recorded.clear();
@@ -40,13 +45,16 @@ static void Reset() {
     handler_result = 0;
 }
 
-static u32 Count(u32 event, u16 action) {
+static u32 Count(u32 event, u16 action)
+{
     u32 n = 0;
-    for (const HANDLER_CALL &c : handler_calls) n += c.event == event && c.action == action;
+    for (const HANDLER_CALL &c : handler_calls)
+        n += c.event == event && c.action == action;
     return n;
 }
 
-TEST_F(LumoraTest, KeyGoesToHandlersThenGadgetThenMessage) {
+TEST_F(LumoraTest, KeyGoesToHandlersThenGadgetThenMessage)
+{
     struct {
         u32 handler_takes, gadget_takes;
         u32 handler_calls, gadget_calls, key_messages;
@@ -79,7 +87,8 @@ TEST_F(LumoraTest, KeyGoesToHandlersThenGadgetThenMessage) {
     }
 }
 
-TEST_F(LumoraTest, ActionFunctionGetsOnlyItsMaskAndNothingElseDoes) {
+TEST_F(LumoraTest, ActionFunctionGetsOnlyItsMaskAndNothingElseDoes)
+{
     struct {
         u32 mask;
         std::vector<u16> expect;
@@ -97,15 +106,17 @@ TEST_F(LumoraTest, ActionFunctionGetsOnlyItsMaskAndNothingElseDoes) {
         Reset();
         Click(g->screen_x + 5, g->screen_y + 5);
         ASSERT_EQ(actions.size(), row.expect.size());
-        for (size_t i = 0; i < actions.size(); i++) EXPECT_EQ(actions[i].mouse_action, row.expect[i]);
+        for (size_t i = 0; i < actions.size(); i++)
+            EXPECT_EQ(actions[i].mouse_action, row.expect[i]);
         EXPECT_EQ(Count(HANDLER_EVENT_MOUSE, ACT_LMOUSE_DOWN), 0u);  // the gadget took the press
-        EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 0u);  // with an action_fn, no report either
+        EXPECT_EQ(CountRecorded(ACT_LMOUSE_UP), 0u);                 // with an action_fn, no report either
         RemoveWindow(w);
         Turn();
     }
 }
 
-TEST_F(LumoraTest, PressMakesCurrentAndReleaseGoesToThePressingGadget) {
+TEST_F(LumoraTest, PressMakesCurrentAndReleaseGoesToThePressingGadget)
+{
     t_Window *w = MakeWindow("Capture", 10, 10, 400, 300, 0, 0);
     NewHandler(&w->handlers, RecordHandler, nullptr, "recorder", 0, sizeof(t_Handler), w);
     t_gadget *a = MakeGadget(w, "a", GADGET_TYPE_BUTTON, 10, 10, 50, 20, 1, 0x73);
@@ -126,7 +137,8 @@ TEST_F(LumoraTest, PressMakesCurrentAndReleaseGoesToThePressingGadget) {
     EXPECT_EQ(lumora_state.capture.window, nullptr);
 }
 
-TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick) {
+TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick)
+{
     t_Window *w = MakeWindow("Double", 10, 10, 400, 300, 0, 0);
     t_gadget *g = MakeGadget(w, "g", GADGET_TYPE_BUTTON, 10, 10, 50, 20, 1, 0x73);
     g->action_fn = RecordAction;
@@ -136,10 +148,10 @@ TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick) {
     for (u16 kind : {INPUT_MOUSE_DOWN, INPUT_MOUSE_UP, INPUT_MOUSE_DOWN, INPUT_MOUSE_UP})
         PushEvent(kind, x, y, 1);
     Turn();
-    std::vector<u16> expect = {ACT_LMOUSE_DOWN, ACT_LMOUSE_UP, ACT_LMOUSE_DOWN, ACT_LMOUSE_DBL,
-                               ACT_LMOUSE_UP};
+    std::vector<u16> expect = {ACT_LMOUSE_DOWN, ACT_LMOUSE_UP, ACT_LMOUSE_DOWN, ACT_LMOUSE_DBL, ACT_LMOUSE_UP};
     ASSERT_EQ(actions.size(), expect.size());
-    for (size_t i = 0; i < expect.size(); i++) EXPECT_EQ(actions[i].mouse_action, expect[i]);
+    for (size_t i = 0; i < expect.size(); i++)
+        EXPECT_EQ(actions[i].mouse_action, expect[i]);
     Reset();
     HeadlessAdvance(500);  // too late for a double click
     PushEvent(INPUT_MOUSE_DOWN, x, y, 1);
@@ -149,7 +161,8 @@ TEST_F(LumoraTest, SecondQuickPressMakesADoubleClick) {
 }
 
 static std::string dropped_directory, dropped_name;
-static u32 TakeDrop(t_Window *window, u32 item_code, u32 msg, void *data) {
+static u32 TakeDrop(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     RecordMessage(window, item_code, msg, data);
     if (msg == ACT_RECEIVE_OBJECT && item_code == 2) {
         dropped_directory = ((T_DROPPED_FILE *)data)->directory;
@@ -158,7 +171,8 @@ static u32 TakeDrop(t_Window *window, u32 item_code, u32 msg, void *data) {
     return 0;
 }
 
-TEST_F(LumoraTest, DroppedFileReachesTheWindowThatTakesIt) {
+TEST_F(LumoraTest, DroppedFileReachesTheWindowThatTakesIt)
+{
     t_Window *parent = MakeWindow("Main", 0, 0, 600, 500, 0, IDCMP_RECEIVE_OBJECT, nullptr, TakeDrop);
     MakeWindow("Page", 50, 50, 200, 200, WF_CHILD, 0, parent);  // passes the drop on
     Move(100, 100);

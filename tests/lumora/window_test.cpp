@@ -2,9 +2,13 @@
 // removal, focus, and the window's bitmap.
 #include "tests/harness/toolkit_fixture.h"
 
-static i16 TitleH() { return (i16)DISPLAY_RECORD->title_height; }
+static i16 TitleH()
+{
+    return (i16)DISPLAY_RECORD->title_height;
+}
 
-TEST_F(LumoraTest, UserAreaFollowsFrameFlags) {
+TEST_F(LumoraTest, UserAreaFollowsFrameFlags)
+{
     struct {
         u32 flags;
         i16 border, title;
@@ -35,7 +39,8 @@ TEST_F(LumoraTest, UserAreaFollowsFrameFlags) {
     Turn();
 }
 
-TEST_F(LumoraTest, GadgetsFromRightAndBottomFollowTheUserArea) {
+TEST_F(LumoraTest, GadgetsFromRightAndBottomFollowTheUserArea)
+{
     t_Window *w = MakeWindow("G", 0, 0, 208, 108, WF_BORDER, 0);  // user area 4,4 200x100
     struct {
         u32 flags;
@@ -55,8 +60,8 @@ TEST_F(LumoraTest, GadgetsFromRightAndBottomFollowTheUserArea) {
         RecalcUserSize(w);
         EXPECT_EQ(g->x, row.pos_x + 5);
         EXPECT_EQ(g->pos_width, 40);
-        EXPECT_EQ(g->screen_x, (row.flags & GADGET_FLAGS_FROM_RIGHT) ? 4 + 200 - (row.pos_x + 5) - 40
-                                                                     : 4 + row.pos_x + 5);
+        EXPECT_EQ(g->screen_x,
+                  (row.flags & GADGET_FLAGS_FROM_RIGHT) ? 4 + 200 - (row.pos_x + 5) - 40 : 4 + row.pos_x + 5);
     }
     T_RPOS bigger = {0, 0, 308, 208};
     ResizeWindow(w, &bigger);
@@ -65,9 +70,9 @@ TEST_F(LumoraTest, GadgetsFromRightAndBottomFollowTheUserArea) {
     EXPECT_EQ(last->screen_y, 4 + 200 - 15);
 }
 
-TEST_F(LumoraTest, TitleDragMovesWindowAndChildren) {
-    t_Window *w = MakeWindow("Mover", 100, 100, 300, 200, WF_BORDER | WF_TITLE | WF_MOVE,
-                             IDCMP_WINDOW_MOVE);
+TEST_F(LumoraTest, TitleDragMovesWindowAndChildren)
+{
+    t_Window *w = MakeWindow("Mover", 100, 100, 300, 200, WF_BORDER | WF_TITLE | WF_MOVE, IDCMP_WINDOW_MOVE);
     t_Window *child = MakeWindow("Child", 10, 10, 50, 40, WF_CHILD, 0, w);
     i16 cx = child->x, cy = child->y;
     Turn();
@@ -83,20 +88,20 @@ TEST_F(LumoraTest, TitleDragMovesWindowAndChildren) {
     EXPECT_EQ(w->y, 0);
 }
 
-TEST_F(LumoraTest, BorderDragResizesAndReports) {
+TEST_F(LumoraTest, BorderDragResizesAndReports)
+{
     struct {
         i16 px, py, dx, dy;  // press point relative to the frame, and the drag
         T_RPOS expect;
     } rows[] = {
-        {299, 100, 40, 0, {100, 100, 340, 200}},    // right edge
-        {150, 199, 0, 30, {100, 100, 300, 230}},    // bottom edge
+        {299, 100, 40, 0, {100, 100, 340, 200}},     // right edge
+        {150, 199, 0, 30, {100, 100, 300, 230}},     // bottom edge
         {299, 199, -20, -10, {100, 100, 280, 190}},  // bottom right corner
-        {1, 100, -50, 0, {50, 100, 350, 200}},      // left edge
-        {299, 100, -400, 0, {100, 100, 40, 200}},   // past the left edge: the smallest width
+        {1, 100, -50, 0, {50, 100, 350, 200}},       // left edge
+        {299, 100, -400, 0, {100, 100, 40, 200}},    // past the left edge: the smallest width
     };
     for (const auto &row : rows) {
-        t_Window *w = MakeWindow("Sizer", 100, 100, 300, 200, WF_BORDER | WF_RESIZE | WF_TITLE,
-                                 IDCMP_WINDOW_RESIZE);
+        t_Window *w = MakeWindow("Sizer", 100, 100, 300, 200, WF_BORDER | WF_RESIZE | WF_TITLE, IDCMP_WINDOW_RESIZE);
         Turn();
         recorded.clear();
         Drag(100 + row.px, 100 + row.py, 100 + row.px + row.dx, 100 + row.py + row.dy);
@@ -112,14 +117,16 @@ TEST_F(LumoraTest, BorderDragResizesAndReports) {
 }
 
 static i16 close_x, close_y;
-static void FindCloseButton(t_Window *w) {
+static void FindCloseButton(t_Window *w)
+{
     T_RPOS t = TitleRect(w);
     i16 s = t.h - 6;
     close_x = t.x + t.w - 3 - s / 2;
     close_y = t.y + t.h / 2;
 }
 
-TEST_F(LumoraTest, CloseGadgetAndAltF4AskToTerminate) {
+TEST_F(LumoraTest, CloseGadgetAndAltF4AskToTerminate)
+{
     struct {
         u32 flags, idcmp;
         int by_key;
@@ -143,14 +150,16 @@ TEST_F(LumoraTest, CloseGadgetAndAltF4AskToTerminate) {
         }
         EXPECT_EQ(CountRecorded(ACT_TERMINATE), row.terminates);
         EXPECT_EQ(FindWindowByName(nullptr, "Closing") == nullptr, row.removed != 0);
-        if (!row.removed) RemoveWindow(w);
+        if (!row.removed)
+            RemoveWindow(w);
         Turn();
     }
 }
 
 // In a child that doesn't take Alt+F4 the key closes the nearest parent that does, unless the child
 // is a dialog, in front of or dependent on its parent: then no one is closed.
-TEST_F(LumoraTest, AltF4InAChildClosesTheParentThatTakesItUnlessTheChildIsADialog) {
+TEST_F(LumoraTest, AltF4InAChildClosesTheParentThatTakesItUnlessTheChildIsADialog)
+{
     struct {
         u32 child_flags;
         int main_closes, child_closes;
@@ -174,9 +183,9 @@ TEST_F(LumoraTest, AltF4InAChildClosesTheParentThatTakesItUnlessTheChildIsADialo
     }
 }
 
-TEST_F(LumoraTest, MaximiseAndMinimiseRestore) {
-    t_Window *w = MakeWindow("Big", 50, 60, 200, 150,
-                             WF_TITLE | WF_BORDER | WF_MAXIMISE | WF_MINIMISE | WF_CLOSE, 0);
+TEST_F(LumoraTest, MaximiseAndMinimiseRestore)
+{
+    t_Window *w = MakeWindow("Big", 50, 60, 200, 150, WF_TITLE | WF_BORDER | WF_MAXIMISE | WF_MINIMISE | WF_CLOSE, 0);
     Turn();
     T_RPOS t = TitleRect(w);
     i16 s = t.h - 6;
@@ -203,9 +212,11 @@ TEST_F(LumoraTest, MaximiseAndMinimiseRestore) {
 // outermost turn ends.
 static u16 state_in_wait;
 static u32 flags_in_wait, depth_in_wait;
-static u32 RemoveAndWait(t_Window *window, u32 item_code, u32 msg, void *data) {
+static u32 RemoveAndWait(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     RecordMessage(window, item_code, msg, data);
-    if (msg != ACT_TERMINATE) return 0;
+    if (msg != ACT_TERMINATE)
+        return 0;
     RemoveWindow(window);
     RefreshHandlers(nullptr);
     state_in_wait = window->state;
@@ -214,9 +225,10 @@ static u32 RemoveAndWait(t_Window *window, u32 item_code, u32 msg, void *data) {
     return 0;
 }
 
-TEST_F(LumoraTest, RemovedWindowIsFreedOnlyAfterTheOutermostTurn) {
-    t_Window *w = MakeWindow("Query", 50, 50, 200, 150, WF_TITLE | WF_CLOSE | WF_ALTF4,
-                             IDCMP_TERMINATE, nullptr, RemoveAndWait);
+TEST_F(LumoraTest, RemovedWindowIsFreedOnlyAfterTheOutermostTurn)
+{
+    t_Window *w =
+        MakeWindow("Query", 50, 50, 200, 150, WF_TITLE | WF_CLOSE | WF_ALTF4, IDCMP_TERMINATE, nullptr, RemoveAndWait);
     NewHandler(&w->handlers, nullptr, nullptr, "extra", 0, 64, w);
     Turn();
     u64 blocks = _OstrandBase->blocks_allocated;
@@ -228,7 +240,8 @@ TEST_F(LumoraTest, RemovedWindowIsFreedOnlyAfterTheOutermostTurn) {
     EXPECT_LT(_OstrandBase->blocks_allocated, blocks);
 }
 
-TEST_F(LumoraTest, FocusChangeSendsLooseThenGain) {
+TEST_F(LumoraTest, FocusChangeSendsLooseThenGain)
+{
     u32 mask = IDCMP_GAIN_CONTEXT | IDCMP_LOOSE_CONTEXT;
     t_Window *a = MakeWindow("A", 10, 10, 200, 200, WF_BORDER, mask);
     t_Window *b = MakeWindow("B", 300, 10, 200, 200, WF_BORDER, mask);
@@ -246,14 +259,16 @@ TEST_F(LumoraTest, FocusChangeSendsLooseThenGain) {
     EXPECT_EQ(recorded.size(), 2u);
 }
 
-TEST_F(LumoraTest, BitmapIsFoundByNameOrLeftPlain) {
+TEST_F(LumoraTest, BitmapIsFoundByNameOrLeftPlain)
+{
     t_Window *w = MakeWindow("Pic", 0, 0, 100, 100, 0, 0);
     SetWindowBitmap(w, "absent.png");
     EXPECT_EQ(w->bitmap, nullptr);
     std::string dir = data_root + "/Bitmaps";
     ASSERT_TRUE(MakeEntireDirectory(dir.c_str()));
     u32 pixels[4 * 4];
-    for (u32 &p : pixels) p = 0x00112233;
+    for (u32 &p : pixels)
+        p = 0x00112233;
     T_SURFACE s = {pixels, 4, 4, 4};
     ASSERT_TRUE(WritePNG((dir + "/tile.png").c_str(), &s));
     SetWindowBitmap(w, "tile.png");
@@ -261,8 +276,7 @@ TEST_F(LumoraTest, BitmapIsFoundByNameOrLeftPlain) {
     EXPECT_STREQ(w->bitmap->name, "tile.png");
     EXPECT_EQ(w->bitmap->type, (u32)RESOURCE_TYPE_BITMAP);
     Turn();
-    EXPECT_EQ(lumora_state.screen.pixels[w->user_y * lumora_state.screen.pitch + w->user_x] & 0xFFFFFF,
-              0x112233u);
+    EXPECT_EQ(lumora_state.screen.pixels[w->user_y * lumora_state.screen.pitch + w->user_x] & 0xFFFFFF, 0x112233u);
     SetWindowBitmap(w, "");
     EXPECT_EQ(w->bitmap, nullptr);
 }

@@ -20,19 +20,23 @@ static const struct CommandRow {
     {"Layout", "Keyboard", "Customise keyboard", 278, 0},
 };
 
-class Commands : public DataRootTest {
+class Commands : public DataRootTest
+{
   protected:
     T_APPLICATION *app = nullptr;
-    void SetUp() override {
+    void SetUp() override
+    {
         DataRootTest::SetUp();
         app = Start();
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         FreeApplication(app);
         DataRootTest::TearDown();
     }
     // A run of the application: a new record that registers the whole table.
-    static T_APPLICATION *Start() {
+    static T_APPLICATION *Start()
+    {
         T_APPLICATION *app = NewApplication("Quillform");
         for (const CommandRow &row : command_rows) {
             SetAppCommandGroup(app, row.group);
@@ -40,14 +44,16 @@ class Commands : public DataRootTest {
         }
         return app;
     }
-    void Restart() {
+    void Restart()
+    {
         FreeApplication(app);
         app = Start();
     }
     std::string KeyStore() const { return ReadWhole(Path("keys/Quillform.keys")); }
 };
 
-TEST_F(Commands, AKeyInUseIsRefusedAndAChangeOutlivesARestart) {
+TEST_F(Commands, AKeyInUseIsRefusedAndAChangeOutlivesARestart)
+{
     T_APP_COMMAND *close = FindAppCommandByCode(app, 257);
     EXPECT_FALSE(SetAppCommandKey(app, close, KEY_CTRL('S')));
     EXPECT_EQ(close->key, 0u);
@@ -70,13 +76,10 @@ TEST_F(Commands, AKeyInUseIsRefusedAndAChangeOutlivesARestart) {
     EXPECT_EQ(FindAppCommandByCode(app, 257)->key, 0u);
 }
 
-TEST_F(Commands, ABrokenKeyStoreGivesTheDefaultsAndOneLogLine) {
+TEST_F(Commands, ABrokenKeyStoreGivesTheDefaultsAndOneLogLine)
+{
     const char *stores[] = {
-        "257 303\nsave ctrl+s\n",
-        "257\n",
-        "257 303 9\n",
-        "-1 5\n",
-        "257 99999\n",
+        "257 303\nsave ctrl+s\n", "257\n", "257 303 9\n", "-1 5\n", "257 99999\n",
     };
     for (const char *store : stores) {
         ASSERT_TRUE(MakeEntireDirectory(Path("keys").c_str()));

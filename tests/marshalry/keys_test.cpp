@@ -11,14 +11,14 @@ TEST(KeyNames, ShownAndReadBack)
         u16 qualifiers;  // read back from the shown name
     } rows[] = {
         // key              shown         qualifiers
-        {KEY_CTRL('O'),     "Ctrl+O",     QUAL_CONTROL},
-        {KEY_F1 + 9,        "F10",        0},
-        {KEY_F1 + 11,       "F12",        0},
-        {KEY_DELETE,        "Delete",     0},
-        {KEY_PAGE_DOWN,     "Page Down",  0},
-        {KEY_ESCAPE,        "Escape",     0},
-        {' ',               "Space",      0},
-        {'q',               "Q",          0},
+        {KEY_CTRL('O'), "Ctrl+O", QUAL_CONTROL},
+        {KEY_F1 + 9, "F10", 0},
+        {KEY_F1 + 11, "F12", 0},
+        {KEY_DELETE, "Delete", 0},
+        {KEY_PAGE_DOWN, "Page Down", 0},
+        {KEY_ESCAPE, "Escape", 0},
+        {' ', "Space", 0},
+        {'q', "Q", 0},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.shown);

@@ -7,24 +7,29 @@
 #include "ostrand/test_support.h"
 #include "toolkit.h"
 
-class RecentFiles : public DataRootTest {
+class RecentFiles : public DataRootTest
+{
   protected:
     T_APPLICATION *app = nullptr;
-    void SetUp() override {
+    void SetUp() override
+    {
         DataRootTest::SetUp();
         app = NewApplication("Quillform");
         AddRecentFileType(app, 1, 3);
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         FreeApplication(app);
         DataRootTest::TearDown();
     }
-    void Restart() {
+    void Restart()
+    {
         FreeApplication(app);
         app = NewApplication("Quillform");
         AddRecentFileType(app, 1, 3);
     }
-    std::vector<std::string> Paths(u32 type = 1) {
+    std::vector<std::string> Paths(u32 type = 1)
+    {
         std::vector<std::string> paths;
         for (T_RECENT_TYPE *t = (T_RECENT_TYPE *)app->recent_types.first; t->next; t = t->next)
             if (t->type == type)
@@ -37,7 +42,8 @@ class RecentFiles : public DataRootTest {
     using Paths_ = std::vector<std::string>;
 };
 
-TEST_F(RecentFiles, NewestFirstWithoutDuplicatesUpToTheLimit) {
+TEST_F(RecentFiles, NewestFirstWithoutDuplicatesUpToTheLimit)
+{
     struct Step {
         const char *add;
         std::vector<std::string> after;
@@ -55,7 +61,7 @@ TEST_F(RecentFiles, NewestFirstWithoutDuplicatesUpToTheLimit) {
         EXPECT_EQ(Paths(), s.after) << s.add;
     }
     std::string log = CaptureLog([&] {
-        AddRecentFile(app, "/p/e.cpp", 7);       // a type never registered
+        AddRecentFile(app, "/p/e.cpp", 7);     // a type never registered
         AddRecentFile(app, "/p/x\ny.cpp", 1);  // can't be a line of the store
     });
     size_t first = log.find("refused"), second = log.find("refused", first + 1);
@@ -64,7 +70,8 @@ TEST_F(RecentFiles, NewestFirstWithoutDuplicatesUpToTheLimit) {
     EXPECT_EQ(Paths(), (Paths_{"/p/a.cpp", "/p/d.cpp", "/p/c.cpp"}));
 }
 
-TEST_F(RecentFiles, ABrokenStoreGivesAnEmptyListAndOneLogLine) {
+TEST_F(RecentFiles, ABrokenStoreGivesAnEmptyListAndOneLogLine)
+{
     const char *stores[] = {"/p/a.cpp\n", "1 /p/a.cpp\nx /p/b.cpp\n", "1\n", "1 \n"};
     for (const char *store : stores) {
         ASSERT_TRUE(MakeEntireDirectory(Path("recent").c_str()));

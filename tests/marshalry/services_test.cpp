@@ -7,18 +7,21 @@
 #include "marshalry/toolkit_fixture.h"
 
 static std::vector<std::pair<t_Window *, u32>> picks;
-static u32 RecordPick(t_Window *window, u32 item_code, u32 msg, void *) {
+static u32 RecordPick(t_Window *window, u32 item_code, u32 msg, void *)
+{
     if (msg == ACT_MENU_PICK)
         picks.push_back({window, item_code});
     return 0;
 }
 
-class Services : public ToolkitTest {
+class Services : public ToolkitTest
+{
   protected:
     T_APPLICATION *app = nullptr;
     t_List resources;
     T_TOOL_SETUP *setup = nullptr;
-    void SetUp() override {
+    void SetUp() override
+    {
         ToolkitTest::SetUp();
         app = NewApplication("Quillform");
         RegisterAppCommand(app, "Save", "Save the active document", 259, KEY_CTRL('S'), 0);
@@ -26,14 +29,16 @@ class Services : public ToolkitTest {
         setup = CreateResource(&resources, "AppQuillform", 548, RESOURCE_TYPE_SETTINGS);
         picks.clear();
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         FreeApplication(app);
         RemoveResource(setup);
         ToolkitTest::TearDown();
     }
 };
 
-TEST_F(Services, WindowPlacesAreStoredAndComeBackOnScreen) {
+TEST_F(Services, WindowPlacesAreStoredAndComeBackOnScreen)
+{
     t_Window *main = MakeWindow("Quillform", nullptr, {10, 10, 300, 200}, RecordPick);
     t_Window *tools = MakeWindow("qftoolbar", main, {20, 40, 60, 100}, RecordPick);
     AddToolSetupObject(setup, main, 0, 0);
@@ -42,8 +47,7 @@ TEST_F(Services, WindowPlacesAreStoredAndComeBackOnScreen) {
     ResizeWindow(main, &moved);
     StoreToolSetup(setup);
     EXPECT_EQ(ReadWhole(Path("places/AppQuillform.txt")),
-              "0 50 60 320 240\n1 " + std::to_string(tools->x) + " " + std::to_string(tools->y) +
-                  " 60 100\n");
+              "0 50 60 320 240\n1 " + std::to_string(tools->x) + " " + std::to_string(tools->y) + " 60 100\n");
 
     struct Case {
         const char *store;
@@ -52,7 +56,7 @@ TEST_F(Services, WindowPlacesAreStoredAndComeBackOnScreen) {
         {"0 50 60 320 240\n", {50, 60, 320, 240}},
         {"0 700 550 320 240\n", {480, 360, 320, 240}},  // pulled back onto the 800 x 600 screen
         {"0 -100 -5 2000 240\n", {0, 0, 800, 240}},
-        {"0 50 60 320\n", {10, 10, 300, 200}},  // garbage: the window stays where it is
+        {"0 50 60 320\n", {10, 10, 300, 200}},   // garbage: the window stays where it is
         {"1 5 5 60 100\n", {10, 10, 300, 200}},  // nothing stored for the main window
     };
     for (const Case &c : cases) {

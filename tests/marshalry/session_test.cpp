@@ -12,7 +12,8 @@ enum Answer { CLOSES, CANCELS, STAYS, CLOSES_NEXT_SIBLING };
 static std::vector<std::string> asked;
 static std::vector<Answer> answers;
 
-static u32 ChildMessage(t_Window *window, u32, u32 msg, void *) {
+static u32 ChildMessage(t_Window *window, u32, u32 msg, void *)
+{
     if (msg != ACT_TERMINATE)
         return 0;
     asked.push_back(window->name);
@@ -35,13 +36,17 @@ static u32 ChildMessage(t_Window *window, u32, u32 msg, void *) {
     return 0;
 }
 
-static u32 MainMessage(t_Window *, u32, u32, void *) {
+static u32 MainMessage(t_Window *, u32, u32, void *)
+{
     return 0;
 }
 
-class Session : public ToolkitTest {};
+class Session : public ToolkitTest
+{
+};
 
-TEST_F(Session, WaitAsksEachPageAndCountsWhatIsLeft) {
+TEST_F(Session, WaitAsksEachPageAndCountsWhatIsLeft)
+{
     struct Case {
         std::vector<Answer> answers;
         int result;
@@ -72,10 +77,10 @@ TEST_F(Session, WaitAsksEachPageAndCountsWhatIsLeft) {
     }
 }
 
-TEST_F(Session, TheCloseStoresSettingsAndPlacesAndEndsTheLoop) {
+TEST_F(Session, TheCloseStoresSettingsAndPlacesAndEndsTheLoop)
+{
     t_Window *main = MakeWindow("Quillform", nullptr, {30, 40, 500, 300}, MainMessage);
-    T_RESOURCE *settings = CreateResource(&_MarshalryBase->resources, "AppQuillform", 548,
-                                          RESOURCE_TYPE_SETTINGS);
+    T_RESOURCE *settings = CreateResource(&_MarshalryBase->resources, "AppQuillform", 548, RESOURCE_TYPE_SETTINGS);
     ((u8 *)settings->data)[0] = 42;
     AddToolSetupObject(settings, main, 0, 0);
     ASSERT_TRUE(InitSaveFile(Path("pending.cpp").c_str()));

@@ -3,20 +3,24 @@
 #include "ostrand/test_support.h"
 #include "toolkit.h"
 
-class ToolkitTest : public DataRootTest {
+class ToolkitTest : public DataRootTest
+{
   protected:
-    void SetUp() override {
+    void SetUp() override
+    {
         DataRootTest::SetUp();
         ASSERT_TRUE(OpenToolkit("headless", 800, 600, root.c_str()));
         _TenureBase->session_state = SESSION_RUNNING;
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         CloseToolkit();
         _TenureBase->session_state = SESSION_RUNNING;
         DataRootTest::TearDown();
     }
-    static t_Window *MakeWindow(const char *name, t_Window *parent, T_RPOS place,
-                                T_MESSAGE_FN message, u32 flags = WF_TITLE | WF_BORDER) {
+    static t_Window *MakeWindow(const char *name, t_Window *parent, T_RPOS place, T_MESSAGE_FN message,
+                                u32 flags = WF_TITLE | WF_BORDER)
+    {
         T_WINDOWOBJINIT init = {};
         init.x = place.x, init.y = place.y, init.w = place.w, init.h = place.h;
         init.flags = flags | (parent ? WF_CHILD : 0);

@@ -37,8 +37,8 @@ void ToolkitTest::SetUp()
     LumoraTest::SetUp();
     spy_messages.clear();
     spy_on_menu_open = nullptr;
-    owner = MakeWindow("owner", 40, 30, 500, 400, WF_TITLE | WF_BORDER,
-                       IDCMP_MENU_OPEN | IDCMP_KEY | IDCMP_TERMINATE, nullptr, SpyMessage);
+    owner = MakeWindow("owner", 40, 30, 500, 400, WF_TITLE | WF_BORDER, IDCMP_MENU_OPEN | IDCMP_KEY | IDCMP_TERMINATE,
+                       nullptr, SpyMessage);
     ASSERT_NE(owner, nullptr);
     Turn();
     spy_messages.clear();

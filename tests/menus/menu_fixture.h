@@ -3,8 +3,8 @@
 #pragma once
 #include <string.h>
 
-#include "tests/harness/toolkit_fixture.h"
 #include "lumora/menu_internal.h"
+#include "tests/harness/toolkit_fixture.h"
 
 typedef struct T_SPY_MESSAGE {
     u32 item_code;
@@ -21,8 +21,9 @@ u32 SpyMessage(t_Window *window, u32 item_code, u32 msg, void *data);
 u32 OpenPopups(void);
 t_Window *PopupAt(u32 level);  // the open menus in the order they opened
 
-class ToolkitTest : public LumoraTest {
-protected:
+class ToolkitTest : public LumoraTest
+{
+  protected:
     t_Window *owner = nullptr;
 
     void SetUp() override;

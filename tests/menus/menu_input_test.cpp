@@ -2,8 +2,9 @@
 // and context menus.
 #include "menus/menu_fixture.h"
 
-class MenuInputTest : public ToolkitTest {
-protected:
+class MenuInputTest : public ToolkitTest
+{
+  protected:
     T_MENU_HANDLER *handler = nullptr;
     t_Menu *file = nullptr;
 
@@ -83,18 +84,33 @@ TEST_F(MenuInputTest, KeysMoveThroughOpenMenusAndPick)
         u32 picked;
     } rows[] = {
         {"Enter picks the first entry", 0, {{'f', QUAL_ALT}, {KEY_RETURN, 0}}, SAMPLE_OPEN},
-        {"Down passes greyed entries and separators", SAMPLE_CLOSE, {{'f', QUAL_ALT}, {KEY_DOWN, 0}, {KEY_RETURN, 0}}, SAMPLE_SAVE},
+        {"Down passes greyed entries and separators",
+         SAMPLE_CLOSE,
+         {{'f', QUAL_ALT}, {KEY_DOWN, 0}, {KEY_RETURN, 0}},
+         SAMPLE_SAVE},
         {"Up goes round to the last", 0, {{'f', QUAL_ALT}, {KEY_UP, 0}, {KEY_RETURN, 0}}, SAMPLE_EXIT},
         {"a letter picks its entry", 0, {{'f', QUAL_ALT}, {'s', 0}}, SAMPLE_SAVE},
         {"letters are case-insensitive", 0, {{'f', QUAL_ALT}, {'X', 0}}, SAMPLE_EXIT},
         {"a greyed entry's letter picks nothing", SAMPLE_CLOSE, {{'f', QUAL_ALT}, {'c', 0}}, 0},
         {"the first highlight passes a greyed entry", SAMPLE_OPEN, {{'f', QUAL_ALT}, {KEY_RETURN, 0}}, SAMPLE_CLOSE},
         {"a sub-menu's letter opens it", 0, {{'f', QUAL_ALT}, {'r', 0}, {KEY_DOWN, 0}, {KEY_RETURN, 0}}, SAMPLE_TWO},
-        {"Right opens the highlighted sub-menu", 0, {{'f', QUAL_ALT}, {KEY_UP, 0}, {KEY_UP, 0}, {KEY_RIGHT, 0}, {KEY_RETURN, 0}}, SAMPLE_ONE},
-        {"Left leaves a sub-menu only", 0, {{'f', QUAL_ALT}, {'r', 0}, {KEY_LEFT, 0}, {KEY_DOWN, 0}, {KEY_RETURN, 0}}, SAMPLE_EXIT},
-        {"Right on an entry moves to the next title", 0, {{'f', QUAL_ALT}, {KEY_RIGHT, 0}, {KEY_RETURN, 0}}, SAMPLE_UNDO},
+        {"Right opens the highlighted sub-menu",
+         0,
+         {{'f', QUAL_ALT}, {KEY_UP, 0}, {KEY_UP, 0}, {KEY_RIGHT, 0}, {KEY_RETURN, 0}},
+         SAMPLE_ONE},
+        {"Left leaves a sub-menu only",
+         0,
+         {{'f', QUAL_ALT}, {'r', 0}, {KEY_LEFT, 0}, {KEY_DOWN, 0}, {KEY_RETURN, 0}},
+         SAMPLE_EXIT},
+        {"Right on an entry moves to the next title",
+         0,
+         {{'f', QUAL_ALT}, {KEY_RIGHT, 0}, {KEY_RETURN, 0}},
+         SAMPLE_UNDO},
         {"Left from the first title goes round", 0, {{'f', QUAL_ALT}, {KEY_LEFT, 0}, {KEY_RETURN, 0}}, SAMPLE_CENTRE},
-        {"Alt+E again reaches the next title with E", 0, {{'e', QUAL_ALT}, {'e', QUAL_ALT}, {KEY_RETURN, 0}}, SAMPLE_CENTRE},
+        {"Alt+E again reaches the next title with E",
+         0,
+         {{'e', QUAL_ALT}, {'e', QUAL_ALT}, {KEY_RETURN, 0}},
+         SAMPLE_CENTRE},
         {"Escape closes without a pick", 0, {{'f', QUAL_ALT}, {KEY_ESCAPE, 0}}, 0},
     };
     for (const auto &row : rows) {
@@ -147,8 +163,9 @@ TEST_F(MenuInputTest, PressesOutsideCloseOrSwitch)
     EXPECT_EQ(Picked(), 0u);
 }
 
-class ContextMenuTest : public ToolkitTest {
-protected:
+class ContextMenuTest : public ToolkitTest
+{
+  protected:
     t_Menu context;
 
     void SetUp() override

@@ -37,8 +37,8 @@ TEST_F(ToolkitTest, EntriesGoWhereTheInitRecordSaysAndAreFoundByItemCode)
         ASSERT_NE(entry->parent_menu, nullptr) << row.label;
         EXPECT_EQ(entry->parent_menu->menu_item_code, row.holder) << row.label;
     }
-    EXPECT_EQ(FindMenuByItemCode(file, SAMPLE_UNDO), nullptr);  // in another title
-    EXPECT_EQ(FindMenuByItemCode(file, 0), nullptr);            // separators are not entries
+    EXPECT_EQ(FindMenuByItemCode(file, SAMPLE_UNDO), nullptr);    // in another title
+    EXPECT_EQ(FindMenuByItemCode(file, 0), nullptr);              // separators are not entries
     EXPECT_EQ(FindMenuInHandler(handler, SAMPLE_OPEN), nullptr);  // only titles
     EXPECT_EQ(FindMenuHandler(owner), handler);
 }

@@ -3,8 +3,9 @@
 
 static const char *const tool_labels[] = {"Selector", "Checkbox", "Listbox", "Radio button"};
 
-class ToolBarTest : public ToolkitTest {
-protected:
+class ToolBarTest : public ToolkitTest
+{
+  protected:
     T_TOOLBAR_HANDLER *toolbar = nullptr;
     u64 blocks_before = 0;
 

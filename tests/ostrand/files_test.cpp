@@ -1,7 +1,7 @@
 // Files: loading, line reading, atomic saves and their failures (a save killed halfway, a
 // write-protected file, the mode a new file gets), paths too long, directories.
-#include <gtest/gtest.h>
 #include <dirent.h>
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -15,7 +15,8 @@
 #include "toolkit.h"
 
 // The lines ReadLine gives for `data`, and the bytes each consumed.
-static std::vector<std::string> Lines(const std::string &data, std::vector<u32> *consumed) {
+static std::vector<std::string> Lines(const std::string &data, std::vector<u32> *consumed)
+{
     std::vector<std::string> lines;
     char line[1024];
     const char *at = data.data(), *end = data.data() + data.size();
@@ -26,7 +27,8 @@ static std::vector<std::string> Lines(const std::string &data, std::vector<u32> 
     return lines;
 }
 
-TEST(ReadLine, LineEndsEmptyLinesAndTheLastLine) {
+TEST(ReadLine, LineEndsEmptyLinesAndTheLastLine)
+{
     struct Case {
         std::string data;
         std::vector<std::string> lines;
@@ -47,9 +49,12 @@ TEST(ReadLine, LineEndsEmptyLinesAndTheLastLine) {
     }
 }
 
-class Files : public DataRootTest {};
+class Files : public DataRootTest
+{
+};
 
-TEST_F(Files, AFailingFinishLeavesTheOldFileWhole) {
+TEST_F(Files, AFailingFinishLeavesTheOldFileWhole)
+{
     std::string path = Path("page.cpp");
     WriteWhole(path, "the old page");
     // The temporary file's place is taken by a directory, so the write fails at the finish.
@@ -67,7 +72,8 @@ TEST_F(Files, AFailingFinishLeavesTheOldFileWhole) {
     EXPECT_STREQ(SaveFileError(), "Is a directory");
 }
 
-TEST_F(Files, ASaveIntoAMissingDirectoryFailsAtFinish) {
+TEST_F(Files, ASaveIntoAMissingDirectoryFailsAtFinish)
+{
     std::string path = Path("nowhere/page.cpp");
     std::string log = CaptureLog([&] {
         EXPECT_FALSE(InitSaveFile(path.c_str()));
@@ -80,7 +86,8 @@ TEST_F(Files, ASaveIntoAMissingDirectoryFailsAtFinish) {
 }
 
 // The names in a folder, sorted, "." and ".." left out.
-static std::vector<std::string> Names(const std::string &folder) {
+static std::vector<std::string> Names(const std::string &folder)
+{
     std::vector<std::string> names;
     if (DIR *dir = opendir(folder.c_str())) {
         while (struct dirent *entry = readdir(dir))
@@ -92,14 +99,16 @@ static std::vector<std::string> Names(const std::string &folder) {
     return names;
 }
 
-static void KillMyself(void) {
+static void KillMyself(void)
+{
     raise(SIGKILL);
 }
 
 // A save killed between writing and renaming leaves the old page whole and one temporary file of a
 // fixed name beside it; the next save takes that file over and leaves nothing else behind. The
 // page keeps its mode through both saves.
-TEST_F(Files, AKilledSaveLeavesOneFixedTemporaryFileThatTheNextSaveReplaces) {
+TEST_F(Files, AKilledSaveLeavesOneFixedTemporaryFileThatTheNextSaveReplaces)
+{
     std::string path = Path("page.cpp");
     WriteWhole(path, "the old page");
     ASSERT_EQ(chmod(path.c_str(), 0640), 0);
@@ -131,7 +140,8 @@ TEST_F(Files, AKilledSaveLeavesOneFixedTemporaryFileThatTheNextSaveReplaces) {
 
 // A document that no one may write is not replaced, root or not; a store is, and a broken store's
 // mode doesn't stay with the good file that replaces it.
-TEST_F(Files, WriteProtectedDocumentsStayAndStoresGetTheOrdinaryMode) {
+TEST_F(Files, WriteProtectedDocumentsStayAndStoresGetTheOrdinaryMode)
+{
     mode_t mask = umask(022);
     std::string page = Path("page.cpp"), store = Path("store.res");
     WriteWhole(page, "protected");
@@ -156,7 +166,8 @@ TEST_F(Files, WriteProtectedDocumentsStayAndStoresGetTheOrdinaryMode) {
 
 // A path too long for the buffers is refused by every operation, with a log line; none of them
 // reaches the file that its cut prefix names.
-TEST_F(Files, APathTooLongIsRefusedAndNeverCut) {
+TEST_F(Files, APathTooLongIsRefusedAndNeverCut)
+{
     std::string folder = root;
     while (folder.size() < FILE_PATH_SIZE - 80)
         folder += "/" + std::string(60, 'd');
@@ -186,7 +197,8 @@ TEST_F(Files, APathTooLongIsRefusedAndNeverCut) {
 }
 
 // The data root is one process's: the lock says who holds it, and goes when that process dies.
-TEST_F(Files, TheDataRootLockNamesItsHolderAndDiesWithIt) {
+TEST_F(Files, TheDataRootLockNamesItsHolderAndDiesWithIt)
+{
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
     pid_t holder = fork();

@@ -7,7 +7,8 @@
 #include "toolkit.h"
 
 // The names of a list, front to back, by a walk that stops at the tail mark.
-static std::string Names(t_List *list) {
+static std::string Names(t_List *list)
+{
     std::string names;
     for (t_Node *n = list->first; n->next; n = n->next)
         names += n->name ? n->name : "?";
@@ -15,26 +16,31 @@ static std::string Names(t_List *list) {
 }
 
 // The same, back to front by prev, which stops at the head (the node whose prev is null).
-static std::string NamesBackwards(t_List *list) {
+static std::string NamesBackwards(t_List *list)
+{
     std::string names;
     for (t_Node *n = list->last; n->prev; n = n->prev)
         names.insert(0, n->name ? n->name : "?");
     return names;
 }
 
-class ListTest : public ::testing::Test {
+class ListTest : public ::testing::Test
+{
   protected:
     t_List list;
     u64 blocks_before = 0;
-    void SetUp() override {
+    void SetUp() override
+    {
         blocks_before = _OstrandBase->blocks_allocated;
         InitList(&list, "test");
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         EmptyList(&list, sizeof(t_Node));
         EXPECT_EQ(_OstrandBase->blocks_allocated, blocks_before);
     }
-    void Fill(const char *names) {
+    void Fill(const char *names)
+    {
         for (const char *c = names; *c; c++) {
             char name[2] = {*c, 0};
             NewTail(&list, sizeof(t_Node), name);
@@ -42,7 +48,8 @@ class ListTest : public ::testing::Test {
     }
 };
 
-TEST_F(ListTest, EmptyListWalksNothingAndItsFirstIsTheTailMark) {
+TEST_F(ListTest, EmptyListWalksNothingAndItsFirstIsTheTailMark)
+{
     EXPECT_TRUE(LIST_EMPTY(&list));
     EXPECT_EQ(CountListEntries(&list), 0u);
     EXPECT_EQ(list.first->next, nullptr);
@@ -51,13 +58,17 @@ TEST_F(ListTest, EmptyListWalksNothingAndItsFirstIsTheTailMark) {
     EXPECT_EQ(FindNodeByIndex(&list, 0), nullptr);
 }
 
-TEST_F(ListTest, SubNodeOfFirstLastMiddleAndOnlyKeepsBothDirections) {
+TEST_F(ListTest, SubNodeOfFirstLastMiddleAndOnlyKeepsBothDirections)
+{
     struct Case {
         const char *fill;
         int remove_index;
         const char *left;
     } cases[] = {
-        {"abc", 0, "bc"}, {"abc", 2, "ab"}, {"abc", 1, "ac"}, {"a", 0, ""},
+        {"abc", 0, "bc"},
+        {"abc", 2, "ab"},
+        {"abc", 1, "ac"},
+        {"a", 0, ""},
     };
     for (const Case &c : cases) {
         EmptyList(&list, sizeof(t_Node));
@@ -71,7 +82,8 @@ TEST_F(ListTest, SubNodeOfFirstLastMiddleAndOnlyKeepsBothDirections) {
     }
 }
 
-TEST_F(ListTest, AddQueueIsStableHighestFirst) {
+TEST_F(ListTest, AddQueueIsStableHighestFirst)
+{
     struct Entry {
         const char *name;
         i16 priority;

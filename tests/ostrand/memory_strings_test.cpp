@@ -6,7 +6,8 @@
 #include "ostrand/test_support.h"
 #include "toolkit.h"
 
-TEST(Memory, BlocksAreClearedCountedAndSizeChecked) {
+TEST(Memory, BlocksAreClearedCountedAndSizeChecked)
+{
     u64 blocks = _OstrandBase->blocks_allocated;
     u64 mismatches = _OstrandBase->size_mismatches;
     u8 *block = (u8 *)AllocMemType(0, 100);
@@ -27,7 +28,8 @@ TEST(Memory, BlocksAreClearedCountedAndSizeChecked) {
     EXPECT_EQ(_OstrandBase->blocks_allocated, blocks);
 }
 
-TEST(Strings, RemoveSpacesAndMakeReadable) {
+TEST(Strings, RemoveSpacesAndMakeReadable)
+{
     struct Case {
         const char *in, *spaces_removed, *readable;
     } cases[] = {
@@ -48,32 +50,36 @@ TEST(Strings, RemoveSpacesAndMakeReadable) {
     }
 }
 
-TEST(Strings, CalcHexNumberStopsAtTheFirstNonDigit) {
+TEST(Strings, CalcHexNumberStopsAtTheFirstNonDigit)
+{
     struct Case {
         const char *text;
         u32 value;
     } cases[] = {
-        {"ff", 255},       {"FF", 255},          {"80000002", 0x80000002u}, {"1g", 1},
-        {"", 0},           {"x10", 0},           {"0x10", 0},  // "0x" is the caller's to skip
+        {"ff", 255},       {"FF", 255},       {"80000002", 0x80000002u}, {"1g", 1}, {"", 0},
+        {"x10", 0},        {"0x10", 0},  // "0x" is the caller's to skip
         {"ffffffff", ~0u}, {"00c00;", 0xc00},
     };
     for (const Case &c : cases)
         EXPECT_EQ(CalcHexNumber(c.text), c.value) << c.text;
 }
 
+// clang-format off
 static const T_VAL2STRING flag_names[] = {
     {0x1, "FLAG_A"}, {0x400, "FLAG_H"}, {0x800, "FLAG_V"}, {0xc00, "FLAG_XY"},
     {0x300, "WHEEL"}, {3, "THREE"},     {0, ""},
 };
+// clang-format on
 
-TEST(ValueTables, LookupsMatchWholeValuesAndWholeTexts) {
+TEST(ValueTables, LookupsMatchWholeValuesAndWholeTexts)
+{
     struct ByCode {
         u32 value;
         const char *text;
     } by_code[] = {
-        {0x1, "FLAG_A"}, {0xc00, "FLAG_XY"}, {0x400, "FLAG_H"}, {3, "THREE"},
-        {0x100, nullptr},  // one bit of a two-bit row
-        {0x2, nullptr},    {0, nullptr},
+        {0x1, "FLAG_A"}, {0xc00, "FLAG_XY"}, {0x400, "FLAG_H"},
+        {3, "THREE"},    {0x100, nullptr},  // one bit of a two-bit row
+        {0x2, nullptr},  {0, nullptr},
     };
     for (const ByCode &c : by_code) {
         const char *found = FindV2SByCode(flag_names, c.value);
@@ -86,8 +92,8 @@ TEST(ValueTables, LookupsMatchWholeValuesAndWholeTexts) {
         const char *text;
         u32 value;
     } by_text[] = {
-        {"FLAG_XY", 0xc00}, {"WHEEL", 0x300}, {"FLAG_A", 1}, {"0", 0},
-        {"", 0},            {"flag_a", 0},    {"FLAG_A ", 0}, {nullptr, 0},
+        {"FLAG_XY", 0xc00}, {"WHEEL", 0x300}, {"FLAG_A", 1}, {"0", 0}, {"", 0},
+        {"flag_a", 0},      {"FLAG_A ", 0},   {nullptr, 0},
     };
     for (const ByText &c : by_text)
         EXPECT_EQ(FindV2SByString(flag_names, c.text), c.value) << (c.text ? c.text : "(null)");

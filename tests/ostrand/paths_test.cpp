@@ -6,7 +6,8 @@
 #include "ostrand/test_support.h"
 #include "toolkit.h"
 
-TEST(Paths, PartsOfAPath) {
+TEST(Paths, PartsOfAPath)
+{
     struct Case {
         const char *path, *directory, *name, *base;
         int has_extension;
@@ -31,7 +32,8 @@ TEST(Paths, PartsOfAPath) {
     }
 }
 
-TEST(Paths, JoiningDirectoriesAndNames) {
+TEST(Paths, JoiningDirectoriesAndNames)
+{
     struct Case {
         const char *directory, *name, *joined, *with_separator;
     } cases[] = {
@@ -53,13 +55,14 @@ TEST(Paths, JoiningDirectoriesAndNames) {
 }
 
 // The inputs of the three kinds of backup path: empty, absolute, relative.
-TEST(Paths, BackupPathKinds) {
+TEST(Paths, BackupPathKinds)
+{
     struct Case {
         const char *path;
         int absolute;
     } cases[] = {
-        {"", 0},      {"/save", 1}, {"D:\\Save", 1}, {"D:/Save", 1},
-        {"Backup", 0}, {"a/b", 0},  {"\\\\server\\share", 0}, {"D:", 0},
+        {"", 0},       {"/save", 1}, {"D:\\Save", 1},          {"D:/Save", 1},
+        {"Backup", 0}, {"a/b", 0},   {"\\\\server\\share", 0}, {"D:", 0},
     };
     for (const Case &c : cases)
         EXPECT_EQ(IsAbsolutePath(c.path), c.absolute) << c.path;
@@ -73,4 +76,6 @@ TEST(Paths, BackupPathKinds) {
     EXPECT_STREQ(target, "/w/a/b/");
 }
 
-class DataRoot : public DataRootTest {};
+class DataRoot : public DataRootTest
+{
+};

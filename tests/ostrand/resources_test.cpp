@@ -10,15 +10,18 @@
 #include "ostrand/test_support.h"
 #include "toolkit.h"
 
-class Resources : public DataRootTest {
+class Resources : public DataRootTest
+{
   protected:
     t_List list;
-    void SetUp() override {
+    void SetUp() override
+    {
         DataRootTest::SetUp();
         InitList(&list, "resources");
     }
     // Stores a 548-byte settings block with a known pattern under `name`.
-    void StoreSettings(const char *name) {
+    void StoreSettings(const char *name)
+    {
         T_RESOURCE *r = CreateResource(&list, name, 548, RESOURCE_TYPE_SETTINGS);
         for (u32 i = 0; i < r->data_size; i++)
             ((u8 *)r->data)[i] = (u8)(i * 7 + 1);
@@ -29,7 +32,8 @@ class Resources : public DataRootTest {
     std::string StoreFile(const char *name) { return Path(std::string("store/") + name + ".res"); }
 };
 
-TEST_F(Resources, StoredSettingsComeBackByteForByteInAFreshList) {
+TEST_F(Resources, StoredSettingsComeBackByteForByteInAFreshList)
+{
     StoreSettings("AppQuillform");
     t_List fresh;
     InitList(&fresh, "fresh");
@@ -57,7 +61,8 @@ TEST_F(Resources, StoredSettingsComeBackByteForByteInAFreshList) {
     RemoveResource(r);
 }
 
-TEST_F(Resources, BrokenStoresGiveNullOneLogLineAndStayAsTheyAre) {
+TEST_F(Resources, BrokenStoresGiveNullOneLogLineAndStayAsTheyAre)
+{
     StoreSettings("AppQuillform");
     std::string good = ReadWhole(StoreFile("AppQuillform"));
     std::string flipped = good;
@@ -77,10 +82,8 @@ TEST_F(Resources, BrokenStoresGiveNullOneLogLineAndStayAsTheyAre) {
     };
     for (const Case &c : cases) {
         WriteWhole(StoreFile("AppQuillform"), c.bytes);
-        std::string log = CaptureLog([&] {
-            EXPECT_EQ(OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0), nullptr)
-                << c.what;
-        });
+        std::string log = CaptureLog(
+            [&] { EXPECT_EQ(OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0), nullptr) << c.what; });
         EXPECT_EQ(CountLines(log), 1) << c.what << ": " << log;
         EXPECT_NE(log.find("AppQuillform.res"), std::string::npos) << c.what;
         EXPECT_EQ(ReadWhole(StoreFile("AppQuillform")), c.bytes) << c.what;
@@ -89,7 +92,8 @@ TEST_F(Resources, BrokenStoresGiveNullOneLogLineAndStayAsTheyAre) {
 
 // Runs `steps` as a user whom file permissions hold: this process when it is no root; else a child
 // that gives root up (root reads a file of mode 0 all the same). False when the steps failed.
-static bool AsUnprivileged(const std::string &root, const std::function<void()> &steps) {
+static bool AsUnprivileged(const std::string &root, const std::function<void()> &steps)
+{
     if (geteuid() != 0) {
         steps();
         return !::testing::Test::HasFailure();
@@ -111,7 +115,8 @@ static bool AsUnprivileged(const std::string &root, const std::function<void()> 
 
 // A store that can't be read (garbage, a folder in its place, no permission) is logged once and
 // ignored when read; the next store writes a good file in its place, with the ordinary mode.
-TEST_F(Resources, ABrokenStoreIsReplacedByAGoodOneAtTheNextStore) {
+TEST_F(Resources, ABrokenStoreIsReplacedByAGoodOneAtTheNextStore)
+{
     struct Case {
         const char *what;
         std::function<void(const std::string &)> spoil;
@@ -142,9 +147,8 @@ TEST_F(Resources, ABrokenStoreIsReplacedByAGoodOneAtTheNextStore) {
             mode_t mask = umask(022);
             int level = _OstrandBase->log_level;
             _OstrandBase->log_level = 1;  // the host's default: errors and warnings
-            std::string log = CaptureLog([&] {
-                EXPECT_EQ(OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0), nullptr);
-            });
+            std::string log =
+                CaptureLog([&] { EXPECT_EQ(OpenResource(&list, "AppQuillform", RESOURCE_TYPE_SETTINGS, 0), nullptr); });
             EXPECT_EQ(CountLines(log), 1) << log;
             EXPECT_NE(log.find("AppQuillform.res"), std::string::npos) << log;
             EXPECT_NE(log.find(c.logged), std::string::npos) << log;

@@ -7,7 +7,8 @@
 #include "page/catalogue.h"
 #include "tests/harness/harness.h"
 
-class Catalogue : public ::testing::Test {
+class Catalogue : public ::testing::Test
+{
   protected:
     void SetUp() override
     {
@@ -190,13 +191,19 @@ TEST_F(Catalogue, ToolOfTypeLeadsBackToTheTool)
         u32 flags;
         i16 tool;
     } const rows[] = {
-        {GADGET_TYPE_SLIDER, 0, 5},         {GADGET_TYPE_SLIDER, GADGET_FLAGS_XY, 4},
-        {GADGET_TYPE_SCROLLBAR, 0, 9},      {GADGET_TYPE_SCROLLBAR, GADGET_FLAGS_XY, 10},
+        {GADGET_TYPE_SLIDER, 0, 5},
+        {GADGET_TYPE_SLIDER, GADGET_FLAGS_XY, 4},
+        {GADGET_TYPE_SCROLLBAR, 0, 9},
+        {GADGET_TYPE_SCROLLBAR, GADGET_FLAGS_XY, 10},
         {GADGET_TYPE_BUTTON, GADGET_FLAGS_HORIZONTAL, 12},
-        {0, 0, 0},                          {GADGET_TYPE_VU_16, 0, 0},
-        {GADGET_TYPE_VU_32, 0, 0},          {GADGET_TYPE_COLOUR_BAR, 0, 0},
-        {GADGET_TYPE_COLOUR_BOX, 0, 0},     {GADGET_TYPE_COMBO, 0, 0},
-        {20, 0, 0},                         {0xFFFF, 0, 0},
+        {0, 0, 0},
+        {GADGET_TYPE_VU_16, 0, 0},
+        {GADGET_TYPE_VU_32, 0, 0},
+        {GADGET_TYPE_COLOUR_BAR, 0, 0},
+        {GADGET_TYPE_COLOUR_BOX, 0, 0},
+        {GADGET_TYPE_COMBO, 0, 0},
+        {20, 0, 0},
+        {0xFFFF, 0, 0},
     };
     for (const auto &r : rows)
         EXPECT_EQ(ToolOfType(r.type, r.flags), r.tool) << r.type << " " << r.flags;

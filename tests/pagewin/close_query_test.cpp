@@ -2,7 +2,8 @@
 // "Save Source as" selector that a yes may open, and the name that a save as gives the file.
 #include "pagewin_fixture.h"
 
-namespace {
+namespace
+{
 
 struct CLOSE_ROW {
     const char *what;
@@ -10,29 +11,32 @@ struct CLOSE_ROW {
     int with_file;
     u32 session_before;
     const char *answer;
-    int query;             // a query was asked
+    int query;  // a query was asked
     int stays_open;
     int file_written;
     int save_as_selector;  // a "Save Source as" selector is up afterwards
     u32 session_after;
 };
 
+// clang-format off
 const CLOSE_ROW close_rows[] = {
     // what                              mod file session          answer         query open file sel session
-    {"clean page, no file",              0, 0, SESSION_RUNNING, "",            0, 0, 0, 0, SESSION_RUNNING},
-    {"clean page with a file",           0, 1, SESSION_RUNNING, "",            0, 0, 0, 0, SESSION_RUNNING},
-    {"yes with a file",                  1, 1, SESSION_RUNNING, ANSWER_YES,    1, 0, 1, 0, SESSION_RUNNING},
-    {"yes without a file",               1, 0, SESSION_RUNNING, ANSWER_YES,    1, 1, 0, 1, SESSION_RUNNING},
-    {"no with a file",                   1, 1, SESSION_RUNNING, ANSWER_NO,     1, 0, 0, 0, SESSION_RUNNING},
-    {"no without a file",                1, 0, SESSION_RUNNING, ANSWER_NO,     1, 0, 0, 0, SESSION_RUNNING},
-    {"cancel with a file",               1, 1, SESSION_RUNNING, ANSWER_CANCEL, 1, 1, 0, 0, SESSION_RUNNING},
-    {"cancel without a file",            1, 0, SESSION_RUNNING, ANSWER_CANCEL, 1, 1, 0, 0, SESSION_RUNNING},
-    {"cancel during an exit",            1, 0, SESSION_ENDING,  ANSWER_CANCEL, 1, 1, 0, 0, SESSION_CANCELLED},
-    {"no during an exit",                1, 1, SESSION_ENDING,  ANSWER_NO,     1, 0, 0, 0, SESSION_ENDING},
+    {"clean page, no file",    0, 0, SESSION_RUNNING, "",            0, 0, 0, 0, SESSION_RUNNING},
+    {"clean page with a file", 0, 1, SESSION_RUNNING, "",            0, 0, 0, 0, SESSION_RUNNING},
+    {"yes with a file",        1, 1, SESSION_RUNNING, ANSWER_YES,    1, 0, 1, 0, SESSION_RUNNING},
+    {"yes without a file",     1, 0, SESSION_RUNNING, ANSWER_YES,    1, 1, 0, 1, SESSION_RUNNING},
+    {"no with a file",         1, 1, SESSION_RUNNING, ANSWER_NO,     1, 0, 0, 0, SESSION_RUNNING},
+    {"no without a file",      1, 0, SESSION_RUNNING, ANSWER_NO,     1, 0, 0, 0, SESSION_RUNNING},
+    {"cancel with a file",     1, 1, SESSION_RUNNING, ANSWER_CANCEL, 1, 1, 0, 0, SESSION_RUNNING},
+    {"cancel without a file",  1, 0, SESSION_RUNNING, ANSWER_CANCEL, 1, 1, 0, 0, SESSION_RUNNING},
+    {"cancel during an exit",  1, 0, SESSION_ENDING,  ANSWER_CANCEL, 1, 1, 0, 0, SESSION_CANCELLED},
+    {"no during an exit",      1, 1, SESSION_ENDING,  ANSWER_NO,     1, 0, 0, 0, SESSION_ENDING},
 };
+// clang-format on
 
-class CloseQuery : public PageWindowTest {
-protected:
+class CloseQuery : public PageWindowTest
+{
+  protected:
     // A page of its own for a row, the active one, with a file of its own when asked.
     t_Window *RowPage(const CLOSE_ROW &row, const std::string &file)
     {

@@ -2,7 +2,8 @@
 // Cancel leave on the gadget and the page.
 #include "pagewin_fixture.h"
 
-namespace {
+namespace
+{
 
 #define FOLDER_FONT "Serif.fnt"  // the first entry of the selector: the fonts folder comes first
 
@@ -15,26 +16,28 @@ struct FONT_ROW {
     int modified;
 };
 
+// clang-format off
 const FONT_ROW font_rows[] = {
     // what                               initial           previews answer       after             modified
-    {"preview, then cancel, had none",    NULL,             1, KEY_ESCAPE, NULL,             0},
-    {"preview, then cancel, had one",     "DejaVuSans.ttf", 1, KEY_ESCAPE, "DejaVuSans.ttf", 0},
-    {"two previews, then cancel",         "DejaVuSans.ttf", 2, KEY_ESCAPE, "DejaVuSans.ttf", 0},
-    {"cancel without a preview",          "DejaVuSans.ttf", 0, KEY_ESCAPE, "DejaVuSans.ttf", 0},
-    {"a preview alone",                   NULL,             1, 0,          FOLDER_FONT,      0},
-    {"preview, then OK",                  NULL,             1, KEY_RETURN, FOLDER_FONT,      1},
-    {"OK without a choice",               "DejaVuSans.ttf", 0, KEY_RETURN, "DejaVuSans.ttf", 1},
+    {"preview, then cancel, had none", NULL,             1, KEY_ESCAPE, NULL,             0},
+    {"preview, then cancel, had one",  "DejaVuSans.ttf", 1, KEY_ESCAPE, "DejaVuSans.ttf", 0},
+    {"two previews, then cancel",      "DejaVuSans.ttf", 2, KEY_ESCAPE, "DejaVuSans.ttf", 0},
+    {"cancel without a preview",       "DejaVuSans.ttf", 0, KEY_ESCAPE, "DejaVuSans.ttf", 0},
+    {"a preview alone",                NULL,             1, 0,          FOLDER_FONT,      0},
+    {"preview, then OK",               NULL,             1, KEY_RETURN, FOLDER_FONT,      1},
+    {"OK without a choice",            "DejaVuSans.ttf", 0, KEY_RETURN, "DejaVuSans.ttf", 1},
 };
+// clang-format on
 
-class FontChoice : public PageWindowTest {
-protected:
+class FontChoice : public PageWindowTest
+{
+  protected:
     void SetUp() override
     {
         PageWindowTest::SetUp();
         std::string fonts = MakePathFromSystem("System\\Fonts");
         std::filesystem::create_directories(fonts);
-        std::filesystem::copy_file("/usr/share/fonts/truetype/dejavu/DejaVuSerif.ttf",
-                                   fonts + "/" FOLDER_FONT);
+        std::filesystem::copy_file("/usr/share/fonts/truetype/dejavu/DejaVuSerif.ttf", fonts + "/" FOLDER_FONT);
     }
 };
 

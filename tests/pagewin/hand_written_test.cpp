@@ -7,7 +7,8 @@
 #include "source/hand_written.h"
 #include "source/open_page.h"
 
-namespace {
+namespace
+{
 
 const char *const golden_pages[] = {"demo_page_full.cpp", "demo_page_optimised.cpp", "dialog_edits.cpp",
                                     "every_kind_full.cpp", "every_kind_optimised.cpp"};
@@ -33,8 +34,9 @@ std::string WithHandWrittenLines(int *last_line)
     return text;
 }
 
-class HandWritten : public PageWindowTest {
-protected:
+class HandWritten : public PageWindowTest
+{
+  protected:
     // Opens `text` as the page file `name` below the data root; the page is active and modified.
     t_Window *OpenText(const char *name, const std::string &text)
     {

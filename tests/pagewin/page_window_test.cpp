@@ -2,30 +2,35 @@
 // bitmaps, "Resize to contents".
 #include "pagewin_fixture.h"
 
-namespace {
+namespace
+{
 
 struct BOX_ROW {
     const char *what;
     i16 x1, y1, x2, y2;  // corners, from the main window's user area
     int made;
-    i16 x, y, w, h;      // the page's frame, from the main window's user area
+    i16 x, y, w, h;  // the page's frame, from the main window's user area
 };
 
+// clang-format off
 const BOX_ROW box_rows[] = {
     // what                              x1   y1   x2   y2  made   x    y    w    h
-    {"top left to bottom right",         500, 100, 700, 250, 1,  500, 100, 200, 150},
-    {"bottom right to top left",         700, 250, 500, 100, 1,  500, 100, 200, 150},
-    {"top right to bottom left",         700, 100, 500, 250, 1,  500, 100, 200, 150},
-    {"bottom left to top right",         500, 250, 700, 100, 1,  500, 100, 200, 150},
-    {"left of the user area",            -20, -10, 40,  30,  1,  -20, -10, 60,  40},
-    {"31 by 100",                        500, 100, 531, 200, 0,    0,   0,   0,   0},
-    {"100 by 11",                        500, 100, 600, 111, 0,    0,   0,   0,   0},
-    {"31 by 11, dragged back",           531, 111, 500, 100, 0,    0,   0,   0,   0},
-    {"32 by 12",                         500, 100, 532, 112, 1,  500, 100, 32,  12},
-    {"32 by 12, dragged back",           532, 112, 500, 100, 1,  500, 100, 32,  12},
+    {"top left to bottom right", 500, 100, 700, 250, 1, 500, 100, 200, 150},
+    {"bottom right to top left", 700, 250, 500, 100, 1, 500, 100, 200, 150},
+    {"top right to bottom left", 700, 100, 500, 250, 1, 500, 100, 200, 150},
+    {"bottom left to top right", 500, 250, 700, 100, 1, 500, 100, 200, 150},
+    {"left of the user area",    -20, -10, 40,  30,  1, -20, -10, 60,  40},
+    {"31 by 100",                500, 100, 531, 200, 0, 0,   0,   0,   0},
+    {"100 by 11",                500, 100, 600, 111, 0, 0,   0,   0,   0},
+    {"31 by 11, dragged back",   531, 111, 500, 100, 0, 0,   0,   0,   0},
+    {"32 by 12",                 500, 100, 532, 112, 1, 500, 100, 32,  12},
+    {"32 by 12, dragged back",   532, 112, 500, 100, 1, 500, 100, 32,  12},
 };
+// clang-format on
 
-class PageBox : public PageWindowTest {};
+class PageBox : public PageWindowTest
+{
+};
 
 TEST_F(PageBox, CornersInAnyOrderAndTheSmallestPage)
 {
@@ -54,7 +59,9 @@ TEST_F(PageBox, CornersInAnyOrderAndTheSmallestPage)
     }
 }
 
-class PageMessages : public PageWindowTest {};
+class PageMessages : public PageWindowTest
+{
+};
 
 // The page that gains the input focus becomes the active page and names the main window's title.
 TEST_F(PageMessages, GainingTheFocusMakesThePageActive)
@@ -63,7 +70,7 @@ TEST_F(PageMessages, GainingTheFocusMakesThePageActive)
     ASSERT_NE(other, nullptr);
     struct {
         t_Window *target;
-        int by_click;  // a click on its title bar, else the message itself
+        int by_click;                                            // a click on its title bar, else the message itself
     } steps[] = {{page, 0}, {other, 0}, {page, 1}, {other, 1}};  // "Other" has the focus at first
     for (auto &step : steps) {
         if (step.by_click) {
@@ -134,8 +141,8 @@ TEST_F(PageMessages, ResizeToContentsStartsFrom64By32)
     T_RPOS first = {};
     for (auto &size : sizes) {
         SCOPED_TRACE(size.w);
-        t_Window *p = CreatePageWindow(harness.main_window, (char *)"Sized", 0x7C, 480, 40,
-                                       (i16)(480 + size.w), (i16)(40 + size.h));
+        t_Window *p = CreatePageWindow(harness.main_window, (char *)"Sized", 0x7C, 480, 40, (i16)(480 + size.w),
+                                       (i16)(40 + size.h));
         ASSERT_NE(p, nullptr);
         i16 x = p->x, y = p->y;
         SendWindowMessage(p, PAGE_MENU_RESIZE_TO_CONTENTS, ACT_MENU_PICK, NULL);

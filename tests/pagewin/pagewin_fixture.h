@@ -21,9 +21,9 @@
 // What the watcher saw of the close query, and what it did.
 typedef struct T_CLOSE_WATCH {
     t_Window *page;
-    const char *answer;  // the keys typed into the query box once it shows
-    int armed;           // a close is under way
-    int query_seen;      // a "Quillform query" box showed, a child of the page, without icons
+    const char *answer;   // the keys typed into the query box once it shows
+    int armed;            // a close is under way
+    int query_seen;       // a "Quillform query" box showed, a child of the page, without icons
     std::string buttons;  // its buttons' labels, joined by '|'
     std::string text;     // the question it asked
     int answered;         // the keys were typed
@@ -35,8 +35,9 @@ typedef struct T_CLOSE_WATCH {
 
 #define CLOSE_TURNS_MAX 200
 
-class PageWindowTest : public PageTest {
-protected:
+class PageWindowTest : public PageTest
+{
+  protected:
     static T_CLOSE_WATCH watch;
 
     void SetUp() override

@@ -25,7 +25,8 @@ static T_HSIA hsia;
 static int owner;  // the caller's record, reached through the user pointer
 
 // Every answer's data leads back to the owner while it is delivered.
-static void CheckAnswer(u32 item_code, u32 msg, void *data) {
+static void CheckAnswer(u32 item_code, u32 msg, void *data)
+{
     (void)msg;
     T_COLOURSEL *sel = (T_COLOURSEL *)data;
     EXPECT_EQ(item_code, (u32)COLOUR_CODE);
@@ -35,13 +36,18 @@ static void CheckAnswer(u32 item_code, u32 msg, void *data) {
     EXPECT_EQ(sel->item_code, (u32)COLOUR_CODE);
 }
 
-static i32 Round(float v) { return (i32)std::floor(v + 0.5f); }
+static i32 Round(float v)
+{
+    return (i32)std::floor(v + 0.5f);
+}
 
-class ColourSelector : public PickettTest {
+class ColourSelector : public PickettTest
+{
   protected:
     t_Window *selector = nullptr;
 
-    void SetUp() override {
+    void SetUp() override
+    {
         PickettTest::SetUp();
         rgba = T_RGBA{10, 20, 30, 255};
         hsia = T_HSIA{};
@@ -50,7 +56,8 @@ class ColourSelector : public PickettTest {
         Open();
     }
 
-    void Open() {
+    void Open()
+    {
         T_COLOURSEL_INIT init = {parent, &rgba, &hsia, 3, COLOUR_CODE, "Set text colour", &owner};
         selector = AddColourSelector(&init);
         ASSERT_NE(selector, nullptr);
@@ -61,13 +68,15 @@ class ColourSelector : public PickettTest {
     i32 Value(u32 code) { return ((T_SLIDER_DATA *)Gadget(code)->class_data)->value; }
 
     // A key given to a gadget of the selector made current.
-    void KeyOn(u32 code, u16 key) {
+    void KeyOn(u32 code, u16 key)
+    {
         SetCurrentGadget(selector, Gadget(code));
         Key(key);
     }
 
     // Each slider shows its channel of the caller's colour, rounded.
-    void ExpectSlidersShowTheColour() {
+    void ExpectSlidersShowTheColour()
+    {
         float shown[] = {rgba.r, rgba.g, rgba.b, hsia.h, hsia.s, hsia.i};
         for (u32 code = SLIDER_RED; code <= SLIDER_INTENSITY; code++)
             EXPECT_EQ(Value(code), Round(shown[code - SLIDER_RED])) << "slider " << code;
@@ -75,7 +84,8 @@ class ColourSelector : public PickettTest {
 };
 
 // The slider's value after a key, from its value before.
-static i32 AfterKey(u16 key, i32 before) {
+static i32 AfterKey(u16 key, i32 before)
+{
     switch (key) {
     case KEY_HOME:
         return 0;
@@ -88,17 +98,15 @@ static i32 AfterKey(u16 key, i32 before) {
     }
 }
 
-TEST_F(ColourSelector, TheRgbAndHsiSlidersFollowEachOther) {
+TEST_F(ColourSelector, TheRgbAndHsiSlidersFollowEachOther)
+{
     struct {
         u32 slider;
         u16 key;
     } steps[] = {
-        {SLIDER_RED, KEY_END},
-        {SLIDER_HUE, KEY_END},
-        {SLIDER_INTENSITY, KEY_LEFT},
-        {SLIDER_SATURATION, KEY_HOME},  // a grey: the hue stays on its slider
-        {SLIDER_SATURATION, KEY_RIGHT},
-        {SLIDER_GREEN, KEY_HOME},
+        {SLIDER_RED, KEY_END},          {SLIDER_HUE, KEY_END},
+        {SLIDER_INTENSITY, KEY_LEFT},   {SLIDER_SATURATION, KEY_HOME},  // a grey: the hue stays on its slider
+        {SLIDER_SATURATION, KEY_RIGHT}, {SLIDER_GREEN, KEY_HOME},
     };
     for (const auto &step : steps) {
         SCOPED_TRACE(testing::Message() << "slider " << step.slider << " key " << step.key);
@@ -136,7 +144,8 @@ TEST_F(ColourSelector, TheRgbAndHsiSlidersFollowEachOther) {
 }
 
 // Preview off: the colour still changes, the parent hears nothing until Preview is on again.
-TEST_F(ColourSelector, PreviewDecidesWhetherTheParentHears) {
+TEST_F(ColourSelector, PreviewDecidesWhetherTheParentHears)
+{
     EXPECT_EQ(Gadget(COLOUR_PREVIEW)->class_data, 1u);  // on at opening
     struct {
         const char *what;
@@ -162,7 +171,8 @@ TEST_F(ColourSelector, PreviewDecidesWhetherTheParentHears) {
     EXPECT_EQ(Gadget(COLOUR_PREVIEW)->class_data, 0u);
 }
 
-TEST_F(ColourSelector, OkAndCancelAnswerAndClose) {
+TEST_F(ColourSelector, OkAndCancelAnswerAndClose)
+{
     struct {
         int way;  // 0 OK button, 1 Enter, 2 Cancel button, 3 Escape, 4 close gadget
         u32 msg;
@@ -172,7 +182,8 @@ TEST_F(ColourSelector, OkAndCancelAnswerAndClose) {
                 {3, ACT_REQUESTER_CANCEL},
                 {4, ACT_REQUESTER_CANCEL}};
     for (auto &r : rows) {
-        if (!selector) Open();
+        if (!selector)
+            Open();
         spy.clear();
         switch (r.way) {
         case 0:
@@ -202,12 +213,15 @@ TEST_F(ColourSelector, OkAndCancelAnswerAndClose) {
 
 // What a drop target window was given with ACT_RECEIVE_OBJECT, copied while it is delivered.
 static std::vector<T_RGBA> received;
-static u32 ReceiveColour(t_Window *window, u32 item_code, u32 msg, void *data) {
-    if (msg == ACT_RECEIVE_OBJECT && item_code == 1) received.push_back(*(T_RGBA *)data);
+static u32 ReceiveColour(t_Window *window, u32 item_code, u32 msg, void *data)
+{
+    if (msg == ACT_RECEIVE_OBJECT && item_code == 1)
+        received.push_back(*(T_RGBA *)data);
     return RecordMessage(window, item_code, msg, data);
 }
 
-TEST_F(ColourSelector, TheSwatchsColourIsDraggedOntoColourGadgetsAndWindows) {
+TEST_F(ColourSelector, TheSwatchsColourIsDraggedOntoColourGadgetsAndWindows)
+{
     // Below the selector: a window that takes objects, with a swatch, a disabled swatch, a button
     // and a swatch in a combo; and a window that takes none.
     i16 y = (i16)(selector->y + selector->h + 8 - parent->user_y);
@@ -217,8 +231,8 @@ TEST_F(ColourSelector, TheSwatchsColourIsDraggedOntoColourGadgetsAndWindows) {
     T_COLOUR_DATA flat_data = {&flat_rgba, nullptr, 0}, off_data = {&off_rgba, nullptr, 0},
                   inner_data = {&inner_rgba, nullptr, 0};
     t_gadget *flat = MakeGadget(swatches, "Flat", GADGET_TYPE_COLOUR_FLAT, 10, 10, 40, 30, 41, ACT_LMOUSE_UP);
-    t_gadget *off = MakeGadget(swatches, "Off", GADGET_TYPE_COLOUR_FLAT, 60, 10, 40, 30, 44, ACT_LMOUSE_UP,
-                               GADGET_FLAGS_DISABLED);
+    t_gadget *off =
+        MakeGadget(swatches, "Off", GADGET_TYPE_COLOUR_FLAT, 60, 10, 40, 30, 44, ACT_LMOUSE_UP, GADGET_FLAGS_DISABLED);
     t_gadget *button = MakeGadget(swatches, "Button", GADGET_TYPE_BUTTON, 10, 50, 60, 24, 42, ACT_LMOUSE_UP);
     T_GADGETOBJECTINIT ci = {};
     ci.type = GADGET_TYPE_COMBO, ci.x = 120, ci.y = 10, ci.base_width = 100, ci.base_height = 60, ci.item_code = 45;
@@ -233,9 +247,9 @@ TEST_F(ColourSelector, TheSwatchsColourIsDraggedOntoColourGadgetsAndWindows) {
         const char *what;
         t_Window *window;  // released in the middle of the gadget, or at the window's inside corner
         t_gadget *gadget;
-        T_RGBA *takes;     // the colour record that takes the colour, or null
-        u32 dropped;       // the item code reported with ACT_LMOUSE_DROP, 0 none
-        size_t offered;    // ACT_RECEIVE_OBJECT given
+        T_RGBA *takes;   // the colour record that takes the colour, or null
+        u32 dropped;     // the item code reported with ACT_LMOUSE_DROP, 0 none
+        size_t offered;  // ACT_RECEIVE_OBJECT given
     } rows[] = {
         {"a swatch", swatches, flat, &flat_rgba, 41, 0},
         {"a swatch in a combo", swatches, inner, &inner_rgba, 43, 0},
@@ -248,7 +262,8 @@ TEST_F(ColourSelector, TheSwatchsColourIsDraggedOntoColourGadgetsAndWindows) {
     i16 sx = selector->user_x + SELECTOR_PAD + 20, sy = selector->user_y + SELECTOR_PAD + 10;
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        for (T_RGBA *t : targets) *t = T_RGBA{};
+        for (T_RGBA *t : targets)
+            *t = T_RGBA{};
         received.clear(), recorded.clear(), spy.clear();
         i16 x = row.gadget ? row.gadget->screen_x + row.gadget->base_width / 2 : row.window->user_x + 150;
         i16 y = row.gadget ? row.gadget->screen_y + row.gadget->base_height / 2 : row.window->user_y + 70;
@@ -274,7 +289,8 @@ TEST_F(ColourSelector, TheSwatchsColourIsDraggedOntoColourGadgetsAndWindows) {
 }
 
 // The window stays inside the screen wherever its parent stands, and without one.
-TEST_F(ColourSelector, TheWindowStaysInsideTheScreen) {
+TEST_F(ColourSelector, TheWindowStaysInsideTheScreen)
+{
     struct {
         i16 x, y, w, h;  // the parent's frame; w 0: no parent
     } parents[] = {{40, 20, 700, 540}, {0, 0, 120, 80}, {700, 520, 100, 80}, {-50, 400, 300, 300}, {0, 0, 0, 0}};
@@ -283,7 +299,8 @@ TEST_F(ColourSelector, TheWindowStaysInsideTheScreen) {
         RemoveWindow(selector);
         Turn();
         T_RPOS frame = {p.x, p.y, p.w, p.h};
-        if (p.w) ResizeWindow(parent, &frame);
+        if (p.w)
+            ResizeWindow(parent, &frame);
         T_COLOURSEL_INIT init = {p.w ? parent : nullptr, &rgba, &hsia, 3, COLOUR_CODE, "Set text colour", &owner};
         selector = AddColourSelector(&init);
         ASSERT_NE(selector, nullptr);

@@ -6,12 +6,14 @@
 
 enum { KEYS_LIST = 1, KEYS_HINT };
 
-class KeyEditor : public PickettTest {
+class KeyEditor : public PickettTest
+{
   protected:
     T_APPLICATION *app = nullptr;
     t_Window *editor = nullptr;
 
-    void SetUp() override {
+    void SetUp() override
+    {
         PickettTest::SetUp();
         MakeParent(IDCMP_TERMINATE | IDCMP_KEY);
         app = NewApplication("KeyTest");
@@ -28,21 +30,24 @@ class KeyEditor : public PickettTest {
         Turn();
     }
 
-    void TearDown() override {
+    void TearDown() override
+    {
         FreeApplication(app);
         PickettTest::TearDown();
     }
 
     t_gadget *List() { return FindGadgetByItemCode(editor, KEYS_LIST); }
 
-    void PickRow(int row) {
+    void PickRow(int row)
+    {
         i16 x, y;
         ListRowPoint(List(), row, &x, &y);
         Click(x, y);
     }
 
     // What ExecuteAppCommand makes of a key: the item code that reached the parent, or 0.
-    u32 RunKey(u16 key) {
+    u32 RunKey(u16 key)
+    {
         spy.clear();
         T_KEY_MSG km = {key, 0};
         ExecuteAppCommand(app, nullptr, &km);
@@ -52,7 +57,8 @@ class KeyEditor : public PickettTest {
     bool EditorStands() { return FindWindowByName(parent, "Keyboard") != nullptr; }
 };
 
-TEST_F(KeyEditor, AKeyAnotherCommandHasIsRefusedWithAMessage) {
+TEST_F(KeyEditor, AKeyAnotherCommandHasIsRefusedWithAMessage)
+{
     PickRow(1);
     Key(KEY_CTRL('Z'), QUAL_CONTROL);
     EXPECT_EQ(FindAppCommandByCode(app, 259)->key, (u32)KEY_CTRL('S'));
@@ -69,7 +75,8 @@ TEST_F(KeyEditor, AKeyAnotherCommandHasIsRefusedWithAMessage) {
 
 // The list shows whole rows at the window's first size and after a resize: its last row is never
 // cut at its foot.
-TEST_F(KeyEditor, TheListShowsWholeRows) {
+TEST_F(KeyEditor, TheListShowsWholeRows)
+{
     t_gadget *list = List();
     ASSERT_NE(list, nullptr);
     i16 row_h = GadgetFontHeight(list) + 2;

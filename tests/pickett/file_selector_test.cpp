@@ -9,17 +9,20 @@
 
 enum { PATH_FIELD = 1, LIST, NAME_FIELD, PATTERN_FIELD, OK_BUTTON, CANCEL_BUTTON, NOTE };
 
-class FileSelector : public PickettTest {
+class FileSelector : public PickettTest
+{
   protected:
     t_Window *selector = nullptr;
 
-    void SetUp() override {
+    void SetUp() override
+    {
         PickettTest::SetUp();
         MakeFiles({"a.cpp", "B.cpp", "notes.txt", "sub/", "sub/b.cpp", "sub/c.h", "Zed/"});
         MakeParent();
     }
 
-    t_Window *Open(const std::string &path, const char *name = "", const char *pattern = "*.cpp") {
+    t_Window *Open(const std::string &path, const char *name = "", const char *pattern = "*.cpp")
+    {
         T_FILE_REQUESTER_INIT init = {};
         init.parent = parent;
         init.item_code = SELECTOR_CODE;
@@ -39,7 +42,8 @@ class FileSelector : public PickettTest {
     std::string Field(u32 code) { return (const char *)Gadget(code)->data; }
     std::vector<std::string> Entries() { return ListTexts(Gadget(LIST)); }
 
-    void DoubleClickEntry(const char *text) {
+    void DoubleClickEntry(const char *text)
+    {
         i16 x, y;
         int index = ListIndexOf(Gadget(LIST), text);
         ASSERT_GE(index, 0) << text;
@@ -47,7 +51,8 @@ class FileSelector : public PickettTest {
         DoubleClick(x, y);
     }
 
-    void ClickEntry(const char *text) {
+    void ClickEntry(const char *text)
+    {
         i16 x, y;
         int index = ListIndexOf(Gadget(LIST), text);
         ASSERT_GE(index, 0) << text;
@@ -58,7 +63,8 @@ class FileSelector : public PickettTest {
     bool SelectorStands() { return FindWindowByName(parent, "Open Source file") != nullptr; }
 };
 
-TEST_F(FileSelector, OpensAtTheNearestExistingFolder) {
+TEST_F(FileSelector, OpensAtTheNearestExistingFolder)
+{
     struct {
         std::string path, folder;
     } rows[] = {
@@ -74,7 +80,8 @@ TEST_F(FileSelector, OpensAtTheNearestExistingFolder) {
     }
 }
 
-TEST_F(FileSelector, DoubleClicksGoIntoAFolderAndUpAgain) {
+TEST_F(FileSelector, DoubleClicksGoIntoAFolderAndUpAgain)
+{
     Open(scratch);
     DoubleClickEntry("sub/");
     EXPECT_EQ(Field(PATH_FIELD), scratch + "/sub");
@@ -86,7 +93,8 @@ TEST_F(FileSelector, DoubleClicksGoIntoAFolderAndUpAgain) {
     EXPECT_TRUE(SelectorStands());
 }
 
-TEST_F(FileSelector, AClickedFileThenEnterAnswersOkWithDirectoryAndName) {
+TEST_F(FileSelector, AClickedFileThenEnterAnswersOkWithDirectoryAndName)
+{
     Open(scratch);
     DoubleClickEntry("sub/");
     ClickEntry("b.cpp");
@@ -99,18 +107,16 @@ TEST_F(FileSelector, AClickedFileThenEnterAnswersOkWithDirectoryAndName) {
     EXPECT_FALSE(SelectorStands());
 }
 
-TEST_F(FileSelector, TypedNamesAnswerWithTheirOwnPathOrGoIntoAFolder) {
+TEST_F(FileSelector, TypedNamesAnswerWithTheirOwnPathOrGoIntoAFolder)
+{
     struct {
         std::string typed;
         bool answers;
         std::string directory, name, folder_after;
     } rows[] = {
-        {"new.cpp", true, scratch, "new.cpp", ""},
-        {"/a/b/c.cpp", true, "/a/b", "c.cpp", ""},
-        {"sub/d.cpp", true, scratch + "/sub", "d.cpp", ""},
-        {"sub", false, "", "", scratch + "/sub"},
-        {scratch + "/Zed", false, "", "", scratch + "/Zed"},
-        {"", false, "", "", scratch},
+        {"new.cpp", true, scratch, "new.cpp", ""},           {"/a/b/c.cpp", true, "/a/b", "c.cpp", ""},
+        {"sub/d.cpp", true, scratch + "/sub", "d.cpp", ""},  {"sub", false, "", "", scratch + "/sub"},
+        {scratch + "/Zed", false, "", "", scratch + "/Zed"}, {"", false, "", "", scratch},
     };
     for (auto &r : rows) {
         spy.clear();
@@ -134,13 +140,17 @@ TEST_F(FileSelector, TypedNamesAnswerWithTheirOwnPathOrGoIntoAFolder) {
     }
 }
 
-TEST_F(FileSelector, EscapeCancelButtonAndCloseGadgetCancel) {
+TEST_F(FileSelector, EscapeCancelButtonAndCloseGadgetCancel)
+{
     for (int way = 0; way < 3; way++) {
         spy.clear();
         Open(scratch, "kept.cpp");
-        if (way == 0) Key(KEY_ESCAPE);
-        if (way == 1) ClickGadget(selector, CANCEL_BUTTON);
-        if (way == 2) SendWindowMessage(selector, 0, ACT_TERMINATE, nullptr);
+        if (way == 0)
+            Key(KEY_ESCAPE);
+        if (way == 1)
+            ClickGadget(selector, CANCEL_BUTTON);
+        if (way == 2)
+            SendWindowMessage(selector, 0, ACT_TERMINATE, nullptr);
         EXPECT_EQ(MessagesOf(ACT_REQUESTER_CANCEL), std::vector<u32>{SELECTOR_CODE}) << way;
         EXPECT_TRUE(MessagesOf(ACT_REQUESTER_OK).empty()) << way;
         Turn();
@@ -148,7 +158,8 @@ TEST_F(FileSelector, EscapeCancelButtonAndCloseGadgetCancel) {
     }
 }
 
-TEST_F(FileSelector, ThePatternAndPathFieldsTakeEffectOnEnter) {
+TEST_F(FileSelector, ThePatternAndPathFieldsTakeEffectOnEnter)
+{
     Open(scratch + "/sub");
     ClickGadget(selector, PATTERN_FIELD);
     Key(KEY_CTRL('A'));
@@ -163,8 +174,10 @@ TEST_F(FileSelector, ThePatternAndPathFieldsTakeEffectOnEnter) {
     EXPECT_TRUE(spy.empty());
 }
 
-TEST_F(FileSelector, AnUnreadableFolderShowsNothingAndSaysSo) {
-    if (geteuid() == 0) GTEST_SKIP() << "root reads every folder";
+TEST_F(FileSelector, AnUnreadableFolderShowsNothingAndSaysSo)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root reads every folder";
     MakeFiles({"locked/", "locked/inside.cpp"});
     chmod((scratch + "/locked").c_str(), 0);
     Open(scratch);

@@ -4,14 +4,16 @@
 
 #include "pickett_fixture.h"
 
-static std::vector<std::string> Names(t_List *entries) {
+static std::vector<std::string> Names(t_List *entries)
+{
     std::vector<std::string> names;
     for (T_FOLDER_ENTRY *e = (T_FOLDER_ENTRY *)entries->first; e->next; e = e->next)
         names.push_back(std::string(e->name) + (e->is_folder ? "/" : ""));
     return names;
 }
 
-TEST(PickettPattern, WildcardsAndAlternatives) {
+TEST(PickettPattern, WildcardsAndAlternatives)
+{
     struct {
         const char *pattern, *name;
         int match;
@@ -40,9 +42,12 @@ TEST(PickettPattern, WildcardsAndAlternatives) {
             << (r.pattern ? r.pattern : "(null)") << " against " << r.name;
 }
 
-class PickettFolder : public PickettTest {};
+class PickettFolder : public PickettTest
+{
+};
 
-TEST_F(PickettFolder, FoldersFirstSortedWithoutCaseThenMatchingFiles) {
+TEST_F(PickettFolder, FoldersFirstSortedWithoutCaseThenMatchingFiles)
+{
     MakeFiles({"b.cpp", "A.cpp", "c.h", "Zeta/", "alpha/", "alpha/inner.cpp", "Middle.CPP"});
     struct {
         const char *pattern;

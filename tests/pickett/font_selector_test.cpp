@@ -18,24 +18,27 @@ struct FONT_ANSWER {
 static std::vector<FONT_ANSWER> font_answers;
 static t_Window *font_window;
 
-static u32 FontParentMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+static u32 FontParentMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     (void)window;
-    if (msg < ACT_REQUESTER_OK || msg > ACT_REQUESTER_PREVIEW) return 0;
+    if (msg < ACT_REQUESTER_OK || msg > ACT_REQUESTER_PREVIEW)
+        return 0;
     T_FONTSEL *sel = (T_FONTSEL *)((t_Window *)data)->user_data;
     T_FONT *font = LoadFontFromSelector(data, 0);
     font_answers.push_back({msg, item_code, data == font_window, sel->chosen,
-                            sel->initial_font ? sel->initial_font : "(null)",
-                            font ? font->name : "", sel->user_data});
+                            sel->initial_font ? sel->initial_font : "(null)", font ? font->name : "", sel->user_data});
     FreeFont(font);
     return 0;
 }
 
-class FontSelector : public PickettTest {
+class FontSelector : public PickettTest
+{
   protected:
     std::string fonts;
     int user_thing = 0;
 
-    void SetUp() override {
+    void SetUp() override
+    {
         PickettTest::SetUp();
         fonts = MakePathFromSystem("System\\Fonts");
         std::filesystem::create_directories(fonts);
@@ -47,7 +50,8 @@ class FontSelector : public PickettTest {
     }
 
     // As a page opens it: patterns in a local list of 16-byte nodes, emptied at once.
-    t_Window *Open(const char *initial_font) {
+    t_Window *Open(const char *initial_font)
+    {
         t_List patterns;
         InitList(&patterns, "font patterns");
         NewTail(&patterns, 16, "*.fnt");
@@ -63,7 +67,8 @@ class FontSelector : public PickettTest {
     T_FONTSEL *Record() { return (T_FONTSEL *)font_window->user_data; }
     t_gadget *List() { return FindGadgetByItemCode(font_window, FONT_LIST); }
 
-    void ClickEntry(const char *text, bool twice = false) {
+    void ClickEntry(const char *text, bool twice = false)
+    {
         i16 x, y;
         int index = ListIndexOf(List(), text);
         ASSERT_GE(index, 0) << text;
@@ -77,7 +82,8 @@ class FontSelector : public PickettTest {
     }
 };
 
-TEST_F(FontSelector, AClickPreviewsAndTheFontIsFoundAgainByItsName) {
+TEST_F(FontSelector, AClickPreviewsAndTheFontIsFoundAgainByItsName)
+{
     Open(nullptr);
     for (const char *name : {"Serif.fnt", "DejaVuSansMono.ttf"}) {
         font_answers.clear();
@@ -102,7 +108,8 @@ TEST_F(FontSelector, AClickPreviewsAndTheFontIsFoundAgainByItsName) {
     }
 }
 
-TEST_F(FontSelector, OkAndCancelAnswerWhileTheRecordIsReadableThenTheSelectorGoes) {
+TEST_F(FontSelector, OkAndCancelAnswerWhileTheRecordIsReadableThenTheSelectorGoes)
+{
     struct {
         int way;  // 0 Open button, 1 Enter, 2 double click, 3 Cancel button, 4 Escape, 5 close
         u32 msg;

@@ -11,7 +11,8 @@
 std::vector<SPY_MESSAGE> spy;
 void (*spy_check)(u32 item_code, u32 msg, void *data);
 
-u32 SpyParentMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+u32 SpyParentMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     (void)window;
     SPY_MESSAGE m = {item_code, msg, data, "", ""};
     if (msg == ACT_REQUESTER_OK && data && item_code == 7) {  // the file selectors of the tests
@@ -20,11 +21,13 @@ u32 SpyParentMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
         m.name = answer->name;
     }
     spy.push_back(m);
-    if (spy_check) spy_check(item_code, msg, data);
+    if (spy_check)
+        spy_check(item_code, msg, data);
     return 0;
 }
 
-void PickettTest::SetUp() {
+void PickettTest::SetUp()
+{
     LumoraTest::SetUp();
     scratch = data_root + "/files";
     std::filesystem::create_directories(scratch);
@@ -34,7 +37,8 @@ void PickettTest::SetUp() {
 }
 
 // Folders a test locked are opened again, so that the data root can go.
-void PickettTest::TearDown() {
+void PickettTest::TearDown()
+{
     for (auto &e : std::filesystem::recursive_directory_iterator(scratch))
         if (e.is_directory())
             std::filesystem::permissions(e.path(), std::filesystem::perms::owner_all,
@@ -42,7 +46,8 @@ void PickettTest::TearDown() {
     LumoraTest::TearDown();
 }
 
-t_Window *PickettTest::MakeParent(u32 idcmp) {
+t_Window *PickettTest::MakeParent(u32 idcmp)
+{
     T_WINDOWOBJINIT init = {};
     init.x = 40, init.y = 20, init.w = 700, init.h = 540;
     init.flags = WF_TITLE | WF_BORDER | WF_CLOSE;
@@ -52,7 +57,8 @@ t_Window *PickettTest::MakeParent(u32 idcmp) {
     return parent;
 }
 
-void PickettTest::MakeFiles(const std::vector<std::string> &paths) {
+void PickettTest::MakeFiles(const std::vector<std::string> &paths)
+{
     for (const std::string &p : paths) {
         std::filesystem::path full = scratch + "/" + p;
         if (!p.empty() && p.back() == '/') {
@@ -64,20 +70,24 @@ void PickettTest::MakeFiles(const std::vector<std::string> &paths) {
     }
 }
 
-std::vector<u32> PickettTest::MessagesOf(u32 msg) const {
+std::vector<u32> PickettTest::MessagesOf(u32 msg) const
+{
     std::vector<u32> codes;
     for (const SPY_MESSAGE &m : spy)
-        if (m.msg == msg) codes.push_back(m.item_code);
+        if (m.msg == msg)
+            codes.push_back(m.item_code);
     return codes;
 }
 
-void PickettTest::ClickGadget(t_Window *window, u32 item_code) {
+void PickettTest::ClickGadget(t_Window *window, u32 item_code)
+{
     t_gadget *g = FindGadgetByItemCode(window, item_code);
     ASSERT_NE(g, nullptr) << "no gadget " << item_code;
     Click(g->screen_x + g->base_width / 2, g->screen_y + g->base_height / 2);
 }
 
-std::vector<std::string> ListTexts(t_gadget *list) {
+std::vector<std::string> ListTexts(t_gadget *list)
+{
     std::vector<std::string> texts;
     T_LIST_DATA *data = (T_LIST_DATA *)list->class_data;
     for (T_LIST_ENTRY *e = (T_LIST_ENTRY *)data->entries.first; e->next; e = e->next)
@@ -85,14 +95,17 @@ std::vector<std::string> ListTexts(t_gadget *list) {
     return texts;
 }
 
-int ListIndexOf(t_gadget *list, const char *text) {
+int ListIndexOf(t_gadget *list, const char *text)
+{
     std::vector<std::string> texts = ListTexts(list);
     for (size_t i = 0; i < texts.size(); i++)
-        if (texts[i] == text) return (int)i;
+        if (texts[i] == text)
+            return (int)i;
     return -1;
 }
 
-void ListRowPoint(t_gadget *list, int index, i16 *x, i16 *y) {
+void ListRowPoint(t_gadget *list, int index, i16 *x, i16 *y)
+{
     T_LIST_LAYOUT layout;
     ListLayout(list, &layout);
     T_LIST_DATA *data = (T_LIST_DATA *)list->class_data;

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "knobkit/knobkit_internal.h"
-#include "tests/harness/toolkit_fixture.h"
 #include "pickett/pickett_internal.h"
+#include "tests/harness/toolkit_fixture.h"
 
 // What the spy parent's message function was given; for a file selector's OK the answer is
 // copied, since it lives only as long as the call.
@@ -24,7 +24,8 @@ extern std::vector<SPY_MESSAGE> spy;
 extern void (*spy_check)(u32 item_code, u32 msg, void *data);
 u32 SpyParentMessage(t_Window *window, u32 item_code, u32 msg, void *data);
 
-class PickettTest : public LumoraTest {
+class PickettTest : public LumoraTest
+{
   protected:
     std::string scratch;
     t_Window *parent = nullptr;
@@ -37,7 +38,7 @@ class PickettTest : public LumoraTest {
                                      IDCMP_REQUESTER_PREVIEW);
     void MakeFiles(const std::vector<std::string> &paths);  // below `scratch`; "x/" is a folder
     std::vector<u32> MessagesOf(u32 msg) const;             // their item codes
-    void ClickGadget(t_Window *window, u32 item_code);  // in the middle of the gadget
+    void ClickGadget(t_Window *window, u32 item_code);      // in the middle of the gadget
 };
 
 // The texts of a list box's entries.

@@ -14,8 +14,8 @@
 // The rows a type shows: the labels of its fields and the texts of its flag boxes.
 TEST_F(PropertiesTest, RowsFollowTheGadgetsType)
 {
-    const std::vector<std::string> common = {"Disabled", "Hide gadget", "Report drag", "Modify cursor", "No border",
-                                             "Display from right", "Display from bottom"};
+    const std::vector<std::string> common = {"Disabled",  "Hide gadget",        "Report drag",        "Modify cursor",
+                                             "No border", "Display from right", "Display from bottom"};
     struct {
         u16 tool;
         std::vector<std::string> labels;

@@ -18,8 +18,9 @@
 
 #define DIALOG_CHECK_MASK (QUAL_CONTROL)
 
-class PropertiesTest : public PageTest {
-protected:
+class PropertiesTest : public PageTest
+{
+  protected:
     // The page's child window of that name opened last, or null.
     t_Window *Dialog(const char *name)
     {

@@ -142,8 +142,8 @@ TEST_F(PropertiesTest, MessageControlRowsEditTheDesignMask)
     struct {
         u32 row;
         const char *label;
-    } const readable[] = {{0, "Loose context"}, {2, "Terminate"}, {6, "Window resize"}, {7, "Requester ok"},
-                          {15, "Firsttime run"}};
+    } const readable[] = {
+        {0, "Loose context"}, {2, "Terminate"}, {6, "Window resize"}, {7, "Requester ok"}, {15, "Firsttime run"}};
     for (const auto &r : readable)
         EXPECT_EQ(labels[r.row], r.label);
     EXPECT_STREQ(idcmp_names[2].text, "IDCMP_TERMINATE");  // the table's own text is untouched

@@ -12,22 +12,22 @@
 #include "source/source_format.h"
 #include "tests/harness/harness.h"
 
-namespace {
+namespace
+{
 
 // A page file of `count` buttons: every seventh shares its code with an earlier one, some have no
 // code, and the tab links run as a chain from a head, a ring that misses it, and stray links.
 std::string LargePageFile(u32 count)
 {
-    std::string text =
-        "/*Quillform: START_OBJECT: PAGE */\nT_WINDOW *OpenLargeWindow()\n{\n"
-        "/*Quillform: START_OBJECT: WINDOW */\n"
-        "\twin_init.flags=WF_CLOSE|WF_TITLE|WF_MOVE|WF_CHILD|WF_CLIP_PARENT;\n"
-        "\twin_init.w=640;\n\twin_init.h=480;\n\twin_init.idcmp=IDCMP_TERMINATE;\n"
-        "\twin=ICreateWindow(\"Large\");\n/*Quillform: END_OBJECT: WINDOW */\n";
+    std::string text = "/*Quillform: START_OBJECT: PAGE */\nT_WINDOW *OpenLargeWindow()\n{\n"
+                       "/*Quillform: START_OBJECT: WINDOW */\n"
+                       "\twin_init.flags=WF_CLOSE|WF_TITLE|WF_MOVE|WF_CHILD|WF_CLIP_PARENT;\n"
+                       "\twin_init.w=640;\n\twin_init.h=480;\n\twin_init.idcmp=IDCMP_TERMINATE;\n"
+                       "\twin=ICreateWindow(\"Large\");\n/*Quillform: END_OBJECT: WINDOW */\n";
     char block[512];
     for (u32 i = 0; i < count; i++) {
         u32 code = i % 7 == 6 ? i / 3 + 1 : i % 11 == 10 ? 0 : i + 1;
-        u32 before = i == 0 ? TAB_LINK_FIRST | (count / 2) : i;  // the head is gadget 0
+        u32 before = i == 0 ? TAB_LINK_FIRST | (count / 2) : i;   // the head is gadget 0
         u32 after = i < count / 2 ? i + 2 : (i + 3) % count + 1;  // a chain, then a ring of its own
         if (i % 97 == 50)
             after = 999999;  // a link to no gadget
@@ -95,8 +95,9 @@ std::vector<t_gadget *> GadgetsOf(t_Window *page)
     return list;
 }
 
-class LargePage : public ::testing::Test {
-protected:
+class LargePage : public ::testing::Test
+{
+  protected:
     void SetUp() override { ASSERT_TRUE(HarnessStart(&h, NULL, 1024, 700)); }
     void TearDown() override { HarnessStop(&h, 0); }
 

@@ -9,7 +9,8 @@
 #include "source/open_page.h"
 #include "tests/harness/harness.h"
 
-class Reader : public ::testing::Test {
+class Reader : public ::testing::Test
+{
   protected:
     void SetUp() override { ASSERT_TRUE(HarnessStart(&h, NULL, 1024, 700)); }
     void TearDown() override { HarnessStop(&h, 0); }
@@ -62,8 +63,8 @@ static const char *const standard_window =
 
 static std::string Block(const std::string &lines, const char *name, const std::string &after = "")
 {
-    return "\n/*Quillform: START_OBJECT: GADGET */\n" + lines + "\tgad=CreateGadget(\"" + name + "\");\n\n" +
-           after + "/*Quillform: END_OBJECT: GADGET */\n";
+    return "\n/*Quillform: START_OBJECT: GADGET */\n" + lines + "\tgad=CreateGadget(\"" + name + "\");\n\n" + after +
+           "/*Quillform: END_OBJECT: GADGET */\n";
 }
 
 TEST_F(Reader, AWriterFileOpensWithItsWindowAndDeclarations)
@@ -99,14 +100,14 @@ TEST_F(Reader, FileStructures)
         {"empty", "", 0, nullptr},
         {"message only", "/*Quillform: START_OBJECT: MESSAGE */\nu32 x;\n/*Quillform: END_OBJECT: MESSAGE */", 0,
          nullptr},
-        {"window without page", "/*Quillform: START_OBJECT: WINDOW */\n\twin_init.w=100;\n", 0,
-         "no page marker found"},
+        {"window without page", "/*Quillform: START_OBJECT: WINDOW */\n\twin_init.w=100;\n", 0, "no page marker found"},
         {"page before message",
          PageFile(standard_window, "") + "/*Quillform: START_OBJECT: MESSAGE */\n/*Quillform: END_OBJECT: MESSAGE */",
          1, "no window marker found"},
-        {"no line end at the last line", PageFile(standard_window, "").substr(0, PageFile(standard_window, "").size() - 1),
-         1, nullptr},
-        {"crlf", [] {
+        {"no line end at the last line",
+         PageFile(standard_window, "").substr(0, PageFile(standard_window, "").size() - 1), 1, nullptr},
+        {"crlf",
+         [] {
              std::string t = PageFile(standard_window, ""), out;
              for (char c : t) {
                  if (c == '\n')
@@ -252,8 +253,8 @@ TEST_F(Reader, DuplicateItemCodesAreRepaired)
             snprintf(line, sizeof(line), "\tgadinit.item_code=0x%x;\n\tgadinit.type=GADGET_TYPE_BUTTON;\n", code);
             gadgets += Block(line, "B");
         }
-        t_Window *page = Open(Write((std::string("dup") + std::to_string(n++) + ".cpp").c_str(),
-                                    PageFile(standard_window, gadgets)));
+        t_Window *page = Open(
+            Write((std::string("dup") + std::to_string(n++) + ".cpp").c_str(), PageFile(standard_window, gadgets)));
         ASSERT_NE(page, nullptr);
         for (size_t i = 0; i < c.expected.size(); i++)
             EXPECT_EQ(Gadget(page, (int)i)->item_code, c.expected[i]) << i;
@@ -265,7 +266,8 @@ TEST_F(Reader, DuplicateItemCodesAreRepaired)
 TEST_F(Reader, TabOrderComesBackFromTheRing)
 {
     std::string gadgets =
-        Block("\tgadinit.item_code=0x1;\n\tgadinit.type=GADGET_TYPE_BUTTON;\n\tgadinit.tab[0]=0x3;\n\tgadinit.tab[1]=0x3;\n",
+        Block("\tgadinit.item_code=0x1;\n\tgadinit.type=GADGET_TYPE_BUTTON;\n\tgadinit.tab[0]=0x3;\n\tgadinit.tab[1]="
+              "0x3;\n",
               "outside") +
         Block("\tgadinit.item_code=0x2;\n\tgadinit.tab[0]=0x80000004;\n\tgadinit.tab[1]=0x3;\n", "head") +
         Block("\tgadinit.item_code=0x3;\n\tgadinit.tab[0]=0x2;\n\tgadinit.tab[1]=0x4;\n", "second") +

@@ -6,7 +6,8 @@
 #include "source/open_page.h"
 #include "tests/harness/harness.h"
 
-class ReadErrors : public ::testing::Test {
+class ReadErrors : public ::testing::Test
+{
   protected:
     void SetUp() override { ASSERT_TRUE(HarnessStart(&h, NULL, 1024, 700)); }
     void TearDown() override { HarnessStop(&h, 0); }
@@ -23,8 +24,9 @@ TEST_F(ReadErrors, TheLogNamesTheFileAndTheLine)
     } const cases[] = {
         {"a window marker without a page", "\n\n/*Quillform: START_OBJECT: WINDOW */\n", ":3: "},
         {"a marker in the page that isn't a window", page_head + "\n/*Quillform: START_OBJECT: MENU */\n", ":5: "},
-        {"a window too small", page_head + "/*Quillform: START_OBJECT: WINDOW */\n\twin_init.w=20;\n"
-                                           "\twin_init.h=20;\n/*Quillform: END_OBJECT: WINDOW */\n",
+        {"a window too small",
+         page_head + "/*Quillform: START_OBJECT: WINDOW */\n\twin_init.w=20;\n"
+                     "\twin_init.h=20;\n/*Quillform: END_OBJECT: WINDOW */\n",
          ":4: "},
     };
     int n = 0;

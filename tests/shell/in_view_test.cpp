@@ -10,7 +10,10 @@
 #define SELECTOR_FOLDER_FIELD 1  // the file selector's own item codes
 #define SELECTOR_NAME_FIELD 3
 
-static t_Window *FocusWindowNow() { return CURRENT_DISPLAY->window_class->current_window; }
+static t_Window *FocusWindowNow()
+{
+    return CURRENT_DISPLAY->window_class->current_window;
+}
 
 // After a command picked with the mouse from the menu bar, or a tool from the toolbar, the page's
 // own keys reach it at once: no click on the page is needed first.
@@ -143,8 +146,10 @@ TEST_F(ShellTest, DependentWindowsOpenInsideTheScreenInFrontOfTheToolbar)
             if (strcmp(title, SAVE_AS_TITLE) == 0)
                 UserKey(KEY_CTRL('W'), QUAL_CONTROL);
             else  // as the duplicate item code warning opens
-                NewMsgBox(page, title, "Duplicate item codes were found in this page, duplicate item codes "
-                          "have been remapped.", 64, 22);
+                NewMsgBox(page, title,
+                          "Duplicate item codes were found in this page, duplicate item codes "
+                          "have been remapped.",
+                          64, 22);
             t_Window *w = FindWindowByName(page, title);
             ASSERT_NE(w, nullptr);
             EXPECT_GE(w->x, 0);

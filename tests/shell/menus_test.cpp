@@ -23,7 +23,9 @@ typedef struct T_TREE_ROW {
 static void FlattenMenu(t_Menu *menu, u32 code, std::vector<T_TREE_ROW> *rows)
 {
     for (t_Menu *e = (t_Menu *)menu->items.first; e->next; e = e->next) {
-        u8 icon = !e->icon_bank ? 0 : e->icon_bank == DISPLAY_RECORD->icon_bank && e->icon == STANDARD_SAVE_ICON ? 1 : 2;
+        u8 icon = !e->icon_bank                                                                ? 0
+                  : e->icon_bank == DISPLAY_RECORD->icon_bank && e->icon == STANDARD_SAVE_ICON ? 1
+                                                                                               : 2;
         rows->push_back({code, e->kind, e->label, e->menu_item_code, e->shortcut, MenuEntryKey(e), icon});
         if (e->kind == MENU_KIND_SUBMENU)
             FlattenMenu(e, e->menu_item_code, rows);
@@ -137,11 +139,20 @@ TEST_F(ShellTest, ToolbarHoldsTheToolsAndAClickPicksOne)
         u16 icon;
         u32 item_code;
     } expected[] = {
-        {"Selector", 3, 0xF000},          {"Checkbox", 0, 0xF001},          {"Listbox", 2, 0xF002},
-        {"Radio button", 4, 0xF003},      {"Vertical Slider", 5, 0xF004},   {"Horizontal Slider", 15, 0xF00D},
-        {"Text", 6, 0xF005},              {"String entry", 7, 0xF006},      {"Tree", 9, 0xF007},
-        {"Horizontal scrollbar", 10, 0xF008}, {"Vertical scrollbar", 11, 0xF009}, {"Group", 12, 0xF00A},
-        {"Button", 13, 0xF00B},           {"Dropbox", 14, 0xF00C},
+        {"Selector", 3, 0xF000},
+        {"Checkbox", 0, 0xF001},
+        {"Listbox", 2, 0xF002},
+        {"Radio button", 4, 0xF003},
+        {"Vertical Slider", 5, 0xF004},
+        {"Horizontal Slider", 15, 0xF00D},
+        {"Text", 6, 0xF005},
+        {"String entry", 7, 0xF006},
+        {"Tree", 9, 0xF007},
+        {"Horizontal scrollbar", 10, 0xF008},
+        {"Vertical scrollbar", 11, 0xF009},
+        {"Group", 12, 0xF00A},
+        {"Button", 13, 0xF00B},
+        {"Dropbox", 14, 0xF00C},
     };
     T_TOOLBAR_HANDLER *toolbar = Toolbar();
     ASSERT_NE(toolbar, nullptr);
@@ -212,8 +223,11 @@ TEST_F(ShellTest, EntriesAreGreyedByThePagesAndTheActivePage)
         const struct {
             u32 title;
             const std::vector<u32> *grey;
-        } menus[] = {{MENU_FILE, &s.file}, {MENU_EDIT, &s.edit}, {MENU_LAYOUT, &s.layout},
-                     {MENU_TOOLS, &s.tools}, {MENU_HELP, &none}};
+        } menus[] = {{MENU_FILE, &s.file},
+                     {MENU_EDIT, &s.edit},
+                     {MENU_LAYOUT, &s.layout},
+                     {MENU_TOOLS, &s.tools},
+                     {MENU_HELP, &none}};
         u32 recent_entries = 0;
         for (const auto &m : menus) {
             ClickTitle(m.title);
@@ -286,9 +300,8 @@ TEST_F(ShellTest, UndoAndRedoLabelsFollowTheHistory)
         for (t_Menu *entry : {undo, redo}) {
             SCOPED_TRACE(entry->label);
             EXPECT_EQ(entry->menu_width, GetStringWidth(entry->label) + 2 * GetActiveFontHeight());
-            EXPECT_GE(edit->detached_width,
-                      2 * (MENU_PANEL_BORDER + MENU_PANEL_PAD) + MENU_ICON_COLUMN + entry->menu_width + MENU_KEY_GAP +
-                          key_width);
+            EXPECT_GE(edit->detached_width, 2 * (MENU_PANEL_BORDER + MENU_PANEL_PAD) + MENU_ICON_COLUMN +
+                                                entry->menu_width + MENU_KEY_GAP + key_width);
         }
         MenuFontEnd(&font);
         Escape();

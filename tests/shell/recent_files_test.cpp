@@ -6,8 +6,9 @@
 
 #include "tests/shell/shell_fixture.h"
 
-class RecentFilesTest : public ShellTest {
-protected:
+class RecentFilesTest : public ShellTest
+{
+  protected:
     std::string folder;
 
     void SetUp() override
@@ -43,10 +44,7 @@ protected:
         UserKey(KEY_CTRL('O'), QUAL_CONTROL);
         AnswerSelector(path.c_str());
     }
-    static void Drop(const std::string &path)
-    {
-        DropFile(path.c_str());
-    }
+    static void Drop(const std::string &path) { DropFile(path.c_str()); }
     // Closes the error boxes that failed opens left.
     static void CloseErrorBoxes()
     {
@@ -65,8 +63,8 @@ TEST_F(RecentFilesTest, NewestFirstWithoutDuplicatesUpToSixAndTheSameAfterAResta
         char opened;
         const char *list;
     } steps[] = {
-        {'a', "a"},      {'b', "ba"},     {'c', "cba"},     {'a', "acb"},  // again: to the front
-        {'d', "dacb"},   {'e', "edacb"},  {'f', "fedacb"},  {'g', "gfedac"},  // b falls off
+        {'a', "a"},    {'b', "ba"},    {'c', "cba"},    {'a', "acb"},     // again: to the front
+        {'d', "dacb"}, {'e', "edacb"}, {'f', "fedacb"}, {'g', "gfedac"},  // b falls off
     };
     for (const auto &step : steps) {
         SCOPED_TRACE(std::string(1, step.opened));

@@ -15,7 +15,8 @@
 
 #define SAVE_ERROR_TITLE "Document Save error"
 
-namespace {
+namespace
+{
 
 std::string ReadText(const std::string &path)
 {
@@ -68,15 +69,16 @@ struct FAULT_ROW {
     const char *what;
     bool (*before)(const std::string &folder);  // before the first save; false: can't be done here
     bool (*after)(const std::string &folder);   // once the page file stands
-    bool backup_only;                            // the document is written all the same
-    const char *named;                           // what the message names, below the folder
+    bool backup_only;                           // the document is written all the same
+    const char *named;                          // what the message names, below the folder
 };
 
+// clang-format off
 const FAULT_ROW fault_rows[] = {
     {"a missing folder", nullptr,
      [](const std::string &folder) { return std::filesystem::remove_all(folder) > 0; }, false, "page.cpp"},
-    {"a folder that can't be written", nullptr, ReadOnlyFolder, false, "page.cpp"},
-    {"a full disk", SmallDisk, FillDisk, false, "page.cpp"},
+    {"a folder that can't be written", nullptr,   ReadOnlyFolder, false, "page.cpp"},
+    {"a full disk",                    SmallDisk, FillDisk,       false, "page.cpp"},
     {"a write-protected file", nullptr,
      [](const std::string &folder) { return chmod((folder + "/page.cpp").c_str(), 0444) == 0; }, false,
      "page.cpp"},
@@ -86,8 +88,11 @@ const FAULT_ROW fault_rows[] = {
      },
      true, "Backup/page.cpp"},
 };
+// clang-format on
 
-class SaveFaults : public ShellTest {};
+class SaveFaults : public ShellTest
+{
+};
 
 TEST_F(SaveFaults, TheOldFileStaysThePageStaysModifiedAndTheMessageNamesTheFile)
 {
@@ -155,8 +160,8 @@ TEST_F(SaveFaults, TheOldFileStaysThePageStaysModifiedAndTheMessageNamesTheFile)
             std::string message = MessageBoxTextOf(SAVE_ERROR_TITLE);
             EXPECT_NE(message.find(folder + "/" + row.named), std::string::npos) << message;
             std::vector<std::string> left;
-            for (const auto &entry : std::filesystem::directory_iterator(
-                     std::filesystem::exists(folder) ? folder : std::string(h.root)))
+            for (const auto &entry :
+                 std::filesystem::directory_iterator(std::filesystem::exists(folder) ? folder : std::string(h.root)))
                 if (entry.path().filename().string().find(".tmp") != std::string::npos)
                     left.push_back(entry.path().string());
             EXPECT_TRUE(left.empty()) << left[0];

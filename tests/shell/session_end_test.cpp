@@ -21,8 +21,9 @@ static void WatchdogFired(int)
     _exit(1);
 }
 
-class SessionEndTest : public ShellTest {
-public:
+class SessionEndTest : public ShellTest
+{
+  public:
     t_Window *Window() { return h.main_window; }
     std::string Folder() { return std::string(h.root) + "/Projects/QfFiles"; }
     static std::string ReadWholeText(const std::string &path)
@@ -33,7 +34,7 @@ public:
         return text.str();
     }
 
-protected:
+  protected:
     // Four pages side by side; all but the second are saved as a.cpp, c.cpp and d.cpp in the
     // projects folder, and the second has never had a file.
     std::vector<std::string> files;
@@ -153,9 +154,9 @@ struct EXIT_ROW {
     const char *what;
     const char *pages;
     std::vector<T_ANSWER> (*answers)(SessionEndTest *);
-    int exits;                  // picked from outside any wait
+    int exits;  // picked from outside any wait
     bool ended;
-    const char *still_modified;  // running on: for each page, 1 when it is still modified
+    const char *still_modified;          // running on: for each page, 1 when it is still modified
     std::vector<const char *> reopened;  // ended: the documents of the next start, by file name
 };
 
@@ -164,6 +165,7 @@ static T_ANSWER ExitAgain(t_Window *main_window)
     return {QUERY_TITLE, {}, [main_window] { SendWindowMessage(main_window, CMD_EXIT, ACT_MENU_PICK, NULL); }};
 }
 
+// clang-format off
 static const EXIT_ROW exit_rows[] = {
     {"Cancel keeps every page, the clean ones too", "cmc",
      [](SessionEndTest *) { return std::vector<T_ANSWER>{AnswerCancel()}; }, 1, false, "010", {}},
@@ -194,6 +196,7 @@ static const EXIT_ROW exit_rows[] = {
     {"clean pages go without a word", "cc", [](SessionEndTest *) { return std::vector<T_ANSWER>{}; }, 1, true, "",
      {"p0.cpp", "p1.cpp"}},
 };
+// clang-format on
 
 TEST_F(SessionEndTest, ExitSequences)
 {

@@ -4,8 +4,9 @@
 
 #define FIELD_BACKUP_PATH 50
 
-class SettingsDialogTest : public ShellTest {
-protected:
+class SettingsDialogTest : public ShellTest
+{
+  protected:
     t_Window *dialog = NULL;
 
     void SetUp() override

@@ -128,9 +128,18 @@ T_ANSWER AnswerKeys(const char *window, std::vector<u16> keys)
     return answer;
 }
 
-T_ANSWER AnswerYes() { return AnswerKeys(QUERY_TITLE, {KEY_RETURN}); }
-T_ANSWER AnswerNo() { return AnswerKeys(QUERY_TITLE, {KEY_TAB, KEY_RETURN}); }
-T_ANSWER AnswerCancel() { return AnswerKeys(QUERY_TITLE, {KEY_ESCAPE}); }
+T_ANSWER AnswerYes()
+{
+    return AnswerKeys(QUERY_TITLE, {KEY_RETURN});
+}
+T_ANSWER AnswerNo()
+{
+    return AnswerKeys(QUERY_TITLE, {KEY_TAB, KEY_RETURN});
+}
+T_ANSWER AnswerCancel()
+{
+    return AnswerKeys(QUERY_TITLE, {KEY_ESCAPE});
+}
 
 T_ANSWER AnswerSaveAs(const std::string &path)
 {

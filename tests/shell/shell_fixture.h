@@ -28,8 +28,9 @@
 #define PROGRESS_TITLE "Opening documents"
 #define PAST_DOUBLE_CLICK_MS 500
 
-class ShellTest : public ::testing::Test {
-protected:
+class ShellTest : public ::testing::Test
+{
+  protected:
     T_HARNESS h;
 
     void SetUp() override { ASSERT_TRUE(HarnessStart(&h, NULL, SCREEN_W, SCREEN_H)); }
@@ -112,16 +113,16 @@ protected:
 // when the window of its title stands and the input given before has been taken. Answers are
 // keys, a text typed into a selector, or something done (a command picked).
 typedef struct T_ANSWER {
-    const char *window;                  // the title it waits for
-    std::vector<T_INPUT_EVENT> input;    // queued then
-    std::function<void()> action;        // or done then
+    const char *window;                // the title it waits for
+    std::vector<T_INPUT_EVENT> input;  // queued then
+    std::function<void()> action;      // or done then
 } T_ANSWER;
 
 T_ANSWER AnswerKeys(const char *window, std::vector<u16> keys);  // keys without qualifiers
-T_ANSWER AnswerYes();     // the close query: Return on "Yes"
-T_ANSWER AnswerNo();      // Tab, Return
-T_ANSWER AnswerCancel();  // Escape
-T_ANSWER AnswerSaveAs(const std::string &path);  // the "Save Source as" selector: the path, Return
+T_ANSWER AnswerYes();                                            // the close query: Return on "Yes"
+T_ANSWER AnswerNo();                                             // Tab, Return
+T_ANSWER AnswerCancel();                                         // Escape
+T_ANSWER AnswerSaveAs(const std::string &path);                  // the "Save Source as" selector: the path, Return
 // Installs the person on the main window with these answers, in order; AnswersLeft() tells how
 // many were never given.
 void ExpectAnswers(t_Window *main_window, std::vector<T_ANSWER> answers);

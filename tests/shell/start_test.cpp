@@ -39,14 +39,30 @@ TEST(Start, FirstStartMakesTheDefaultsAndASecondChangesNothing)
         u32 item_code;
         u32 key;
     } expected[] = {
-        {"Open", 256, 295},        {"Close", 257, 0},          {"Close all", 258, 0},
-        {"Save", 259, 299},        {"Save as", 260, 303},      {"Save all", 261, 0},
-        {"Exit", 262, 0},          {"Undo", 263, 306},         {"Redo", 264, 305},
-        {"Cut", 265, 304},         {"Copy", 266, 283},         {"Paste", 267, 302},
-        {"Select All", 268, 281},  {"Select None", 269, 0},    {"Inverse Selection", 270, 0},
-        {"Re-order Item codes", 271, 0}, {"Settings", 272, 275}, {"Horizontal", 273, 0},
-        {"Vertical", 274, 0},      {"Size to content", 275, 0}, {"Flip Horizontal", 276, 0},
-        {"Tab order", 277, 0},     {"Keyboard", 278, 0},      {"Preview", 279, 298},
+        {"Open", 256, 295},
+        {"Close", 257, 0},
+        {"Close all", 258, 0},
+        {"Save", 259, 299},
+        {"Save as", 260, 303},
+        {"Save all", 261, 0},
+        {"Exit", 262, 0},
+        {"Undo", 263, 306},
+        {"Redo", 264, 305},
+        {"Cut", 265, 304},
+        {"Copy", 266, 283},
+        {"Paste", 267, 302},
+        {"Select All", 268, 281},
+        {"Select None", 269, 0},
+        {"Inverse Selection", 270, 0},
+        {"Re-order Item codes", 271, 0},
+        {"Settings", 272, 275},
+        {"Horizontal", 273, 0},
+        {"Vertical", 274, 0},
+        {"Size to content", 275, 0},
+        {"Flip Horizontal", 276, 0},
+        {"Tab order", 277, 0},
+        {"Keyboard", 278, 0},
+        {"Preview", 279, 298},
     };
     T_HARNESS h;
     ASSERT_TRUE(HarnessStart(&h, NULL, SCREEN_W, SCREEN_H));

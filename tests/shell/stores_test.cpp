@@ -9,7 +9,8 @@
 
 #include "tests/shell/shell_fixture.h"
 
-namespace {
+namespace
+{
 
 const char *const stores[] = {"store/AppQuillform.res", "keys/Quillform.keys", "recent/Quillform.txt",
                               "places/AppQuillform.txt"};
@@ -42,7 +43,9 @@ int LinesNaming(const std::string &log, const std::string &path)
     return lines;
 }
 
-class Stores : public ShellTest {};
+class Stores : public ShellTest
+{
+};
 
 TEST_F(Stores, BrokenStoresAreToldOnceAndHealedByTheNextEnd)
 {

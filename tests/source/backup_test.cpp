@@ -6,8 +6,10 @@
 
 #include "source_fixture.h"
 
-namespace {
+namespace
+{
 
+// clang-format off
 const std::vector<T_TEST_GADGET> one_button = {
     {.type = GADGET_TYPE_BUTTON, .text = "OK", .item_code = 1, .tab_index = 1}};
 
@@ -25,13 +27,14 @@ protected:
         return paths;
     }
 };
+// clang-format on
 
 struct RULE_CASE {
     const char *label;
     const char *backup_path;  // below the data root when `absolute`
     int absolute;
-    const char *document;     // below the data root
-    const char *backup;       // below the data root
+    const char *document;  // below the data root
+    const char *backup;    // below the data root
 };
 
 TEST_F(BackupTest, WhereTheCopyGoes)
@@ -127,9 +130,7 @@ TEST_F(BackupTest, SaveIntoAMissingFolder)
     std::string log = testing::internal::GetCapturedStderr();
     EXPECT_FALSE(DirectoryExists(Path("missing").c_str()));
     EXPECT_NE(SaveErrorBox(window), nullptr);
-    EXPECT_NE(log.find("The document could not be written to " + path + ": No such file"),
-              std::string::npos)
-        << log;
+    EXPECT_NE(log.find("The document could not be written to " + path + ": No such file"), std::string::npos) << log;
 }
 
 }  // namespace

@@ -8,13 +8,16 @@
 
 inline const u32 demo_action = ACT_LMOUSE_UP | ACT_LMOUSE_DBL;
 
+// clang-format off
 inline const T_TEST_PAGE demo_page = {
     .name = "Demo Page",
     .flags = WF_CLOSE | WF_TITLE | WF_MOVE | WF_CHILD | WF_CLIP_PARENT,
     .idcmp = IDCMP_TERMINATE,
     .x = 16, .y = 16, .w = 320, .h = 200,
 };
+// clang-format on
 
+// clang-format off
 inline const std::vector<T_TEST_GADGET> demo_gadgets = {
     {.type = GADGET_TYPE_BUTTON, .text = "OK", .x = 10, .y = 10, .w = 80, .h = 24,
      .item_code = 1, .flags = GADGET_FLAGS_PUSH, .action = demo_action, .tab_index = 1,
@@ -24,10 +27,12 @@ inline const std::vector<T_TEST_GADGET> demo_gadgets = {
      .back_colour = 0xc0c0c0, .min = 0, .max = 100, .step = 1, .mark_width = 8,
      .mark_height = 16},
 };
+// clang-format on
 
 // Every kind of the catalogue, with values that make the optimised form leave things out and
 // put them back: repeated and vanishing hover texts and fonts, a cursor, a group without an item
 // code, the shared record of slider and scroll bar values.
+// clang-format off
 inline const T_TEST_PAGE every_kind_page = {
     .name = "Every Kind",
     .flags = WF_CLOSE | WF_RESIZE | WF_TITLE | WF_MOVE | WF_BORDER | WF_CHILD | WF_CLIP_PARENT,
@@ -38,9 +43,11 @@ inline const T_TEST_PAGE every_kind_page = {
     .with_menus = 1,
     .bitmap = "paper.png",
 };
+// clang-format on
 
 inline const u32 kind_action = ACT_LMOUSE_UP | ACT_LMOUSE_DBL;
 
+// clang-format off
 inline const std::vector<T_TEST_GADGET> every_kind_gadgets = {
     {.type = GADGET_TYPE_BUTTON, .text = "Start", .x = 8, .y = 8, .w = 80, .h = 24,
      .item_code = 1, .flags = GADGET_FLAGS_PUSH, .action = kind_action, .tab_index = 1,
@@ -94,3 +101,4 @@ inline const std::vector<T_TEST_GADGET> every_kind_gadgets = {
      .item_code = 17, .flags = GADGET_FLAGS_CURSOR, .action = kind_action, .tab_index = 16,
      .with_cursor = 1, .cursor = 300, .back_colour = 0x808080},
 };
+// clang-format on

@@ -3,9 +3,12 @@
 // QF_REGENERATE_GOLDEN=1, then read against the format).
 #include "golden_pages.h"
 
-namespace {
+namespace
+{
 
-class GoldenTest : public SourceTest {};
+class GoldenTest : public SourceTest
+{
+};
 
 TEST_F(GoldenTest, DemoPageInBothForms)
 {

@@ -4,7 +4,8 @@
 
 #include "source/name_tables.h"
 
-namespace {
+namespace
+{
 
 struct CODE_LOOKUP {
     const T_VAL2STRING *table;

@@ -52,8 +52,7 @@ t_Window *SourceTest::MakePage(const T_TEST_PAGE &page, const std::vector<T_TEST
     init.flags = WF_TITLE | WF_CLOSE | WF_MOVE;
     init.idcmp = page.idcmp;
     init.bitmap = page.bitmap;
-    t_Window *window =
-        (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, page.name, &init);
+    t_Window *window = (t_Window *)CreateObject(&CURRENT_DISPLAY->window_class->head, page.name, &init);
     EXPECT_TRUE(window != NULL);
     if (!window)
         return NULL;
@@ -63,8 +62,7 @@ t_Window *SourceTest::MakePage(const T_TEST_PAGE &page, const std::vector<T_TEST
     if (page.w) {
         window->x = page.x, window->y = page.y, window->w = page.w, window->h = page.h;
     }
-    window->UserAreaColour = page.area_colour ? page.area_colour
-                                              : DISPLAY_RECORD->default_area_colour;
+    window->UserAreaColour = page.area_colour ? page.area_colour : DISPLAY_RECORD->default_area_colour;
     NewGadgetHandler(window);
     if (page.with_menus)
         NewMenuHandler(window);
@@ -161,8 +159,8 @@ void ExpectGoldenFile(const std::string &text, const char *name, int may_regener
     std::string want_line, got_line;
     for (int line = 1; std::getline(want, want_line); line++) {
         if (!std::getline(got, got_line) || got_line != want_line) {
-            ADD_FAILURE() << name << " line " << line << ": expected \"" << want_line
-                          << "\", written \"" << got_line << "\"";
+            ADD_FAILURE() << name << " line " << line << ": expected \"" << want_line << "\", written \"" << got_line
+                          << "\"";
             break;
         }
     }

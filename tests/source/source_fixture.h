@@ -22,13 +22,13 @@ typedef struct T_TEST_GADGET {
     u32 action = 0;
     u32 tab_index = 0;
     const char *hover = NULL;
-    const char *font = NULL;   // a font file name, or null
-    int with_cursor = 0;    // live_flags gets GADGET_FLAGS_CURSOR
+    const char *font = NULL;  // a font file name, or null
+    int with_cursor = 0;      // live_flags gets GADGET_FLAGS_CURSOR
     u16 cursor = 0;
     u32 back_colour = 0, text_colour = 0;
-    i32 min = 0, max = 0, step = 0;   // slider or scroll bar
+    i32 min = 0, max = 0, step = 0;       // slider or scroll bar
     i16 mark_width = 0, mark_height = 0;  // slider
-    u16 init_val = 0;                 // scroll bar
+    u16 init_val = 0;                     // scroll bar
 } T_TEST_GADGET;
 
 // One test page.
@@ -37,13 +37,14 @@ typedef struct T_TEST_PAGE {
     u32 flags = 0;  // WF_ bits
     u32 idcmp = 0;
     i16 x = 0, y = 0, w = 0, h = 0;
-    u32 area_colour = 0;  // 0: the display's default
-    int with_menus = 0;   // a menu handler on the window
+    u32 area_colour = 0;        // 0: the display's default
+    int with_menus = 0;         // a menu handler on the window
     const char *bitmap = NULL;  // a file below the data root's Bitmaps folder, made by the fixture
 } T_TEST_PAGE;
 
-class SourceTest : public ::testing::Test {
-protected:
+class SourceTest : public ::testing::Test
+{
+  protected:
     void SetUp() override;
     void TearDown() override;
 

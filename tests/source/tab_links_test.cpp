@@ -1,7 +1,8 @@
 // Tab links worked out from tab_index, and the type order of a save.
 #include "source_fixture.h"
 
-namespace {
+namespace
+{
 
 struct MEMBER {
     u32 item_code;
@@ -19,8 +20,7 @@ TEST_F(SourceTest, TabLinksTable)
     const u32 first = TAB_LINK_FIRST;
     const TAB_CASE cases[] = {
         {"a ring", {{10, 3, 30, 20}, {20, 1, first | 10, 30}, {30, 2, 20, 10}}},
-        {"duplicates: the first in list order is found",
-         {{1, 1, first | 2, 2}, {2, 2, 1, 1}, {3, 2, 1, 1}}},
+        {"duplicates: the first in list order is found", {{1, 1, first | 2, 2}, {2, 2, 1, 1}, {3, 2, 1, 1}}},
         {"a single member", {{5, 1, 0, 0}, {0, 1, 0, 0}}},
         {"1, 2 and 5", {{1, 1, first | 3, 2}, {2, 2, 1, 1}, {3, 5, 3, 1}}},
         {"an index 0", {{1, 1, first | 2, 2}, {2, 2, 1, 1}, {7, 0, 2, 1}}},
@@ -31,8 +31,8 @@ TEST_F(SourceTest, TabLinksTable)
         SCOPED_TRACE(c.label);
         std::vector<T_TEST_GADGET> specs;
         for (const MEMBER &m : c.gadgets)
-            specs.push_back({.type = GADGET_TYPE_BUTTON, .text = "g", .item_code = m.item_code,
-                             .tab_index = m.tab_index});
+            specs.push_back(
+                {.type = GADGET_TYPE_BUTTON, .text = "g", .item_code = m.item_code, .tab_index = m.tab_index});
         t_Window *window = MakePage({.name = "Tabs"}, specs);
         ASSERT_TRUE(window);
         // Stale links must be replaced, not kept.
@@ -65,8 +65,7 @@ TEST_F(SourceTest, TypeOrderOnAndOff)
         std::vector<std::string> names;
     } cases[] = {
         {CONFIG_OPTIMISE, {"button A", "slider", "string", "button B", "text"}},
-        {CONFIG_OPTIMISE | CONFIG_TYPE_ORDER,
-         {"string", "text", "slider", "button A", "button B"}},
+        {CONFIG_OPTIMISE | CONFIG_TYPE_ORDER, {"string", "text", "slider", "button A", "button B"}},
     };
     for (const ORDER_CASE &c : cases) {
         SCOPED_TRACE(c.settings);

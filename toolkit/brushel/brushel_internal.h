@@ -14,7 +14,8 @@ extern T_SURFACE *draw_surface;
 int DrawClip(T_CLIP *clip);
 
 // Mixes `src` over `dst` by `alpha` (0 keeps dst, 255 gives src); both are 0x00BBGGRR words.
-static inline u32 BlendPixel(u32 dst, u32 src, u32 alpha) {
+static inline u32 BlendPixel(u32 dst, u32 src, u32 alpha)
+{
     u32 a = alpha + (alpha >> 7);  // 0..256, so that 255 gives src exactly
     u32 na = 256 - a;
     u32 rb = (((src & 0xFF00FF) * a + (dst & 0xFF00FF) * na + 0x800080) >> 8) & 0xFF00FF;
@@ -24,18 +25,18 @@ static inline u32 BlendPixel(u32 dst, u32 src, u32 alpha) {
 
 // One rendered character of a face: its coverage bitmap and where it sits on the pen.
 typedef struct T_GLYPH {
-    u8 *bitmap;       // coverage, width * height bytes; null for a glyph with nothing to draw
-    i16 left, top;    // from the pen on the baseline to the bitmap's top left (top is upwards)
+    u8 *bitmap;     // coverage, width * height bytes; null for a glyph with nothing to draw
+    i16 left, top;  // from the pen on the baseline to the bitmap's top left (top is upwards)
     u16 width, height;
-    i16 advance;      // pen movement in pixels
-    u8 loaded;        // rendered (or found missing)
-    u8 missing;       // the face has no such character: '?' stands in for it
+    i16 advance;  // pen movement in pixels
+    u8 loaded;    // rendered (or found missing)
+    u8 missing;   // the face has no such character: '?' stands in for it
 } T_GLYPH;
 
 // The glyphs of one style of a font, codes 0 to 255, rendered on first use.
 typedef struct T_GLYPH_CACHE {
-    void *face;          // the FreeType face this style renders with (the regular one if missing)
-    u8 synthetic_bold;   // the style asks for bold the face hasn't: glyphs widened by a pixel
+    void *face;         // the FreeType face this style renders with (the regular one if missing)
+    u8 synthetic_bold;  // the style asks for bold the face hasn't: glyphs widened by a pixel
     T_GLYPH glyphs[256];
 } T_GLYPH_CACHE;
 

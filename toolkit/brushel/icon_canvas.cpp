@@ -80,8 +80,7 @@ void IconPattern(T_ICON_CANVAS *c, i32 x, i32 y, const char *const *rows, i32 sc
         }
 }
 
-T_TEXTURE_BANK *DrawIconBank(const char *name, u16 count, u16 size, const T_ICON_DRAWING *drawings,
-                             u32 drawing_count)
+T_TEXTURE_BANK *DrawIconBank(const char *name, u16 count, u16 size, const T_ICON_DRAWING *drawings, u32 drawing_count)
 {
     T_TEXTURE_BANK *bank = NewTextureBank(name, count, size, size);
     if (!bank)

@@ -5,42 +5,55 @@
 #include "brushel_internal.h"
 
 // One image pixel over a surface pixel, by the image's alpha.
-static inline u32 OverPixel(u32 dst, u32 src) {
+static inline u32 OverPixel(u32 dst, u32 src)
+{
     u32 alpha = src >> 24;
-    if (alpha == 255) return src & 0x00FFFFFF;
-    if (alpha == 0) return dst;
+    if (alpha == 255)
+        return src & 0x00FFFFFF;
+    if (alpha == 0)
+        return dst;
     return BlendPixel(dst, src & 0x00FFFFFF, alpha);
 }
 
-void DrawImage(const u32 *pixels, i32 width, i32 height, i16 x, i16 y) {
+void DrawImage(const u32 *pixels, i32 width, i32 height, i16 x, i16 y)
+{
     T_CLIP clip;
-    if (!pixels || width <= 0 || height <= 0 || !DrawClip(&clip)) return;
+    if (!pixels || width <= 0 || height <= 0 || !DrawClip(&clip))
+        return;
     i32 left = std::max<i32>(x, clip.left), right = std::min<i32>(x + width, clip.right);
     i32 top = std::max<i32>(y, clip.top), bottom = std::min<i32>(y + height, clip.bottom);
-    if (left >= right || top >= bottom) return;
+    if (left >= right || top >= bottom)
+        return;
     for (i32 py = top; py < bottom; py++) {
         const u32 *src = pixels + (py - y) * width + (left - x);
         u32 *dst = draw_surface->pixels + py * draw_surface->pitch + left;
-        for (i32 n = right - left; n > 0; n--, src++, dst++) *dst = OverPixel(*dst, *src);
+        for (i32 n = right - left; n > 0; n--, src++, dst++)
+            *dst = OverPixel(*dst, *src);
     }
 }
 
 // The pixels of one icon of a bank, or null when the bank hasn't that icon.
-static const u32 *IconPixels(T_TEXTURE_BANK *bank, u16 icon) {
-    if (!bank || !bank->pixels || icon >= bank->count) return nullptr;
+static const u32 *IconPixels(T_TEXTURE_BANK *bank, u16 icon)
+{
+    if (!bank || !bank->pixels || icon >= bank->count)
+        return nullptr;
     return bank->pixels + (u32)icon * bank->icon_width * bank->icon_height;
 }
 
-void DrawIcon(T_TEXTURE_BANK *bank, u16 icon, i16 x, i16 y) {
+void DrawIcon(T_TEXTURE_BANK *bank, u16 icon, i16 x, i16 y)
+{
     const u32 *pixels = IconPixels(bank, icon);
-    if (pixels) DrawImage(pixels, bank->icon_width, bank->icon_height, x, y);
+    if (pixels)
+        DrawImage(pixels, bank->icon_width, bank->icon_height, x, y);
 }
 
 // Scaled to w by h, each target pixel taking the nearest icon pixel.
-void DrawIconScaled(T_TEXTURE_BANK *bank, u16 icon, i16 x, i16 y, i16 w, i16 h) {
+void DrawIconScaled(T_TEXTURE_BANK *bank, u16 icon, i16 x, i16 y, i16 w, i16 h)
+{
     const u32 *pixels = IconPixels(bank, icon);
     T_CLIP clip;
-    if (!pixels || w <= 0 || h <= 0 || !DrawClip(&clip)) return;
+    if (!pixels || w <= 0 || h <= 0 || !DrawClip(&clip))
+        return;
     i32 left = std::max<i32>(x, clip.left), right = std::min<i32>(x + w, clip.right);
     i32 top = std::max<i32>(y, clip.top), bottom = std::min<i32>(y + h, clip.bottom);
     for (i32 py = top; py < bottom; py++) {
@@ -52,27 +65,34 @@ void DrawIconScaled(T_TEXTURE_BANK *bank, u16 icon, i16 x, i16 y, i16 w, i16 h) 
 }
 
 // On failure (no memory) returns null and logs.
-T_TEXTURE_BANK *NewTextureBank(const char *name, u16 count, u16 icon_width, u16 icon_height) {
+T_TEXTURE_BANK *NewTextureBank(const char *name, u16 count, u16 icon_width, u16 icon_height)
+{
     T_TEXTURE_BANK *bank = (T_TEXTURE_BANK *)AllocMemC(sizeof(T_TEXTURE_BANK));
     u32 size = (u32)count * icon_width * icon_height * 4;
     u32 name_size = name ? (u32)strlen(name) + 1 : 0;
-    if (bank && size) bank->pixels = (u32 *)AllocMemC(size);
-    if (bank && name_size) bank->name = (char *)AllocMemC(name_size);
+    if (bank && size)
+        bank->pixels = (u32 *)AllocMemC(size);
+    if (bank && name_size)
+        bank->name = (char *)AllocMemC(name_size);
     if (!bank || (size && !bank->pixels) || (name_size && !bank->name)) {
         myprintf(0, "No memory for the icon bank \"%s\" of %u icons\n", name ? name : "", count);
         FreeTextureBank(bank);
         return nullptr;
     }
-    if (name_size) memcpy(bank->name, name, name_size);
+    if (name_size)
+        memcpy(bank->name, name, name_size);
     bank->count = count;
     bank->icon_width = icon_width;
     bank->icon_height = icon_height;
     return bank;
 }
 
-void FreeTextureBank(T_TEXTURE_BANK *bank) {
-    if (!bank) return;
-    if (bank->name) FreeMem(bank->name, (u32)strlen(bank->name) + 1);
+void FreeTextureBank(T_TEXTURE_BANK *bank)
+{
+    if (!bank)
+        return;
+    if (bank->name)
+        FreeMem(bank->name, (u32)strlen(bank->name) + 1);
     FreeMem(bank->pixels, (u32)bank->count * bank->icon_width * bank->icon_height * 4);
     FreeMem(bank, sizeof(T_TEXTURE_BANK));
 }

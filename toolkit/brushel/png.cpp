@@ -8,7 +8,8 @@
 #define PNG_MAX_PIXELS (64u * 1024 * 1024)  // larger images are refused rather than allocated
 
 // On failure returns null, leaves *width and *height 0 and logs why.
-u32 *ReadPNG(const char *path, i32 *width, i32 *height) {
+u32 *ReadPNG(const char *path, i32 *width, i32 *height)
+{
     *width = *height = 0;
     png_image image;
     memset(&image, 0, sizeof image);
@@ -37,7 +38,8 @@ u32 *ReadPNG(const char *path, i32 *width, i32 *height) {
 }
 
 // On failure returns false and logs why; a file begun may be left incomplete.
-int WritePNG(const char *path, T_SURFACE *surface) {
+int WritePNG(const char *path, T_SURFACE *surface)
+{
     if (!path || !surface || !surface->pixels || surface->width <= 0 || surface->height <= 0) {
         myprintf(0, "%s: no image to write\n", path ? path : "(none)");
         return 0;
@@ -64,7 +66,8 @@ int WritePNG(const char *path, T_SURFACE *surface) {
     image.height = (png_uint_32)surface->height;
     image.format = PNG_FORMAT_RGB;
     int ok = png_image_write_to_file(&image, path, 0, rgb, 0, nullptr);
-    if (!ok) myprintf(0, "%s: can't write the PNG file: %s\n", path, image.message);
+    if (!ok)
+        myprintf(0, "%s: can't write the PNG file: %s\n", path, image.message);
     FreeMem(rgb, size);
     png_image_free(&image);
     return ok;

@@ -34,10 +34,10 @@ typedef struct T_DISPLAY_BACKEND {
     int (*open)(i16 width, i16 height, const char *title);
     void (*close)(void);
     u32 *(*pixels)(i32 *width, i32 *height, i32 *pitch);  // the framebuffer, 0x00BBGGRR
-    int (*poll)(T_INPUT_EVENT *event);  // takes one pending event; false when there is none
-    void (*present)(void);              // shows the framebuffer
-    u32 (*ticks)(void);                 // milliseconds
-    void (*wait)(u32 ms);               // sleeps (sdl) or advances virtual time (headless)
+    int (*poll)(T_INPUT_EVENT *event);                    // takes one pending event; false when there is none
+    void (*present)(void);                                // shows the framebuffer
+    u32 (*ticks)(void);                                   // milliseconds
+    void (*wait)(u32 ms);                                 // sleeps (sdl) or advances virtual time (headless)
     void (*set_cursor)(u16 image);
     void (*set_mouse_rect)(const T_RPOS *rect);  // null: free
     void (*warp_mouse)(i16 x, i16 y);

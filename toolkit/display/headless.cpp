@@ -20,19 +20,23 @@ static struct {
 } headless;
 
 // A framebuffer of width by height, cleared; false (and no framebuffer) when there is no memory.
-static int MakeFramebuffer(i32 width, i32 height) {
+static int MakeFramebuffer(i32 width, i32 height)
+{
     FreeMem(headless.pixels, (u32)headless.width * headless.height * 4);
     headless.pixels = nullptr;
     headless.width = headless.height = 0;
-    if (width <= 0 || height <= 0) return 0;
+    if (width <= 0 || height <= 0)
+        return 0;
     headless.pixels = (u32 *)AllocMemC((u32)width * height * 4);
-    if (!headless.pixels) return 0;
+    if (!headless.pixels)
+        return 0;
     headless.width = width;
     headless.height = height;
     return 1;
 }
 
-static int HeadlessOpen(i16 width, i16 height, const char *) {
+static int HeadlessOpen(i16 width, i16 height, const char *)
+{
     headless.queue.clear();
     headless.time_ms = 0;
     headless.qualifiers = 0;
@@ -46,12 +50,14 @@ static int HeadlessOpen(i16 width, i16 height, const char *) {
     return 1;
 }
 
-static void HeadlessClose(void) {
+static void HeadlessClose(void)
+{
     MakeFramebuffer(0, 0);
     headless.queue.clear();
 }
 
-static u32 *HeadlessPixels(i32 *width, i32 *height, i32 *pitch) {
+static u32 *HeadlessPixels(i32 *width, i32 *height, i32 *pitch)
+{
     *width = headless.width;
     *height = headless.height;
     *pitch = headless.width;
@@ -59,8 +65,10 @@ static u32 *HeadlessPixels(i32 *width, i32 *height, i32 *pitch) {
 }
 
 // A resize takes effect when it is taken from the queue, as a window's would.
-static int HeadlessPoll(T_INPUT_EVENT *event) {
-    if (headless.queue.empty()) return 0;
+static int HeadlessPoll(T_INPUT_EVENT *event)
+{
+    if (headless.queue.empty())
+        return 0;
     *event = headless.queue.front();
     headless.queue.pop_front();
     if (event->kind == INPUT_RESIZE && !MakeFramebuffer(event->x, event->y))
@@ -68,44 +76,53 @@ static int HeadlessPoll(T_INPUT_EVENT *event) {
     return 1;
 }
 
-static void HeadlessPresent(void) {
-}
+static void HeadlessPresent(void) {}
 
-static u32 HeadlessTicks(void) {
+static u32 HeadlessTicks(void)
+{
     return headless.time_ms;
 }
 
-static void HeadlessWait(u32 ms) {
+static void HeadlessWait(u32 ms)
+{
     headless.time_ms += ms;
 }
 
-static void HeadlessSetCursor(u16 image) {
+static void HeadlessSetCursor(u16 image)
+{
     headless.cursor = image;
 }
 
-static void HeadlessSetMouseRect(const T_RPOS *rect) {
+static void HeadlessSetMouseRect(const T_RPOS *rect)
+{
     headless.mouse_limited = rect != nullptr;
-    if (rect) headless.mouse_rect = *rect;
+    if (rect)
+        headless.mouse_rect = *rect;
 }
 
-static void HeadlessWarpMouse(i16 x, i16 y) {
+static void HeadlessWarpMouse(i16 x, i16 y)
+{
     headless.warp_x = x;
     headless.warp_y = y;
 }
 
-static u16 HeadlessQualifiers(void) {
+static u16 HeadlessQualifiers(void)
+{
     return headless.qualifiers;
 }
 
-static int HeadlessSetClipboard(const char *text) {
+static int HeadlessSetClipboard(const char *text)
+{
     headless.clipboard = text ? text : "";
     return 1;
 }
 
-static const char *HeadlessGetClipboard(void) {
+static const char *HeadlessGetClipboard(void)
+{
     return headless.clipboard.c_str();
 }
 
+// clang-format off
 const T_DISPLAY_BACKEND display_headless = {
     "headless",        HeadlessOpen,      HeadlessClose,        HeadlessPixels,
     HeadlessPoll,      HeadlessPresent,   HeadlessTicks,        HeadlessWait,
@@ -113,8 +130,10 @@ const T_DISPLAY_BACKEND display_headless = {
     HeadlessWait,  // waiting for input is virtual time too
     HeadlessSetClipboard, HeadlessGetClipboard,
 };
+// clang-format on
 
-void HeadlessPush(const T_INPUT_EVENT *event) {
+void HeadlessPush(const T_INPUT_EVENT *event)
+{
     switch (event->kind) {
     case INPUT_MOUSE_MOVE:
     case INPUT_MOUSE_DOWN:
@@ -127,24 +146,30 @@ void HeadlessPush(const T_INPUT_EVENT *event) {
     headless.queue.push_back(*event);
 }
 
-u32 HeadlessPending(void) {
+u32 HeadlessPending(void)
+{
     return (u32)headless.queue.size();
 }
 
-void HeadlessAdvance(u32 ms) {
+void HeadlessAdvance(u32 ms)
+{
     headless.time_ms += ms;
 }
 
-u16 HeadlessCursor(void) {
+u16 HeadlessCursor(void)
+{
     return headless.cursor;
 }
 
-int HeadlessMouseRect(T_RPOS *rect) {
-    if (headless.mouse_limited && rect) *rect = headless.mouse_rect;
+int HeadlessMouseRect(T_RPOS *rect)
+{
+    if (headless.mouse_limited && rect)
+        *rect = headless.mouse_rect;
     return headless.mouse_limited;
 }
 
-void HeadlessWarpXY(i16 *x, i16 *y) {
+void HeadlessWarpXY(i16 *x, i16 *y)
+{
     *x = headless.warp_x;
     *y = headless.warp_y;
 }

@@ -14,28 +14,32 @@
 static const struct {
     SDL_Keycode sym;
     u16 key;
+    // clang-format off
 } special_keys[] = {
-    {SDLK_ESCAPE, KEY_ESCAPE},  {SDLK_RETURN, KEY_RETURN},       {SDLK_KP_ENTER, KEY_RETURN},
-    {SDLK_BACKSPACE, KEY_BACKSPACE}, {SDLK_TAB, KEY_TAB},        {SDLK_UP, KEY_UP},
-    {SDLK_DOWN, KEY_DOWN},      {SDLK_LEFT, KEY_LEFT},           {SDLK_RIGHT, KEY_RIGHT},
-    {SDLK_HOME, KEY_HOME},      {SDLK_END, KEY_END},             {SDLK_PAGEUP, KEY_PAGE_UP},
-    {SDLK_PAGEDOWN, KEY_PAGE_DOWN}, {SDLK_INSERT, KEY_INSERT},   {SDLK_DELETE, KEY_DELETE},
-    {SDLK_F1, KEY_F1},          {SDLK_F2, KEY_F1 + 1},           {SDLK_F3, KEY_F1 + 2},
-    {SDLK_F4, KEY_F1 + 3},      {SDLK_F5, KEY_F1 + 4},           {SDLK_F6, KEY_F1 + 5},
-    {SDLK_F7, KEY_F1 + 6},      {SDLK_F8, KEY_F1 + 7},           {SDLK_F9, KEY_F1 + 8},
-    {SDLK_F10, KEY_F1 + 9},     {SDLK_F11, KEY_F1 + 10},         {SDLK_F12, KEY_F1 + 11},
+    {SDLK_ESCAPE,    KEY_ESCAPE},  {SDLK_RETURN,   KEY_RETURN},       {SDLK_KP_ENTER,  KEY_RETURN},
+    {SDLK_BACKSPACE, KEY_BACKSPACE}, {SDLK_TAB,    KEY_TAB},        {SDLK_UP,          KEY_UP},
+    {SDLK_DOWN,      KEY_DOWN},      {SDLK_LEFT,   KEY_LEFT},           {SDLK_RIGHT,   KEY_RIGHT},
+    {SDLK_HOME,      KEY_HOME},      {SDLK_END,    KEY_END},             {SDLK_PAGEUP, KEY_PAGE_UP},
+    {SDLK_PAGEDOWN,  KEY_PAGE_DOWN}, {SDLK_INSERT, KEY_INSERT},   {SDLK_DELETE,        KEY_DELETE},
+    {SDLK_F1,        KEY_F1},          {SDLK_F2,   KEY_F1 + 1},           {SDLK_F3,    KEY_F1 + 2},
+    {SDLK_F4,        KEY_F1 + 3},      {SDLK_F5,   KEY_F1 + 4},           {SDLK_F6,    KEY_F1 + 5},
+    {SDLK_F7,        KEY_F1 + 6},      {SDLK_F8,   KEY_F1 + 7},           {SDLK_F9,    KEY_F1 + 8},
+    {SDLK_F10,       KEY_F1 + 9},     {SDLK_F11,   KEY_F1 + 10},         {SDLK_F12,    KEY_F1 + 11},
 };
+// clang-format on
 
 // The toolkit's mouse images as SDL's system cursors; others show the arrow.
 static const struct {
     u16 image;
     SDL_SystemCursor cursor;
+    // clang-format off
 } cursor_images[] = {
-    {MOUSE_IMAGE_ARROW, SDL_SYSTEM_CURSOR_ARROW},      {MOUSE_IMAGE_SIZE_WE, SDL_SYSTEM_CURSOR_SIZEWE},
-    {MOUSE_IMAGE_SIZE_NESW, SDL_SYSTEM_CURSOR_SIZENESW}, {MOUSE_IMAGE_SIZE_NS, SDL_SYSTEM_CURSOR_SIZENS},
-    {MOUSE_IMAGE_SIZE_NWSE, SDL_SYSTEM_CURSOR_SIZENWSE}, {MOUSE_IMAGE_TEXT, SDL_SYSTEM_CURSOR_IBEAM},
-    {MOUSE_IMAGE_HAND, SDL_SYSTEM_CURSOR_HAND},        {MOUSE_IMAGE_MOVE, SDL_SYSTEM_CURSOR_SIZEALL},
+    {MOUSE_IMAGE_ARROW,     SDL_SYSTEM_CURSOR_ARROW},      {MOUSE_IMAGE_SIZE_WE, SDL_SYSTEM_CURSOR_SIZEWE},
+    {MOUSE_IMAGE_SIZE_NESW, SDL_SYSTEM_CURSOR_SIZENESW}, {MOUSE_IMAGE_SIZE_NS,   SDL_SYSTEM_CURSOR_SIZENS},
+    {MOUSE_IMAGE_SIZE_NWSE, SDL_SYSTEM_CURSOR_SIZENWSE}, {MOUSE_IMAGE_TEXT,      SDL_SYSTEM_CURSOR_IBEAM},
+    {MOUSE_IMAGE_HAND,      SDL_SYSTEM_CURSOR_HAND},        {MOUSE_IMAGE_MOVE,   SDL_SYSTEM_CURSOR_SIZEALL},
 };
+// clang-format on
 
 static struct {
     SDL_Window *window;
@@ -48,39 +52,48 @@ static struct {
     SDL_Keymod mod;  // the modifiers as of the last key event taken from the queue
 } sdl;
 
-static u16 Qualifiers(SDL_Keymod mod) {
-    return (mod & KMOD_SHIFT ? QUAL_SHIFT : 0) | (mod & KMOD_ALT ? QUAL_ALT : 0) |
-           (mod & KMOD_CTRL ? QUAL_CONTROL : 0);
+static u16 Qualifiers(SDL_Keymod mod)
+{
+    return (mod & KMOD_SHIFT ? QUAL_SHIFT : 0) | (mod & KMOD_ALT ? QUAL_ALT : 0) | (mod & KMOD_CTRL ? QUAL_CONTROL : 0);
 }
 
 // The framebuffer and the texture at a new size, cleared. False when either can't be made.
-static int MakeFramebuffer(i32 width, i32 height) {
-    if (sdl.texture) SDL_DestroyTexture(sdl.texture);
+static int MakeFramebuffer(i32 width, i32 height)
+{
+    if (sdl.texture)
+        SDL_DestroyTexture(sdl.texture);
     FreeMem(sdl.pixels, (u32)sdl.width * sdl.height * 4);
     sdl.pixels = nullptr;
     sdl.width = sdl.height = 0;
     // 0x00BBGGRR little-endian is R, G, B, X in memory: SDL's XBGR8888, alpha unused.
-    sdl.texture = SDL_CreateTexture(sdl.renderer, SDL_PIXELFORMAT_XBGR8888, SDL_TEXTUREACCESS_STREAMING,
-                                    width, height);
-    if (!sdl.texture) return 0;
+    sdl.texture = SDL_CreateTexture(sdl.renderer, SDL_PIXELFORMAT_XBGR8888, SDL_TEXTUREACCESS_STREAMING, width, height);
+    if (!sdl.texture)
+        return 0;
     SDL_SetTextureBlendMode(sdl.texture, SDL_BLENDMODE_NONE);
     sdl.pixels = (u32 *)AllocMemC((u32)width * height * 4);
-    if (!sdl.pixels) return 0;
+    if (!sdl.pixels)
+        return 0;
     sdl.width = width;
     sdl.height = height;
     return 1;
 }
 
-static void SdlClose(void) {
+static void SdlClose(void)
+{
     for (SDL_Cursor *&cursor : sdl.cursors) {
-        if (cursor) SDL_FreeCursor(cursor);
+        if (cursor)
+            SDL_FreeCursor(cursor);
         cursor = nullptr;
     }
-    if (sdl.texture) SDL_DestroyTexture(sdl.texture);
-    if (sdl.renderer) SDL_DestroyRenderer(sdl.renderer);
-    if (sdl.window) SDL_DestroyWindow(sdl.window);
+    if (sdl.texture)
+        SDL_DestroyTexture(sdl.texture);
+    if (sdl.renderer)
+        SDL_DestroyRenderer(sdl.renderer);
+    if (sdl.window)
+        SDL_DestroyWindow(sdl.window);
     FreeMem(sdl.pixels, (u32)sdl.width * sdl.height * 4);
-    if (sdl.video_started) SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    if (sdl.video_started)
+        SDL_QuitSubSystem(SDL_INIT_VIDEO);
     sdl.video_started = 0;
     sdl.texture = nullptr;
     sdl.renderer = nullptr;
@@ -91,8 +104,10 @@ static void SdlClose(void) {
 
 // Only video is started (audio is slow and noisy), the renderer has no vsync (it would pin a turn
 // to a frame), and text input is on from the start.
-static int SdlOpen(i16 width, i16 height, const char *title) {
-    if (sdl.video_started) SdlClose();
+static int SdlOpen(i16 width, i16 height, const char *title)
+{
+    if (sdl.video_started)
+        SdlClose();
     SDL_SetHint(SDL_HINT_RENDER_VSYNC, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
@@ -100,10 +115,12 @@ static int SdlOpen(i16 width, i16 height, const char *title) {
         return 0;
     }
     sdl.video_started = 1;
-    sdl.window = SDL_CreateWindow(title ? title : "", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width,
-                                  height, SDL_WINDOW_RESIZABLE);
-    if (sdl.window) sdl.renderer = SDL_CreateRenderer(sdl.window, -1, 0);
-    if (sdl.window && !sdl.renderer) sdl.renderer = SDL_CreateRenderer(sdl.window, -1, SDL_RENDERER_SOFTWARE);
+    sdl.window = SDL_CreateWindow(title ? title : "", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width, height,
+                                  SDL_WINDOW_RESIZABLE);
+    if (sdl.window)
+        sdl.renderer = SDL_CreateRenderer(sdl.window, -1, 0);
+    if (sdl.window && !sdl.renderer)
+        sdl.renderer = SDL_CreateRenderer(sdl.window, -1, SDL_RENDERER_SOFTWARE);
     if (!sdl.renderer || !MakeFramebuffer(width, height)) {
         myprintf(0, "The SDL window of %d by %d can't be opened: %s\n", width, height, SDL_GetError());
         SdlClose();
@@ -114,7 +131,8 @@ static int SdlOpen(i16 width, i16 height, const char *title) {
     return 1;
 }
 
-static u32 *SdlPixels(i32 *width, i32 *height, i32 *pitch) {
+static u32 *SdlPixels(i32 *width, i32 *height, i32 *pitch)
+{
     *width = sdl.width;
     *height = sdl.height;
     *pitch = sdl.width;
@@ -124,20 +142,27 @@ static u32 *SdlPixels(i32 *width, i32 *height, i32 *pitch) {
 // The toolkit key of a key press, or 0 for a press that gives none: a plain character is left to
 // its text event, but Control with a letter gives its control key and Alt with a character the
 // character, so that menus open on Alt and a letter.
-static u16 KeyOfPress(const SDL_Keysym *keysym, u16 qualifiers) {
+static u16 KeyOfPress(const SDL_Keysym *keysym, u16 qualifiers)
+{
     for (const auto &special : special_keys)
-        if (special.sym == keysym->sym) return special.key;
+        if (special.sym == keysym->sym)
+            return special.key;
     SDL_Keycode sym = keysym->sym;
-    if (sym < ' ' || sym > '~') return 0;
-    if ((qualifiers & QUAL_CONTROL) && sym >= 'a' && sym <= 'z') return (u16)KEY_CTRL(sym - 'a' + 'A');
-    if (qualifiers & (QUAL_CONTROL | QUAL_ALT)) return (u16)sym;
+    if (sym < ' ' || sym > '~')
+        return 0;
+    if ((qualifiers & QUAL_CONTROL) && sym >= 'a' && sym <= 'z')
+        return (u16)KEY_CTRL(sym - 'a' + 'A');
+    if (qualifiers & (QUAL_CONTROL | QUAL_ALT))
+        return (u16)sym;
     return 0;
 }
 
 // Turns one SDL event into `event`; false for an event the toolkit has no use for.
 // What becomes of the display window's own events: focus, exposure, a new size.
-static int TranslateWindowEvent(const SDL_WindowEvent *in, T_INPUT_EVENT *event) {
-    if (in->event == SDL_WINDOWEVENT_FOCUS_GAINED) sdl.mod = SDL_GetModState();
+static int TranslateWindowEvent(const SDL_WindowEvent *in, T_INPUT_EVENT *event)
+{
+    if (in->event == SDL_WINDOWEVENT_FOCUS_GAINED)
+        sdl.mod = SDL_GetModState();
     switch (in->event) {
     case SDL_WINDOWEVENT_FOCUS_LOST:
         event->kind = INPUT_FOCUS_LOST;
@@ -149,10 +174,10 @@ static int TranslateWindowEvent(const SDL_WindowEvent *in, T_INPUT_EVENT *event)
         event->kind = INPUT_EXPOSED;
         return 1;
     case SDL_WINDOWEVENT_SIZE_CHANGED:
-        if (in->data1 == sdl.width && in->data2 == sdl.height) return 0;
+        if (in->data1 == sdl.width && in->data2 == sdl.height)
+            return 0;
         if (!MakeFramebuffer(in->data1, in->data2)) {
-            myprintf(0, "The SDL window can't be resized to %d by %d: %s\n", in->data1, in->data2,
-                     SDL_GetError());
+            myprintf(0, "The SDL window can't be resized to %d by %d: %s\n", in->data1, in->data2, SDL_GetError());
             return 0;
         }
         event->kind = INPUT_RESIZE;
@@ -164,7 +189,8 @@ static int TranslateWindowEvent(const SDL_WindowEvent *in, T_INPUT_EVENT *event)
     }
 }
 
-static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event) {
+static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event)
+{
     memset(event, 0, sizeof *event);
     switch (in->type) {
     case SDL_MOUSEMOTION:
@@ -181,7 +207,8 @@ static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event) {
         break;
     case SDL_MOUSEWHEEL: {  // up +1, down -1, at the pointer; sideways scrolling is dropped
         i32 steps = in->wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -in->wheel.y : in->wheel.y;
-        if (steps == 0) return 0;
+        if (steps == 0)
+            return 0;
         int x, y;
         SDL_GetMouseState(&x, &y);
         event->kind = INPUT_WHEEL;
@@ -197,11 +224,13 @@ static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event) {
         sdl.mod = (SDL_Keymod)in->key.keysym.mod;
         event->qualifiers = Qualifiers(sdl.mod);
         event->key = KeyOfPress(&in->key.keysym, event->qualifiers);
-        if (!event->key) return 0;
+        if (!event->key)
+            return 0;
         event->kind = INPUT_KEY_DOWN;
         return 1;
     case SDL_TEXTINPUT:  // Alt or Control with a key still types with SDL: that text is dropped
-        if (Qualifiers(sdl.mod) & (QUAL_ALT | QUAL_CONTROL)) return 0;
+        if (Qualifiers(sdl.mod) & (QUAL_ALT | QUAL_CONTROL))
+            return 0;
         event->kind = INPUT_TEXT;
         snprintf(event->text, sizeof event->text, "%s", in->text.text);
         return 1;
@@ -222,63 +251,82 @@ static int TranslateEvent(const SDL_Event *in, T_INPUT_EVENT *event) {
     return 1;
 }
 
-static int SdlPoll(T_INPUT_EVENT *event) {
+static int SdlPoll(T_INPUT_EVENT *event)
+{
     SDL_Event in;
     while (sdl.window && SDL_PollEvent(&in))
-        if (TranslateEvent(&in, event)) return 1;
+        if (TranslateEvent(&in, event))
+            return 1;
     return 0;
 }
 
-static void SdlPresent(void) {
-    if (!sdl.texture) return;
+static void SdlPresent(void)
+{
+    if (!sdl.texture)
+        return;
     SDL_UpdateTexture(sdl.texture, nullptr, sdl.pixels, sdl.width * 4);
     SDL_RenderCopy(sdl.renderer, sdl.texture, nullptr, nullptr);
     SDL_RenderPresent(sdl.renderer);
 }
 
-static u32 SdlTicks(void) {
+static u32 SdlTicks(void)
+{
     return SDL_GetTicks();
 }
 
-static void SdlWait(u32 ms) {
+static void SdlWait(u32 ms)
+{
     SDL_Delay(ms);
 }
 
-static void SdlWaitForInput(u32 ms) {
+static void SdlWaitForInput(u32 ms)
+{
     SDL_WaitEventTimeout(nullptr, (int)ms);  // the event stays queued for the next poll
 }
 
-static void SdlSetCursor(u16 image) {
+static void SdlSetCursor(u16 image)
+{
     SDL_SystemCursor which = SDL_SYSTEM_CURSOR_ARROW;
     for (const auto &entry : cursor_images)
-        if (entry.image == image) which = entry.cursor;
-    if (!sdl.cursors[which]) sdl.cursors[which] = SDL_CreateSystemCursor(which);
-    if (sdl.cursors[which]) SDL_SetCursor(sdl.cursors[which]);
+        if (entry.image == image)
+            which = entry.cursor;
+    if (!sdl.cursors[which])
+        sdl.cursors[which] = SDL_CreateSystemCursor(which);
+    if (sdl.cursors[which])
+        SDL_SetCursor(sdl.cursors[which]);
 }
 
-static void SdlSetMouseRect(const T_RPOS *rect) {
-    if (!sdl.window) return;
+static void SdlSetMouseRect(const T_RPOS *rect)
+{
+    if (!sdl.window)
+        return;
     SDL_Rect area;
-    if (rect) area = {rect->x, rect->y, rect->w, rect->h};
+    if (rect)
+        area = {rect->x, rect->y, rect->w, rect->h};
     SDL_SetWindowMouseRect(sdl.window, rect ? &area : nullptr);
 }
 
-static void SdlWarpMouse(i16 x, i16 y) {
-    if (sdl.window) SDL_WarpMouseInWindow(sdl.window, x, y);
+static void SdlWarpMouse(i16 x, i16 y)
+{
+    if (sdl.window)
+        SDL_WarpMouseInWindow(sdl.window, x, y);
 }
 
 // Read from the key events in the order taken, not from the keyboard now: the toolkit asks while it
 // handles events that may be older than what the keyboard holds.
-static u16 SdlQualifiers(void) {
+static u16 SdlQualifiers(void)
+{
     return Qualifiers(sdl.mod);
 }
 
 // SDL gives the clipboard's text in a block of its own: a copy is kept and the block goes back.
-static int SdlSetClipboard(const char *text) {
+static int SdlSetClipboard(const char *text)
+{
     return SDL_SetClipboardText(text ? text : "") == 0;
 }
 
-static const char *SdlGetClipboard(void) {
+static const char *SdlGetClipboard(void)
+{
     static std::string kept;
     char *text = SDL_HasClipboardText() ? SDL_GetClipboardText() : nullptr;
     kept = text ? text : "";
@@ -286,20 +334,26 @@ static const char *SdlGetClipboard(void) {
     return kept.c_str();
 }
 
+// clang-format off
 const T_DISPLAY_BACKEND display_sdl = {
     "sdl",        SdlOpen,         SdlClose,     SdlPixels, SdlPoll,      SdlPresent,
     SdlTicks,     SdlWait,         SdlSetCursor, SdlSetMouseRect, SdlWarpMouse, SdlQualifiers,
     SdlWaitForInput, SdlSetClipboard, SdlGetClipboard,
 };
+// clang-format on
 
 // A program built on a page titles its window with the page's name and gives it the page's size;
 // the size arrives as a resize event, so the framebuffer follows as for a resize by the user.
-void SdlSetTitle(const char *title) {
-    if (sdl.window) SDL_SetWindowTitle(sdl.window, title ? title : "");
+void SdlSetTitle(const char *title)
+{
+    if (sdl.window)
+        SDL_SetWindowTitle(sdl.window, title ? title : "");
 }
 
-void SdlSetSize(i16 width, i16 height) {
-    if (!sdl.window) return;
+void SdlSetSize(i16 width, i16 height)
+{
+    if (!sdl.window)
+        return;
     SDL_SetWindowSize(sdl.window, width, height);
     SDL_SetWindowPosition(sdl.window, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
 }

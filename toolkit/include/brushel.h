@@ -10,7 +10,7 @@ typedef struct T_FONT {
     T_NODE_FIELDS(struct T_FONT);  // name: the file name
     char path[FONT_PATH_SIZE];     // the file it was loaded from
     u16 pixel_size;
-    u16 height;    // line height in pixels
+    u16 height;  // line height in pixels
     u16 ascent;
     void *faces[4];  // by style: regular, bold, italics, bold italics (null where missing)
     void *caches[4];
@@ -26,8 +26,8 @@ typedef struct T_TEXTURE_BANK {
 
 typedef struct T_FONT_BASE {
     T_FONT *active_font;
-    u16 style;        // 1 bold, 2 italics
-    t_List fonts;     // resources of type 460, by file name
+    u16 style;                      // 1 bold, 2 italics
+    t_List fonts;                   // resources of type 460, by file name
     char font_dir[FONT_PATH_SIZE];  // where fonts named by file name are found first
 } T_FONT_BASE;
 
@@ -35,7 +35,7 @@ extern T_FONT_BASE *_FontBase;
 
 // The surface drawn on: the display's framebuffer, or an off-screen one in tests.
 typedef struct T_SURFACE {
-    u32 *pixels;  // 0x00BBGGRR per pixel
+    u32 *pixels;               // 0x00BBGGRR per pixel
     i32 width, height, pitch;  // pitch in pixels
 } T_SURFACE;
 
@@ -117,8 +117,7 @@ typedef struct T_ICON_DRAWING {
 } T_ICON_DRAWING;
 // A bank of `count` icons of size by size, each row of `drawings` drawn into its place; null when
 // the bank can't be made (Brushel logs why).
-T_TEXTURE_BANK *DrawIconBank(const char *name, u16 count, u16 size, const T_ICON_DRAWING *drawings,
-                             u32 drawing_count);
+T_TEXTURE_BANK *DrawIconBank(const char *name, u16 count, u16 size, const T_ICON_DRAWING *drawings, u32 drawing_count);
 
 T_ICON_CANVAS IconCanvas(T_TEXTURE_BANK *bank, u16 icon);
 void IconPlot(T_ICON_CANVAS *canvas, i32 x, i32 y, u32 colour);

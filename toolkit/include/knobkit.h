@@ -14,7 +14,7 @@ typedef struct T_SLIDER_DATA {
 // A scroll bar's `class_data`.
 typedef struct T_SCROLLBAR_DATA {
     i32 min, max;
-    u16 init_val;  // the value
+    u16 init_val;    // the value
     i16 mark_width;  // the visible part, in the scroll bar's units
 } T_SCROLLBAR_DATA;
 
@@ -24,8 +24,8 @@ typedef struct T_SCROLLBAR_DATA {
 // A list entry, or a tree entry with its children.
 typedef struct T_LIST_ENTRY {
     T_NODE_FIELDS(struct T_LIST_ENTRY);  // name: the text (in the entry's own block)
-    t_List children;  // a tree's branches
-    u16 open;         // a tree entry shows its children
+    t_List children;                     // a tree's branches
+    u16 open;                            // a tree entry shows its children
     u16 level;
     void *user_data;
 } T_LIST_ENTRY;
@@ -36,10 +36,10 @@ typedef struct T_LIST_DATA {
     t_List entries;  // T_LIST_ENTRY, or a combo's gadgets
     t_gadget *gadget;
     u8 resized_flags;
-    i32 top;       // first visible row (lists), or scroll offset in pixels (combos, x in top_x)
+    i32 top;  // first visible row (lists), or scroll offset in pixels (combos, x in top_x)
     i32 top_x;
-    i32 selected;  // selected row, -1 for none
-    i32 rows;      // visible rows, worked out at each paint
+    i32 selected;                   // selected row, -1 for none
+    i32 rows;                       // visible rows, worked out at each paint
     t_gadget *scroll_v, *scroll_h;  // a combo's scroll bars
     i32 content_w, content_h;
 } T_LIST_DATA;

@@ -31,9 +31,9 @@ typedef void (*T_MOUSE_MOVE_FN)(struct t_Window *window, void *data);
 
 // --- Windows -------------------------------------------------------------------------------------
 typedef struct t_Window {
-    T_NODE_FIELDS(struct t_Window);  // name: the title
-    u16 state;                        // WINDOW_STATE_OPEN while it stands as a window
-    i16 x, y, w, h;                   // frame, absolute
+    T_NODE_FIELDS(struct t_Window);      // name: the title
+    u16 state;                           // WINDOW_STATE_OPEN while it stands as a window
+    i16 x, y, w, h;                      // frame, absolute
     i16 user_x, user_y, user_w, user_h;  // user area, absolute
     t_List handlers;
     union {
@@ -59,8 +59,8 @@ typedef struct t_Window {
     u16 cascade_start;     // the first cascade place: clear of a toolbar in the window
     // The toolkit's own:
     T_MESSAGE_FN message;
-    char *hover_title;  // the title bar's hover text (owned copy), or null
-    u16 title_height;   // 0 without a title bar
+    char *hover_title;    // the title bar's hover text (owned copy), or null
+    u16 title_height;     // 0 without a title bar
     T_RPOS restore_rect;  // the place before maximising
     u32 turn_depth_at_removal;
 } t_Window;
@@ -103,9 +103,9 @@ typedef struct T_DISPLAY_RECORD {
 // The display's window class handler, the first argument of CreateObject for windows.
 typedef struct T_WINDOW_CLASS {
     t_Handler head;
-    u32 refresh_request;         // set where a change needs all windows redrawn
-    t_Window *current_window;    // the window with the input focus
-    t_List windows;              // the top-level windows, back to front
+    u32 refresh_request;       // set where a change needs all windows redrawn
+    t_Window *current_window;  // the window with the input focus
+    t_List windows;            // the top-level windows, back to front
 } T_WINDOW_CLASS;
 
 typedef struct T_DISPLAY {
@@ -131,9 +131,10 @@ extern T_LUMORA_BASE *_LumoraBase;
 #define DISPLAY_RECORD (CURRENT_DISPLAY->record)
 
 // extra_flags bits of the toolkit's own.
-#define WEX_POPUP 0x100  // a popup (an open menu): drawn above all other windows, no frame; while
-                         // one is open, a press outside it goes first to its handlers as event
-                         // HANDLER_EVENT_OUTSIDE, and a nonzero answer takes the press
+// A popup (an open menu): drawn above all other windows, no frame; while one is open, a press
+// outside it goes first to its handlers as event HANDLER_EVENT_OUTSIDE, and a nonzero answer takes
+// the press.
+#define WEX_POPUP 0x100
 
 // The data of ACT_RECEIVE_OBJECT with item code DROPPED_FILE_ITEM_CODE: a file dropped from the
 // desktop.
@@ -151,9 +152,9 @@ void WindowToBack(t_Window *window);
 // their free_fn when the toolkit frees it, once no loop turn is on the stack.
 void RemoveWindow(t_Window *window);
 void ResizeWindow(t_Window *window, T_RPOS *rect);
-T_RPOS UserArea(const t_Window *window);  // the user area, absolute
+T_RPOS UserArea(const t_Window *window);        // the user area, absolute
 void ResizeWindowToContents(t_Window *window);  // the frame around the gadgets, with a margin
-void RecalcUserSize(t_Window *window);  // user area from the frame, then the gadgets' places
+void RecalcUserSize(t_Window *window);          // user area from the frame, then the gadgets' places
 u32 SendWindowMessage(t_Window *window, u32 item_code, u32 msg, void *data);  // direct call
 // Queues a message for delivery in the next turn when the window's mask enables it.
 void PostWindowMessage(t_Window *window, u32 item_code, u32 msg, void *data);
@@ -161,7 +162,7 @@ void SetWindowBitmap(t_Window *window, const char *name);  // null or "" clears
 void SetTitleBarHoverTitle(t_Window *window, const char *text);
 t_Handler *NewBorderHandler(t_Window *window);
 t_Handler *NewTitleBarHandler(t_Window *window);
-int IsWindowLive(t_Window *window);  // not removed
+int IsWindowLive(t_Window *window);                              // not removed
 t_Window *FindWindowByName(t_Window *parent, const char *name);  // null parent: top level
 
 // --- Mouse ---------------------------------------------------------------------------------------
@@ -214,14 +215,14 @@ typedef struct t_gadget {
     struct t_Gaget_Handler *handler;
     t_Window *window;
     u16 icon;
-    u16 gadget_state;  // GSTATE_ bits
-    i32 value;         // a slider's or scroll bar's value, a string's cursor
-    i32 select_from;   // a string's selection anchor
-    i32 scroll;        // first visible character / entry
-    i16 max_chars;     // a string's maximum length
-    void *data;        // the init record's data
+    u16 gadget_state;               // GSTATE_ bits
+    i32 value;                      // a slider's or scroll bar's value, a string's cursor
+    i32 select_from;                // a string's selection anchor
+    i32 scroll;                     // first visible character / entry
+    i16 max_chars;                  // a string's maximum length
+    void *data;                     // the init record's data
     struct t_gadget *parent_combo;  // the combo that holds the gadget, or null
-    char *own_name;  // the toolkit's copy of the creation name (the owner may repoint name)
+    char *own_name;                 // the toolkit's copy of the creation name (the owner may repoint name)
 } t_gadget;
 
 typedef t_gadget T_GADGET;
@@ -303,8 +304,8 @@ void FreeGadget(t_gadget *gadget);
 #define MSGBOX_GLYPH_ERROR 16
 #define MSGBOX_GLYPH_QUESTION 32
 #define MSGBOX_GLYPH_INFO 64
-#define MSGBOX_ERROR (MSGBOX_GLYPH_ERROR | MSGBOX_BUTTONS_OK)                      // 16
-#define MSGBOX_INFO (MSGBOX_GLYPH_INFO | MSGBOX_BUTTONS_OK)                        // 64
+#define MSGBOX_ERROR (MSGBOX_GLYPH_ERROR | MSGBOX_BUTTONS_OK)                   // 16
+#define MSGBOX_INFO (MSGBOX_GLYPH_INFO | MSGBOX_BUTTONS_OK)                     // 64
 #define MSGBOX_QUESTION (MSGBOX_GLYPH_QUESTION | MSGBOX_BUTTONS_YES_NO_CANCEL)  // 35
 // Opens a message box as a child of `parent` and returns at once; the answer reaches the parent
 // with `item_code`. Styles: MSGBOX_ERROR, MSGBOX_INFO ("OK"); MSGBOX_QUESTION: "Yes" (OK), "No"
@@ -312,8 +313,8 @@ void FreeGadget(t_gadget *gadget);
 t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 style, u32 item_code);
 // The same with the buttons' labels given, in the style's order; a null `labels`, or a null
 // label, keeps the style's own.
-t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style,
-                          u32 item_code, const char *const *labels);
+t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style, u32 item_code,
+                          const char *const *labels);
 void SetMessageBoxIcon(t_Window *box, struct T_TEXTURE_BANK *bank, u16 icon);
 
 typedef struct T_PROGRESS_BAR T_PROGRESS_BAR;
@@ -339,8 +340,8 @@ typedef struct T_UNDO_LIST {
 
 void InitUndoList(T_UNDO_LIST *list, const char *name);
 // Drops the redo half, appends a node with a cleared block of data_size bytes and returns it.
-T_UNDO_NODE *AddUndoNode(T_UNDO_LIST *list, T_UNDO_FN redo, T_UNDO_FN undo, T_UNDO_FN third,
-                         u32 data_size, const char *label);
+T_UNDO_NODE *AddUndoNode(T_UNDO_LIST *list, T_UNDO_FN redo, T_UNDO_FN undo, T_UNDO_FN third, u32 data_size,
+                         const char *label);
 void Undo(T_UNDO_LIST *list);
 void Redo(T_UNDO_LIST *list);
 int CanUndo(T_UNDO_LIST *list);
@@ -360,10 +361,10 @@ void EmptyUndoList(T_UNDO_LIST *list);
 
 typedef struct t_Menu {
     T_NODE_FIELDS(struct t_Menu);
-    char *label;           // what is shown
-    STRING label_string;   // owns the label
-    u16 menu_width;        // the entry's width
-    u16 detached_width;    // the width of this menu when it is open
+    char *label;          // what is shown
+    STRING label_string;  // owns the label
+    u16 menu_width;       // the entry's width
+    u16 detached_width;   // the width of this menu when it is open
     u32 menu_item_code;
     u16 menu_flags;
     u16 kind;

@@ -7,7 +7,7 @@ typedef struct T_APP_COMMAND {
     char *description;
     const char *group;
     u32 item_code;
-    u32 key;          // the key in force (the user's, or the default)
+    u32 key;  // the key in force (the user's, or the default)
     u32 default_key;
     u32 flags;
 } T_APP_COMMAND;
@@ -52,7 +52,7 @@ typedef struct T_TOOL_OBJECT {
 } T_TOOL_OBJECT;
 
 typedef struct T_MARSHALRY_BASE {
-    t_List resources;    // type 128: stored settings
+    t_List resources;  // type 128: stored settings
     t_List applications;
     t_List tool_objects;  // T_TOOL_OBJECT
 } T_MARSHALRY_BASE;
@@ -64,8 +64,8 @@ void FreeApplication(T_APPLICATION *application);
 t_Window *FindAppWindow(const char *name);  // a live top-level window of that name
 
 void SetAppCommandGroup(T_APPLICATION *app, const char *group);
-T_APP_COMMAND *RegisterAppCommand(T_APPLICATION *app, const char *name, const char *description,
-                                  u32 item_code, u32 key, u32 flags);
+T_APP_COMMAND *RegisterAppCommand(T_APPLICATION *app, const char *name, const char *description, u32 item_code, u32 key,
+                                  u32 flags);
 T_APP_COMMAND *FindAppCommandByKey(T_APPLICATION *app, u32 key);
 T_APP_COMMAND *FindAppCommandByCode(T_APPLICATION *app, u32 item_code);
 // Changes a command's key and stores the keys; false when another command has the key.
@@ -73,10 +73,9 @@ int SetAppCommandKey(T_APPLICATION *app, T_APP_COMMAND *command, u32 key);
 // Runs the command of a key message: sends ACT_MENU_PICK with its item code to `window`, or with
 // null to the top-level window of the window that has the input focus. Nonzero when one ran.
 u32 ExecuteAppCommand(T_APPLICATION *app, t_Window *window, T_KEY_MSG *key);
-t_Menu *AddApplicationCmdMenu(T_APPLICATION *app, T_MENU_HANDLER *handler, T_MENUOBJECTINIT *init,
-                              u32 item_code);
+t_Menu *AddApplicationCmdMenu(T_APPLICATION *app, T_MENU_HANDLER *handler, T_MENUOBJECTINIT *init, u32 item_code);
 t_Window *OpenApplicationCmdEditWindow(t_Window *parent, T_APPLICATION *app);
-#define KEY_NAME_SIZE 16  // a key name's buffer: the longest name and its end
+#define KEY_NAME_SIZE 16                     // a key name's buffer: the longest name and its end
 const char *KeyName(u32 key, char *buffer);  // "Ctrl+O", "F10", "Delete"...; buffer of KEY_NAME_SIZE
 // Reads a key spec: "ctrl+s", "alt+f4", "escape", "f10", "shift+tab", "a", "delete"... (case and
 // spaces do not count); false when unknown.
@@ -84,8 +83,7 @@ int ParseKeyName(const char *name, u16 *key, u16 *qualifiers);
 
 void AddRecentFileType(T_APPLICATION *app, u32 type, u32 limit);
 void AddRecentFile(T_APPLICATION *app, const char *path, u32 type);
-void AddRecentFilesToMenu(T_MENU_HANDLER *handler, t_Menu *menu, T_APPLICATION *app, u32 type,
-                          u32 item_code);
+void AddRecentFilesToMenu(T_MENU_HANDLER *handler, t_Menu *menu, T_APPLICATION *app, u32 type, u32 item_code);
 
 void AddToolSetupObject(T_TOOL_SETUP *setup, t_Window *window, u32 a, u32 b);
 void ReadToolConfig(T_TOOL_SETUP *setup, void *config);

@@ -7,13 +7,13 @@
 
 // --- Base record ---------------------------------------------------------------------------------
 #define OSTRAND_TEXT_BUFFER_SIZE 4096
-#define FILE_PATH_SIZE 1024  // a path buffer of the file and path operations: 1023 characters
-#define READ_LINE_SIZE 1024  // a line buffer of ReadLine: a longer line is cut there
+#define FILE_PATH_SIZE 1024     // a path buffer of the file and path operations: 1023 characters
+#define READ_LINE_SIZE 1024     // a line buffer of ReadLine: a longer line is cut there
 #define RELATIVE_PATH_SIZE 256  // a stored file's path below the data root
-#define FILE_NAME_SIZE 256  // a file name without its folder
+#define FILE_NAME_SIZE 256      // a file name without its folder
 
 typedef struct T_OSTRAND_BASE {
-    u32 default_memory_type;                    // the type that AllocMemType gives by default
+    u32 default_memory_type;                     // the type that AllocMemType gives by default
     char text_buffer[OSTRAND_TEXT_BUFFER_SIZE];  // a shared buffer for formatting one message
     char data_root[FILE_PATH_SIZE];              // where MakePathFromSystem resolves, no trailing '/'
     int log_level;                               // myprintf prints levels up to this one
@@ -46,7 +46,7 @@ void SubNode(t_Node *node);  // unlinks the node from whatever list holds it
 void EmptyList(t_List *list, u32 node_size);
 void TransferList(t_List *to, t_List *from);  // moves all nodes of `from` to the end of `to`
 u32 CountListEntries(t_List *list);
-t_Node *FindFirstNode(t_Node *node);            // from any node (or the tail mark) to the first
+t_Node *FindFirstNode(t_Node *node);                // from any node (or the tail mark) to the first
 t_Node *FindNode(t_Node *first, const char *name);  // by name from `first` on; null if none
 t_Node *FindNodeByIndex(t_List *list, u32 index);
 // The first node whose u32 field at byte `offset` (offsetof) holds `value`; null if none.
@@ -64,7 +64,7 @@ char *MakeReadable(char *text);
 // The unsigned value of the hexadecimal digits at the start of `text`, up to the first
 // character that is no hexadecimal digit.
 u32 CalcHexNumber(const char *text);
-const char *FindV2SByCode(const T_VAL2STRING *table, u32 value);  // exact value; null if none
+const char *FindV2SByCode(const T_VAL2STRING *table, u32 value);   // exact value; null if none
 u32 FindV2SByString(const T_VAL2STRING *table, const char *text);  // whole text; 0 if none
 
 // --- Objects and handlers ------------------------------------------------------------------------
@@ -89,15 +89,15 @@ typedef struct t_Handler {
     T_HANDLER_INPUT input;
     T_HANDLER_PAINT paint;
     struct t_Window *window;
-    u32 size;  // the whole block, head included
-    u32 kind;  // HANDLER_KIND_
+    u32 size;      // the whole block, head included
+    u32 kind;      // HANDLER_KIND_
     t_List *list;  // the list that holds the handler
 } t_Handler;
 
 // Makes a handler of `size` bytes (at least the head), named `name`, puts it on `list` by
 // priority and returns it.
-t_Handler *NewHandler(t_List *list, T_HANDLER_INPUT input, T_HANDLER_PAINT paint, const char *name,
-                      i16 priority, u32 size, struct t_Window *window);
+t_Handler *NewHandler(t_List *list, T_HANDLER_INPUT input, T_HANDLER_PAINT paint, const char *name, i16 priority,
+                      u32 size, struct t_Window *window);
 void DelHandler(t_Handler *handler);  // unlinks and frees; sends event 1 first
 // Creates what the handler makes from `init`: a window (window class handler), a gadget or a list
 // entry (gadget handler), a menu entry (menu handler), a detached menu (detached-menu class).
@@ -150,11 +150,11 @@ int MakeEntireDirectory(const char *path);  // all levels; true when it exists a
 // A '\\' in a name given by the program is taken as a separator. Results are written into the
 // caller's buffer, which holds at least FILE_PATH_SIZE bytes, and returned. A result that would
 // not fit is refused, not cut: the buffer is left empty, null is returned and a line is logged.
-char *XGetPath(char *dest, const char *path);           // the directory of `path`, no separator
-char *StripPath(char *dest, const char *path);          // the file name with its extension
-char *StripPathAndExt(char *dest, const char *path);    // the file name without its extension
-char *AddBackSlashToPath(char *path);                   // adds the separator unless it ends in one
-int ExtensionExists(const char *path);                  // the file name has a '.'
+char *XGetPath(char *dest, const char *path);         // the directory of `path`, no separator
+char *StripPath(char *dest, const char *path);        // the file name with its extension
+char *StripPathAndExt(char *dest, const char *path);  // the file name without its extension
+char *AddBackSlashToPath(char *path);                 // adds the separator unless it ends in one
+int ExtensionExists(const char *path);                // the file name has a '.'
 char *MakeFilename(char *dest, const char *directory, const char *name);
 char *MakePathFromSystem(const char *relative);  // below the data root; a static buffer
 int IsAbsolutePath(const char *path);            // '/' first, or the drive form "X:\"
@@ -166,8 +166,7 @@ void myprintf(int level, const char *format, ...) __attribute__((format(printf, 
 // True when `condition` holds; else false, with an error line naming the file and line where it
 // did not. For what must hold but would otherwise fail silently: a fixed array that is full, a case
 // that cannot happen.
-#define QF_EXPECT(condition) \
-    ((condition) ? 1 : (myprintf(0, "%s:%d: expected %s", __FILE__, __LINE__, #condition), 0))
+#define QF_EXPECT(condition) ((condition) ? 1 : (myprintf(0, "%s:%d: expected %s", __FILE__, __LINE__, #condition), 0))
 
 // Sets the data root, creating it if needed; false when it can't be made or written.
 int SetDataRoot(const char *path);

@@ -19,11 +19,11 @@ typedef struct T_RPOS {
 
 // The first fields of every node; records that live on lists begin with these, in this order, so
 // that they can be walked as t_Node.
-#define T_NODE_FIELDS(T) \
-    T *next;             \
-    T *prev;             \
-    char *name;          \
-    i16 priority;        \
+#define T_NODE_FIELDS(T)                                                                                               \
+    T *next;                                                                                                           \
+    T *prev;                                                                                                           \
+    char *name;                                                                                                        \
+    i16 priority;                                                                                                      \
     u16 node_kind
 
 typedef struct t_Node {
@@ -70,10 +70,10 @@ typedef struct T_VAL2STRING {
 typedef struct T_RESOURCE {
     T_NODE_FIELDS(struct T_RESOURCE);
     u32 type;
-    void *data;       // the data block, allocated with AllocMemType and owned by the resource
-    u32 data_size;    // its size in bytes
-    u32 use_count;    // OpenResource adds one, RemoveResource takes one; freed at 0
-    void *object;     // the toolkit's own object behind a font or bitmap resource
+    void *data;     // the data block, allocated with AllocMemType and owned by the resource
+    u32 data_size;  // its size in bytes
+    u32 use_count;  // OpenResource adds one, RemoveResource takes one; freed at 0
+    void *object;   // the toolkit's own object behind a font or bitmap resource
     void (*free_object)(void *object);
 } T_RESOURCE;
 

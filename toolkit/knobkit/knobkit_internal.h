@@ -27,7 +27,7 @@ typedef struct T_SCROLL_RANGE {
     i32 min, max;
     i32 visible;  // the part shown; the thumb's share of the track
     i32 value;
-    i32 step;     // what an arrow moves
+    i32 step;  // what an arrow moves
 } T_SCROLL_RANGE;
 
 typedef struct T_SCROLL_PARTS {
@@ -48,8 +48,7 @@ i32 ScrollDrag(const T_SCROLL_PARTS *parts, const T_SCROLL_RANGE *range, i16 x, 
 // A scroll bar's own mouse behaviour for a bar drawn inside another gadget (a list's, a combo's):
 // press, drag and release on `parts`, changing range->value. The owner keeps GSTATE_ON_BAR and
 // GSTATE_ON_MARK in its gadget_state and the grab in `*grab`. True when the value changed.
-int ScrollBarTrack(u16 *state, i32 *grab, const T_SCROLL_PARTS *parts, T_SCROLL_RANGE *range,
-                   const T_MOUSE_MSG *msg);
+int ScrollBarTrack(u16 *state, i32 *grab, const T_SCROLL_PARTS *parts, T_SCROLL_RANGE *range, const T_MOUSE_MSG *msg);
 
 // The vertical scroll bar beside a list's rows (a list box's, a tree's, a drop box's open list):
 // at `bar`, w 0 when all the rows show and there is none, it scrolls `*top` through `count` rows
@@ -92,7 +91,7 @@ typedef struct T_LIST_LAYOUT {
     T_RPOS inner;  // where the rows stand
     T_RPOS bar;    // the vertical scroll bar; w 0 when the rows fit
     i16 row_h;
-    i32 count;     // rows in all
+    i32 count;  // rows in all
 } T_LIST_LAYOUT;
 
 // Measures the list (setting data->rows and clamping data->top), and clears the resize bit.

@@ -15,17 +15,25 @@
 #define WHEEL_ROWS 3    // a wheel notch scrolls this many rows
 #define ROW_TEXT_PAD 2  // before the text of a row
 
-static T_LIST_DATA *Data(t_gadget *g) { return (T_LIST_DATA *)g->class_data; }
-static int IsTree(t_gadget *g) { return g->type == GADGET_TYPE_TREE; }
+static T_LIST_DATA *Data(t_gadget *g)
+{
+    return (T_LIST_DATA *)g->class_data;
+}
+static int IsTree(t_gadget *g)
+{
+    return g->type == GADGET_TYPE_TREE;
+}
 
-void ListLayout(t_gadget *g, T_LIST_LAYOUT *l) {
+void ListLayout(t_gadget *g, T_LIST_LAYOUT *l)
+{
     T_LIST_DATA *d = Data(g);
     T_RPOS r = GadgetRect(g);
     l->inner = InsetRect(r, (g->live_flags & GADGET_FLAGS_NO_BORDER) ? 1 : 2);
     l->row_h = GadgetFontHeight(g) + ROW_EXTRA;
     l->count = CountRows(d, IsTree(g));
     i32 rows = l->inner.h / l->row_h;
-    if (rows < 1) rows = 1;
+    if (rows < 1)
+        rows = 1;
     l->bar = T_RPOS{0, 0, 0, 0};
     if (l->count > rows && l->inner.w > 2 * SCROLL_BAR_SIZE) {
         l->inner.w -= SCROLL_BAR_SIZE;
@@ -33,36 +41,47 @@ void ListLayout(t_gadget *g, T_LIST_LAYOUT *l) {
     }
     d->rows = rows;
     i32 last_top = l->count > rows ? l->count - rows : 0;
-    if (d->top > last_top) d->top = last_top;
-    if (d->top < 0) d->top = 0;
-    if (d->selected >= l->count) d->selected = l->count - 1;
+    if (d->top > last_top)
+        d->top = last_top;
+    if (d->top < 0)
+        d->top = 0;
+    if (d->selected >= l->count)
+        d->selected = l->count - 1;
     d->resized_flags &= ~(LIST_RESIZED | TREE_RESIZED);
 }
 
-i16 ListHeightForWholeRows(t_gadget *g, i16 height) {
+i16 ListHeightForWholeRows(t_gadget *g, i16 height)
+{
     i16 frame = 2 * ((g->live_flags & GADGET_FLAGS_NO_BORDER) ? 1 : 2);
     i16 row_h = GadgetFontHeight(g) + ROW_EXTRA;
     i16 rows = (height - frame) / row_h;
     return rows < 1 ? height : (i16)(frame + rows * row_h);
 }
 
-void ScrollRowIntoView(T_LIST_DATA *d, i32 row) {
-    if (row < 0) return;
-    if (row < d->top) d->top = row;
-    if (d->rows > 0 && row >= d->top + d->rows) d->top = row - d->rows + 1;
+void ScrollRowIntoView(T_LIST_DATA *d, i32 row)
+{
+    if (row < 0)
+        return;
+    if (row < d->top)
+        d->top = row;
+    if (d->rows > 0 && row >= d->top + d->rows)
+        d->top = row - d->rows + 1;
 }
 
-static T_ROW_BAR RowBar(t_gadget *g, const T_LIST_LAYOUT *l) {
+static T_ROW_BAR RowBar(t_gadget *g, const T_LIST_LAYOUT *l)
+{
     T_LIST_DATA *d = Data(g);
     return T_ROW_BAR{l->bar, l->count, d->rows, &d->top, &g->gadget_state, &g->select_from};
 }
 
-void DrawListRow(t_gadget *g, T_RPOS row, const char *text, int selected, int hot) {
+void DrawListRow(t_gadget *g, T_RPOS row, const char *text, int selected, int hot)
+{
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     u32 colour = GadgetTextColour(g);
     if (selected) {
         DrawRectangle(row.x, row.y, row.w, row.h, rec->select_colour);
-        if (!(g->live_flags & GADGET_FLAGS_DISABLED)) colour = rec->select_text_colour;
+        if (!(g->live_flags & GADGET_FLAGS_DISABLED))
+            colour = rec->select_text_colour;
     } else if (hot) {
         DrawRectangle(row.x, row.y, row.w, row.h, MixColour(rec->field_colour, rec->select_colour, 64));
     }
@@ -82,17 +101,21 @@ void DrawListRow(t_gadget *g, T_RPOS row, const char *text, int selected, int ho
     DrawText((i16)(row.x + row.w - ROW_TEXT_PAD - 2 - GetStringWidth(tab + 1)), ty, tab + 1, colour);
 }
 
-static void DrawTreeBox(T_RPOS box, int open, u32 colour) {
+static void DrawTreeBox(T_RPOS box, int open, u32 colour)
+{
     DrawRectangle(box.x, box.y, box.w, box.h, DISPLAY_RECORD->field_colour);
     DrawOutLineBox(box.x, box.y, box.w, box.h, DISPLAY_RECORD->gadget_dark_colour);
     i16 cx = box.x + box.w / 2, cy = box.y + box.h / 2;
     DrawLine(box.x + 2, cy, box.x + box.w - 3, cy, colour);
-    if (!open) DrawLine(cx, box.y + 2, cx, box.y + box.h - 3, colour);
+    if (!open)
+        DrawLine(cx, box.y + 2, cx, box.y + box.h - 3, colour);
 }
 
-void DrawListBoxGadget(t_gadget *g, int focused) {
+void DrawListBoxGadget(t_gadget *g, int focused)
+{
     T_LIST_DATA *d = Data(g);
-    if (!d) return;
+    if (!d)
+        return;
     DrawFieldBackground(g, GadgetRect(g));
     int disabled = (g->live_flags & GADGET_FLAGS_DISABLED) != 0;
     T_LIST_LAYOUT l;
@@ -101,12 +124,14 @@ void DrawListBoxGadget(t_gadget *g, int focused) {
     if (PushClip(l.inner, &saved)) {
         T_ROW_WALK walk;
         FirstRow(&walk, d, IsTree(g));
-        for (i32 i = 0; i < d->top && walk.entry; i++) NextRow(&walk);
+        for (i32 i = 0; i < d->top && walk.entry; i++)
+            NextRow(&walk);
         for (i32 i = 0; i <= d->rows && walk.entry; i++, NextRow(&walk)) {
             T_RPOS row = {l.inner.x, (i16)(l.inner.y + i * l.row_h), l.inner.w, l.row_h};
             if (IsTree(g)) {  // indented by level, after the branch's +/- box
                 T_RPOS box = TreeBoxRect(g, row, walk.level);
-                if (HasChildren(walk.entry)) DrawTreeBox(box, walk.entry->open, GadgetTextColour(g));
+                if (HasChildren(walk.entry))
+                    DrawTreeBox(box, walk.entry->open, GadgetTextColour(g));
                 i16 indent = box.x + box.w + 1 - row.x;
                 row.x += indent, row.w -= indent;
             }
@@ -116,33 +141,42 @@ void DrawListBoxGadget(t_gadget *g, int focused) {
     }
     T_ROW_BAR bar = RowBar(g, &l);
     DrawRowBar(&bar, disabled);
-    if (focused) DrawGadgetFocus(g);
+    if (focused)
+        DrawGadgetFocus(g);
 }
 
 // The row under y, or -1 below the last.
-static i32 RowAt(T_LIST_DATA *d, const T_LIST_LAYOUT *l, i16 y) {
+static i32 RowAt(T_LIST_DATA *d, const T_LIST_LAYOUT *l, i16 y)
+{
     i32 row = d->top + (y - l->inner.y) / l->row_h;
-    if (y < l->inner.y) row = d->top - 1;
+    if (y < l->inner.y)
+        row = d->top - 1;
     return row >= 0 && row < l->count ? row : -1;
 }
 
-u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
+u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
+{
     (void)rect;
     T_LIST_DATA *d = Data(g);
-    if (!d) return 0;
+    if (!d)
+        return 0;
     T_LIST_LAYOUT l;
     ListLayout(g, &l);
     T_ROW_BAR bar = RowBar(g, &l);
-    if (RowBarMouse(&bar, m)) return 0;
+    if (RowBarMouse(&bar, m))
+        return 0;
     switch (m->mouse_action) {
     case ACT_LMOUSE_DOWN: {  // a tree's +/- box, or a row
         i32 row = RowAt(d, &l, m->y);
-        if (row < 0) return 0;
+        if (row < 0)
+            return 0;
         if (IsTree(g)) {
             u16 level;
             RowEntry(d, 1, row, &level);
-            T_RPOS box = TreeBoxRect(g, T_RPOS{l.inner.x, (i16)(l.inner.y + (row - d->top) * l.row_h), l.inner.w, l.row_h}, level);
-            if (PointBoxColl(m->x, m->y, &box) && TreeToggle(g, row)) return 0;
+            T_RPOS box = TreeBoxRect(
+                g, T_RPOS{l.inner.x, (i16)(l.inner.y + (row - d->top) * l.row_h), l.inner.w, l.row_h}, level);
+            if (PointBoxColl(m->x, m->y, &box) && TreeToggle(g, row))
+                return 0;
         }
         d->selected = row;
         g->gadget_state |= GSTATE_DRAGGING;
@@ -151,9 +185,12 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
     case ACT_MOUSE_MOVE:  // the selection follows; past the ends it scrolls
         if ((g->gadget_state & GSTATE_DRAGGING) && l.count > 0) {
             i32 row = d->top + (m->y - l.inner.y) / l.row_h;
-            if (m->y < l.inner.y) row = d->top - 1;
-            if (row < 0) row = 0;
-            if (row >= l.count) row = l.count - 1;
+            if (m->y < l.inner.y)
+                row = d->top - 1;
+            if (row < 0)
+                row = 0;
+            if (row >= l.count)
+                row = l.count - 1;
             d->selected = row;
             ScrollRowIntoView(d, row);
         }
@@ -162,8 +199,10 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         return EndGadgetPress(g) ? ACT_LMOUSE_UP : 0;
     case ACT_LMOUSE_DBL: {  // on the selected row: reported, and a branch opens or closes
         i32 row = RowAt(d, &l, m->y);
-        if (row < 0 || row != d->selected) return 0;
-        if (IsTree(g)) TreeToggle(g, row);
+        if (row < 0 || row != d->selected)
+            return 0;
+        if (IsTree(g))
+            TreeToggle(g, row);
         return ACT_LMOUSE_DBL;
     }
     case ACT_MOUSE_WHEEL_UP:
@@ -176,13 +215,16 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
     }
 }
 
-u32 ListBoxKey(t_gadget *g, u16 key, u16 qualifiers) {
+u32 ListBoxKey(t_gadget *g, u16 key, u16 qualifiers)
+{
     (void)qualifiers;
     T_LIST_DATA *d = Data(g);
-    if (!d) return 0;
+    if (!d)
+        return 0;
     T_LIST_LAYOUT l;
     ListLayout(g, &l);
-    if (l.count == 0) return 0;
+    if (l.count == 0)
+        return 0;
     i32 row = d->selected;
     switch (key) {
     case KEY_UP:
@@ -205,9 +247,11 @@ u32 ListBoxKey(t_gadget *g, u16 key, u16 qualifiers) {
         break;
     case KEY_RIGHT:  // a tree's branch opens, a list passes the key on
     case KEY_LEFT: {
-        if (!IsTree(g) || row < 0) return 0;
+        if (!IsTree(g) || row < 0)
+            return 0;
         T_LIST_ENTRY *e = RowEntry(d, 1, row, NULL);
-        if (e && HasChildren(e) && e->open == (key == KEY_LEFT)) TreeToggle(g, row);
+        if (e && HasChildren(e) && e->open == (key == KEY_LEFT))
+            TreeToggle(g, row);
         return GADGET_KEY_TAKEN;
     }
     case KEY_RETURN:
@@ -215,14 +259,17 @@ u32 ListBoxKey(t_gadget *g, u16 key, u16 qualifiers) {
     default:
         return 0;
     }
-    if (row >= l.count) row = l.count - 1;
-    if (row < 0) row = 0;
+    if (row >= l.count)
+        row = l.count - 1;
+    if (row < 0)
+        row = 0;
     d->selected = row;
     ScrollRowIntoView(d, row);
     return GADGET_KEY_TAKEN | ACT_LMOUSE_UP;
 }
 
-int ListBoxInit(t_gadget *g, const T_GADGETOBJECTINIT *init) {
+int ListBoxInit(t_gadget *g, const T_GADGETOBJECTINIT *init)
+{
     (void)init;
     return NewListData(g) != NULL;
 }

@@ -3,14 +3,15 @@
 // walk over the rows that a list shows, which for a tree goes into the open branches.
 #include "knobkit/knobkit_internal.h"
 
-static int HoldsListEntries(t_gadget *g) {
-    return g && (g->type == GADGET_TYPE_LIST_BOX || g->type == GADGET_TYPE_DROP_BOX ||
-                 g->type == GADGET_TYPE_TREE);
+static int HoldsListEntries(t_gadget *g)
+{
+    return g && (g->type == GADGET_TYPE_LIST_BOX || g->type == GADGET_TYPE_DROP_BOX || g->type == GADGET_TYPE_TREE);
 }
 
 // init->parent_gadget is the T_LIST_DATA that CreateObject gave for the list; the entry goes at
 // its end. Null (logged) for a holder of no list or when memory runs out.
-void *CreateListEntry(t_Gaget_Handler *handler, const char *name, T_GADGETOBJECTINIT *init) {
+void *CreateListEntry(t_Gaget_Handler *handler, const char *name, T_GADGETOBJECTINIT *init)
+{
     (void)handler;
     T_LIST_DATA *data = (T_LIST_DATA *)init->parent_gadget;
     if (!HoldsListEntries(data->gadget)) {
@@ -21,8 +22,10 @@ void *CreateListEntry(t_Gaget_Handler *handler, const char *name, T_GADGETOBJECT
 }
 
 // Null (logged) when memory runs out.
-T_LIST_ENTRY *NewBranch(t_List *list, T_LIST_ENTRY *after, const char *text, u32 flags) {
-    if (!list) return NULL;
+T_LIST_ENTRY *NewBranch(t_List *list, T_LIST_ENTRY *after, const char *text, u32 flags)
+{
+    if (!list)
+        return NULL;
     T_LIST_ENTRY *e = (T_LIST_ENTRY *)NewTail(list, sizeof(T_LIST_ENTRY), text ? text : "");
     if (!e) {
         myprintf(0, "NewBranch: no memory for the entry %s\n", text ? text : "");
@@ -40,8 +43,10 @@ T_LIST_ENTRY *NewBranch(t_List *list, T_LIST_ENTRY *after, const char *text, u32
     return e;
 }
 
-void FreeListEntries(t_List *entries) {
-    if (!entries) return;
+void FreeListEntries(t_List *entries)
+{
+    if (!entries)
+        return;
     while (!LIST_EMPTY(entries)) {
         T_LIST_ENTRY *e = (T_LIST_ENTRY *)entries->first;
         FreeListEntries(&e->children);
@@ -50,11 +55,16 @@ void FreeListEntries(t_List *entries) {
     }
 }
 
-int HasChildren(T_LIST_ENTRY *entry) { return !LIST_EMPTY(&entry->children); }
+int HasChildren(T_LIST_ENTRY *entry)
+{
+    return !LIST_EMPTY(&entry->children);
+}
 
-T_LIST_DATA *NewListData(t_gadget *gadget) {
+T_LIST_DATA *NewListData(t_gadget *gadget)
+{
     T_LIST_DATA *data = (T_LIST_DATA *)AllocMemC(sizeof(T_LIST_DATA));
-    if (!data) return NULL;
+    if (!data)
+        return NULL;
     InitList(&data->entries, "entries");
     data->gadget = gadget;
     data->selected = -1;
@@ -62,9 +72,11 @@ T_LIST_DATA *NewListData(t_gadget *gadget) {
     return data;
 }
 
-void FreeListData(t_gadget *gadget) {
+void FreeListData(t_gadget *gadget)
+{
     T_LIST_DATA *data = (T_LIST_DATA *)gadget->class_data;
-    if (!data) return;
+    if (!data)
+        return;
     FreeListEntries(&data->entries);
     FreeMem(data, sizeof(T_LIST_DATA));
     gadget->class_data = 0;
@@ -72,21 +84,26 @@ void FreeListData(t_gadget *gadget) {
 
 // --- Rows ------------------------------------------------------------------------------------------
 
-static void Arrive(T_ROW_WALK *walk, T_LIST_ENTRY *entry) {
+static void Arrive(T_ROW_WALK *walk, T_LIST_ENTRY *entry)
+{
     walk->entry = entry;
-    if (entry) entry->level = walk->level;
+    if (entry)
+        entry->level = walk->level;
 }
 
-void FirstRow(T_ROW_WALK *walk, T_LIST_DATA *data, int tree) {
+void FirstRow(T_ROW_WALK *walk, T_LIST_DATA *data, int tree)
+{
     walk->tree = tree;
     walk->level = 0;
     Arrive(walk, LIST_EMPTY(&data->entries) ? NULL : (T_LIST_ENTRY *)data->entries.first);
 }
 
 // Depth first: into an open branch, else to the next sibling of the nearest level that has one.
-void NextRow(T_ROW_WALK *walk) {
+void NextRow(T_ROW_WALK *walk)
+{
     T_LIST_ENTRY *e = walk->entry;
-    if (!e) return;
+    if (!e)
+        return;
     if (walk->tree && e->open && HasChildren(e) && walk->level < TREE_MAX_DEPTH) {
         walk->stack[walk->level++] = e;
         Arrive(walk, (T_LIST_ENTRY *)e->children.first);
@@ -105,27 +122,36 @@ void NextRow(T_ROW_WALK *walk) {
     }
 }
 
-i32 CountRows(T_LIST_DATA *data, int tree) {
-    if (!tree) return (i32)CountListEntries(&data->entries);
+i32 CountRows(T_LIST_DATA *data, int tree)
+{
+    if (!tree)
+        return (i32)CountListEntries(&data->entries);
     T_ROW_WALK walk;
     i32 n = 0;
-    for (FirstRow(&walk, data, tree); walk.entry; NextRow(&walk)) n++;
+    for (FirstRow(&walk, data, tree); walk.entry; NextRow(&walk))
+        n++;
     return n;
 }
 
-T_LIST_ENTRY *RowEntry(T_LIST_DATA *data, int tree, i32 row, u16 *level) {
-    if (row < 0) return NULL;
+T_LIST_ENTRY *RowEntry(T_LIST_DATA *data, int tree, i32 row, u16 *level)
+{
+    if (row < 0)
+        return NULL;
     T_ROW_WALK walk;
     FirstRow(&walk, data, tree);
-    for (i32 i = 0; i < row && walk.entry; i++) NextRow(&walk);
-    if (level) *level = walk.level;
+    for (i32 i = 0; i < row && walk.entry; i++)
+        NextRow(&walk);
+    if (level)
+        *level = walk.level;
     return walk.entry;
 }
 
-i32 RowOfEntry(T_LIST_DATA *data, int tree, T_LIST_ENTRY *entry) {
+i32 RowOfEntry(T_LIST_DATA *data, int tree, T_LIST_ENTRY *entry)
+{
     T_ROW_WALK walk;
     i32 row = 0;
     for (FirstRow(&walk, data, tree); walk.entry; NextRow(&walk), row++)
-        if (walk.entry == entry) return row;
+        if (walk.entry == entry)
+            return row;
     return -1;
 }

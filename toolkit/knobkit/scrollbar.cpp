@@ -10,21 +10,31 @@
 
 #define THUMB_MIN 8  // the thumb never gets shorter than this
 
-static i32 Top(const T_SCROLL_RANGE *r) {
+static i32 Top(const T_SCROLL_RANGE *r)
+{
     i32 top = r->max - (r->visible > 0 ? r->visible : 0);
     return top < r->min ? r->min : top;
 }
 
-i32 ClampScroll(const T_SCROLL_RANGE *r, i32 value) {
-    if (value > Top(r)) value = Top(r);
+i32 ClampScroll(const T_SCROLL_RANGE *r, i32 value)
+{
+    if (value > Top(r))
+        value = Top(r);
     return value < r->min ? r->min : value;
 }
 
 // Along the bar: the start and length of a rectangle.
-static i32 Start(const T_SCROLL_PARTS *p, const T_RPOS &r) { return p->horizontal ? r.x : r.y; }
-static i32 Len(const T_SCROLL_PARTS *p, const T_RPOS &r) { return p->horizontal ? r.w : r.h; }
+static i32 Start(const T_SCROLL_PARTS *p, const T_RPOS &r)
+{
+    return p->horizontal ? r.x : r.y;
+}
+static i32 Len(const T_SCROLL_PARTS *p, const T_RPOS &r)
+{
+    return p->horizontal ? r.w : r.h;
+}
 
-void ScrollParts(T_RPOS r, int horizontal, const T_SCROLL_RANGE *range, T_SCROLL_PARTS *p) {
+void ScrollParts(T_RPOS r, int horizontal, const T_SCROLL_RANGE *range, T_SCROLL_PARTS *p)
+{
     p->horizontal = horizontal;
     i32 length = horizontal ? r.w : r.h, thick = horizontal ? r.h : r.w;
     i32 arrow = thick < length / 3 ? thick : length / 3;
@@ -35,10 +45,13 @@ void ScrollParts(T_RPOS r, int horizontal, const T_SCROLL_RANGE *range, T_SCROLL
         thumb = (i32)((i64)track * range->visible / total);
     else if (total > 0 && range->visible <= 0)
         thumb = thick;
-    if (thumb < THUMB_MIN) thumb = THUMB_MIN;
-    if (thumb > track) thumb = track;
+    if (thumb < THUMB_MIN)
+        thumb = THUMB_MIN;
+    if (thumb > track)
+        thumb = track;
     i32 span = Top(range) - range->min, at = 0;
-    if (span > 0) at = (i32)((i64)(track - thumb) * (ClampScroll(range, range->value) - range->min) / span);
+    if (span > 0)
+        at = (i32)((i64)(track - thumb) * (ClampScroll(range, range->value) - range->min) / span);
     if (horizontal) {
         p->less = T_RPOS{r.x, r.y, (i16)arrow, r.h};
         p->more = T_RPOS{(i16)(r.x + length - arrow), r.y, (i16)arrow, r.h};
@@ -53,14 +66,17 @@ void ScrollParts(T_RPOS r, int horizontal, const T_SCROLL_RANGE *range, T_SCROLL
 }
 
 // An arrow or the thumb: a raised part with a dark outline, so that it reads against the track.
-static void DrawButtonPart(T_RPOS r, u32 colour) {
+static void DrawButtonPart(T_RPOS r, u32 colour)
+{
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     DrawRectangle(r.x, r.y, r.w, r.h, colour);
     DrawOutLineBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour);
-    if (r.w > 2 && r.h > 2) DrawBevelBox(r.x + 1, r.y + 1, r.w - 2, r.h - 2, rec->gadget_light_colour, colour);
+    if (r.w > 2 && r.h > 2)
+        DrawBevelBox(r.x + 1, r.y + 1, r.w - 2, r.h - 2, rec->gadget_light_colour, colour);
 }
 
-void DrawScrollParts(const T_SCROLL_PARTS *p, int disabled) {
+void DrawScrollParts(const T_SCROLL_PARTS *p, int disabled)
+{
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     u32 glyph = disabled ? rec->disabled_text_colour : rec->gadget_text_colour;
     DrawRectangle(p->track.x, p->track.y, p->track.w, p->track.h,
@@ -69,42 +85,51 @@ void DrawScrollParts(const T_SCROLL_PARTS *p, int disabled) {
     DrawButtonPart(p->more, rec->gadget_colour);
     DrawArrow(p->less, p->horizontal ? ARROW_LEFT : ARROW_UP, glyph);
     DrawArrow(p->more, p->horizontal ? ARROW_RIGHT : ARROW_DOWN, glyph);
-    if (!disabled && p->thumb.w > 0 && p->thumb.h > 0) DrawButtonPart(p->thumb, rec->gadget_colour);
+    if (!disabled && p->thumb.w > 0 && p->thumb.h > 0)
+        DrawButtonPart(p->thumb, rec->gadget_colour);
 }
 
-i32 ScrollPress(const T_SCROLL_PARTS *p, const T_SCROLL_RANGE *r, i16 x, i16 y, i32 *grab) {
+i32 ScrollPress(const T_SCROLL_PARTS *p, const T_SCROLL_RANGE *r, i16 x, i16 y, i32 *grab)
+{
     *grab = -1;
     i32 step = r->step > 0 ? r->step : 1, page = r->visible > 0 ? r->visible : step;
     i32 at = p->horizontal ? x : y;
     T_RPOS less = p->less, more = p->more, thumb = p->thumb, track = p->track;
-    if (PointBoxColl(x, y, &less)) return ClampScroll(r, r->value - step);
-    if (PointBoxColl(x, y, &more)) return ClampScroll(r, r->value + step);
+    if (PointBoxColl(x, y, &less))
+        return ClampScroll(r, r->value - step);
+    if (PointBoxColl(x, y, &more))
+        return ClampScroll(r, r->value + step);
     if (PointBoxColl(x, y, &thumb)) {
         *grab = at - Start(p, thumb);
         return ClampScroll(r, r->value);
     }
-    if (!PointBoxColl(x, y, &track)) return r->value;
+    if (!PointBoxColl(x, y, &track))
+        return r->value;
     return ClampScroll(r, at < Start(p, thumb) ? r->value - page : r->value + page);
 }
 
-i32 ScrollDrag(const T_SCROLL_PARTS *p, const T_SCROLL_RANGE *r, i16 x, i16 y, i32 grab) {
+i32 ScrollDrag(const T_SCROLL_PARTS *p, const T_SCROLL_RANGE *r, i16 x, i16 y, i32 grab)
+{
     i32 room = Len(p, p->track) - Len(p, p->thumb), span = Top(r) - r->min;
-    if (room <= 0 || span <= 0) return ClampScroll(r, r->value);
+    if (room <= 0 || span <= 0)
+        return ClampScroll(r, r->value);
     i32 pos = (p->horizontal ? x : y) - grab - Start(p, p->track);
     return ClampScroll(r, r->min + (i32)(((i64)pos * span + room / 2) / room));
 }
 
-int ScrollBarTrack(u16 *state, i32 *grab, const T_SCROLL_PARTS *p, T_SCROLL_RANGE *r,
-                   const T_MOUSE_MSG *m) {
+int ScrollBarTrack(u16 *state, i32 *grab, const T_SCROLL_PARTS *p, T_SCROLL_RANGE *r, const T_MOUSE_MSG *m)
+{
     i32 value = r->value;
     switch (m->mouse_action) {
     case ACT_LMOUSE_DOWN:
         *state |= GSTATE_ON_BAR;
         value = ScrollPress(p, r, m->x, m->y, grab);
-        if (*grab >= 0) *state |= GSTATE_ON_MARK;
+        if (*grab >= 0)
+            *state |= GSTATE_ON_MARK;
         break;
     case ACT_MOUSE_MOVE:
-        if (*state & GSTATE_ON_MARK) value = ScrollDrag(p, r, m->x, m->y, *grab);
+        if (*state & GSTATE_ON_MARK)
+            value = ScrollDrag(p, r, m->x, m->y, *grab);
         break;
     case ACT_LMOUSE_UP:
         *state &= ~(GSTATE_ON_BAR | GSTATE_ON_MARK);
@@ -119,31 +144,37 @@ int ScrollBarTrack(u16 *state, i32 *grab, const T_SCROLL_PARTS *p, T_SCROLL_RANG
 
 // --- The scroll bar beside a list's rows -----------------------------------------------------------
 
-static T_SCROLL_RANGE RowBarRange(const T_ROW_BAR *rows) {
+static T_SCROLL_RANGE RowBarRange(const T_ROW_BAR *rows)
+{
     T_SCROLL_RANGE r = {0, rows->count, rows->visible, *rows->top, 1};
     return r;
 }
 
-void DrawRowBar(const T_ROW_BAR *rows, int disabled) {
-    if (!rows->bar.w) return;
+void DrawRowBar(const T_ROW_BAR *rows, int disabled)
+{
+    if (!rows->bar.w)
+        return;
     T_SCROLL_RANGE range = RowBarRange(rows);
     T_SCROLL_PARTS parts;
     ScrollParts(rows->bar, 0, &range, &parts);
     DrawScrollParts(&parts, disabled);
 }
 
-int RowBarMouse(const T_ROW_BAR *rows, const T_MOUSE_MSG *m) {
+int RowBarMouse(const T_ROW_BAR *rows, const T_MOUSE_MSG *m)
+{
     T_RPOS bar = rows->bar;
     switch (m->mouse_action) {
     case ACT_LMOUSE_DOWN:  // a press on the bar takes it until the release
-        if (!bar.w || !PointBoxColl(m->x, m->y, &bar)) return 0;
+        if (!bar.w || !PointBoxColl(m->x, m->y, &bar))
+            return 0;
         break;
     case ACT_LMOUSE_DBL:  // a double click on the bar is no row's
         return bar.w && PointBoxColl(m->x, m->y, &bar);
     case ACT_MOUSE_MOVE:  // the moves and the release after a press on the bar
     case 0:               // (a move with no button)
     case ACT_LMOUSE_UP:
-        if (!(*rows->state & GSTATE_ON_BAR)) return 0;
+        if (!(*rows->state & GSTATE_ON_BAR))
+            return 0;
         break;
     default:
         return 0;
@@ -160,21 +191,25 @@ int RowBarMouse(const T_ROW_BAR *rows, const T_MOUSE_MSG *m) {
 
 #define WHEEL_STEPS 1  // a wheel notch moves the value by this many steps
 
-static T_SCROLL_RANGE BarRange(t_gadget *g) {
+static T_SCROLL_RANGE BarRange(t_gadget *g)
+{
     T_SCROLLBAR_DATA *d = (T_SCROLLBAR_DATA *)g->class_data;
     T_SCROLL_RANGE r = {d->min, d->max, d->mark_width, d->init_val, 1};
     return r;
 }
 
-static void SetBarValue(t_gadget *g, i32 value) {
+static void SetBarValue(t_gadget *g, i32 value)
+{
     T_SCROLLBAR_DATA *d = (T_SCROLLBAR_DATA *)g->class_data;
     T_SCROLL_RANGE r = BarRange(g);
     d->init_val = (u16)ClampScroll(&r, value);
 }
 
-int ScrollBarInit(t_gadget *g, const T_GADGETOBJECTINIT *init) {
+int ScrollBarInit(t_gadget *g, const T_GADGETOBJECTINIT *init)
+{
     T_SCROLLBAR_DATA *d = (T_SCROLLBAR_DATA *)AllocMemC(sizeof(T_SCROLLBAR_DATA));
-    if (!d) return 0;
+    if (!d)
+        return 0;
     d->min = init->min;
     d->max = init->max;
     d->init_val = (u16)init->init_val;
@@ -183,13 +218,16 @@ int ScrollBarInit(t_gadget *g, const T_GADGETOBJECTINIT *init) {
     return 1;
 }
 
-void ScrollBarFree(t_gadget *g) {
+void ScrollBarFree(t_gadget *g)
+{
     FreeMem((void *)g->class_data, sizeof(T_SCROLLBAR_DATA));
     g->class_data = 0;
 }
 
-void DrawScrollBarGadget(t_gadget *g, int focused) {
-    if (!g->class_data) return;
+void DrawScrollBarGadget(t_gadget *g, int focused)
+{
+    if (!g->class_data)
+        return;
     T_RPOS r = GadgetRect(g);
     T_SCROLL_RANGE range = BarRange(g);
     T_SCROLL_PARTS parts;
@@ -197,11 +235,14 @@ void DrawScrollBarGadget(t_gadget *g, int focused) {
     DrawScrollParts(&parts, (g->live_flags & GADGET_FLAGS_DISABLED) != 0);
     if (!(g->live_flags & GADGET_FLAGS_NO_BORDER))
         DrawOutLineBox(r.x, r.y, r.w, r.h, DISPLAY_RECORD->gadget_dark_colour);
-    if (focused) DrawGadgetFocus(g);
+    if (focused)
+        DrawGadgetFocus(g);
 }
 
-u32 ScrollBarMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
-    if (!g->class_data) return 0;
+u32 ScrollBarMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
+{
+    if (!g->class_data)
+        return 0;
     T_SCROLL_RANGE range = BarRange(g);
     T_SCROLL_PARTS parts;
     ScrollParts(*rect, GadgetHorizontal(g), &range, &parts);
@@ -213,8 +254,10 @@ u32 ScrollBarMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         int dragging = (g->gadget_state & GSTATE_ON_MARK) != 0;
         int changed = ScrollBarTrack(&g->gadget_state, &g->select_from, &parts, &range, m);
         SetBarValue(g, range.value);
-        if (m->mouse_action == ACT_LMOUSE_DOWN) return ACT_LMOUSE_DOWN;
-        if (m->mouse_action == ACT_LMOUSE_UP) return armed ? ACT_LMOUSE_UP : 0;
+        if (m->mouse_action == ACT_LMOUSE_DOWN)
+            return ACT_LMOUSE_DOWN;
+        if (m->mouse_action == ACT_LMOUSE_UP)
+            return armed ? ACT_LMOUSE_UP : 0;
         return changed && dragging && (g->live_flags & GADGET_FLAGS_REPORT_DRAG) ? ACT_LMOUSE_DOWN : 0;
     }
     case ACT_MOUSE_WHEEL_UP:  // the wheel moves the value
@@ -227,9 +270,11 @@ u32 ScrollBarMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
 }
 
 // The arrows step, the page keys move by the visible part, Home and End go to the ends.
-u32 ScrollBarKey(t_gadget *g, u16 key, u16 qualifiers) {
+u32 ScrollBarKey(t_gadget *g, u16 key, u16 qualifiers)
+{
     (void)qualifiers;
-    if (!g->class_data) return 0;
+    if (!g->class_data)
+        return 0;
     T_SCROLL_RANGE r = BarRange(g);
     i32 page = r.visible > 0 ? r.visible : 1, value;
     switch (key) {

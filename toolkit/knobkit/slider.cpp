@@ -13,55 +13,81 @@
 #define MARK_MARGIN 4  // ... and across it, the slider's thickness less this
 #define GROOVE 4       // the groove's thickness
 
-static T_SLIDER_DATA *Data(t_gadget *g) { return (T_SLIDER_DATA *)g->class_data; }
+static T_SLIDER_DATA *Data(t_gadget *g)
+{
+    return (T_SLIDER_DATA *)g->class_data;
+}
 
-static i32 Lo(const T_SLIDER_DATA *d) { return d->min < d->max ? d->min : d->max; }
-static i32 Hi(const T_SLIDER_DATA *d) { return d->min < d->max ? d->max : d->min; }
+static i32 Lo(const T_SLIDER_DATA *d)
+{
+    return d->min < d->max ? d->min : d->max;
+}
+static i32 Hi(const T_SLIDER_DATA *d)
+{
+    return d->min < d->max ? d->max : d->min;
+}
 
 // The value on the step grid from min, inside the range.
-static i32 Stepped(const T_SLIDER_DATA *d, i64 v) {
+static i32 Stepped(const T_SLIDER_DATA *d, i64 v)
+{
     i64 step = d->step > 0 ? d->step : 1;
     i64 k = (v - d->min + (v >= d->min ? step / 2 : -step / 2)) / step;
     v = d->min + k * step;
-    if (v < Lo(d)) v = Lo(d);
-    if (v > Hi(d)) v = Hi(d);
+    if (v < Lo(d))
+        v = Lo(d);
+    if (v > Hi(d))
+        v = Hi(d);
     return (i32)v;
 }
 
 // The mark's rectangle for the value, and the room it travels in.
-static T_RPOS MarkRect(t_gadget *g, const T_RPOS *r, i32 *room) {
+static T_RPOS MarkRect(t_gadget *g, const T_RPOS *r, i32 *room)
+{
     T_SLIDER_DATA *d = Data(g);
     int horizontal = GadgetHorizontal(g);
     i16 mw = d->mark_width, mh = d->mark_height;
-    if (mw <= 0) mw = horizontal ? MARK_ALONG : r->w - MARK_MARGIN;
-    if (mh <= 0) mh = horizontal ? r->h - MARK_MARGIN : MARK_ALONG;
-    if (mw > r->w) mw = r->w;
-    if (mh > r->h) mh = r->h;
+    if (mw <= 0)
+        mw = horizontal ? MARK_ALONG : r->w - MARK_MARGIN;
+    if (mh <= 0)
+        mh = horizontal ? r->h - MARK_MARGIN : MARK_ALONG;
+    if (mw > r->w)
+        mw = r->w;
+    if (mh > r->h)
+        mh = r->h;
     *room = horizontal ? r->w - mw : r->h - mh;
     i64 span = (i64)Hi(d) - Lo(d), at = 0;
     i32 v = d->value < Lo(d) ? Lo(d) : d->value > Hi(d) ? Hi(d) : d->value;
-    if (span > 0) at = (i64)*room * (v - Lo(d)) / span;
-    if (d->max < d->min) at = *room - at;
-    if (horizontal) return T_RPOS{(i16)(r->x + at), (i16)(r->y + (r->h - mh) / 2), mw, mh};
+    if (span > 0)
+        at = (i64)*room * (v - Lo(d)) / span;
+    if (d->max < d->min)
+        at = *room - at;
+    if (horizontal)
+        return T_RPOS{(i16)(r->x + at), (i16)(r->y + (r->h - mh) / 2), mw, mh};
     return T_RPOS{(i16)(r->x + (r->w - mw) / 2), (i16)(r->y + at), mw, mh};
 }
 
 // The value that puts the mark's leading edge at `pos` along the slider.
-static i32 ValueAt(t_gadget *g, const T_RPOS *r, i32 pos) {
+static i32 ValueAt(t_gadget *g, const T_RPOS *r, i32 pos)
+{
     T_SLIDER_DATA *d = Data(g);
     i32 room;
     MarkRect(g, r, &room);
     pos -= GadgetHorizontal(g) ? r->x : r->y;
-    if (pos < 0) pos = 0;
-    if (pos > room) pos = room;
-    if (room <= 0) return Stepped(d, d->min);
+    if (pos < 0)
+        pos = 0;
+    if (pos > room)
+        pos = room;
+    if (room <= 0)
+        return Stepped(d, d->min);
     i64 span = (i64)d->max - d->min;
     return Stepped(d, d->min + (span * pos + (span >= 0 ? room / 2 : -room / 2)) / room);
 }
 
-int SliderInit(t_gadget *g, const T_GADGETOBJECTINIT *init) {
+int SliderInit(t_gadget *g, const T_GADGETOBJECTINIT *init)
+{
     T_SLIDER_DATA *d = (T_SLIDER_DATA *)AllocMemC(sizeof(T_SLIDER_DATA));
-    if (!d) return 0;
+    if (!d)
+        return 0;
     d->min = init->min;
     d->max = init->max;
     d->step = init->step;  // kept as given: where the mark moves, a step below 1 counts as 1
@@ -74,18 +100,23 @@ int SliderInit(t_gadget *g, const T_GADGETOBJECTINIT *init) {
     return 1;
 }
 
-void SliderFree(t_gadget *g) {
+void SliderFree(t_gadget *g)
+{
     FreeMem(Data(g), sizeof(T_SLIDER_DATA));
     g->class_data = 0;
 }
 
-void DrawSliderGadget(t_gadget *g, int focused) {
-    if (!g->class_data) return;
+void DrawSliderGadget(t_gadget *g, int focused)
+{
+    if (!g->class_data)
+        return;
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS r = GadgetRect(g);
     u32 flags = g->live_flags;
-    if (flags & GADGET_FLAGS_SOLID) DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
-    if (!(flags & GADGET_FLAGS_NO_BORDER)) DrawOutLineBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour);
+    if (flags & GADGET_FLAGS_SOLID)
+        DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
+    if (!(flags & GADGET_FLAGS_NO_BORDER))
+        DrawOutLineBox(r.x, r.y, r.w, r.h, rec->gadget_dark_colour);
     i32 room;
     T_RPOS mark = MarkRect(g, &r, &room);
     T_RPOS groove = GadgetHorizontal(g)
@@ -100,12 +131,15 @@ void DrawSliderGadget(t_gadget *g, int focused) {
         int pressed = (g->gadget_state & GSTATE_DRAGGING) || (flags & GADGET_FLAGS_DEPRESSED);
         DrawGadgetBevel(mark, pressed);
     }
-    if (focused) DrawGadgetFocus(g);
+    if (focused)
+        DrawGadgetFocus(g);
 }
 
-u32 SliderMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
+u32 SliderMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
+{
     T_SLIDER_DATA *d = Data(g);
-    if (!d) return 0;
+    if (!d)
+        return 0;
     int horizontal = GadgetHorizontal(g);
     i32 room, at = horizontal ? m->x : m->y;
     T_RPOS mark = MarkRect(g, rect, &room);
@@ -123,7 +157,8 @@ u32 SliderMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         return ACT_LMOUSE_DOWN;
     }
     case ACT_MOUSE_MOVE: {  // the mark follows
-        if (!(g->gadget_state & GSTATE_DRAGGING)) return 0;
+        if (!(g->gadget_state & GSTATE_DRAGGING))
+            return 0;
         i32 before = d->value;
         d->value = ValueAt(g, rect, at - g->select_from);
         return d->value != before && (g->live_flags & GADGET_FLAGS_REPORT_DRAG) ? ACT_LMOUSE_DOWN : 0;
@@ -132,7 +167,8 @@ u32 SliderMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
         return EndGadgetPress(g) ? ACT_LMOUSE_UP : 0;
     case ACT_MOUSE_WHEEL_UP:  // a step back or on
     case ACT_MOUSE_WHEEL_DOWN:
-        d->value = Stepped(d, (i64)d->value + (m->mouse_action == ACT_MOUSE_WHEEL_UP ? -1 : 1) * (i64)(d->step > 0 ? d->step : 1));
+        d->value = Stepped(d, (i64)d->value +
+                                  (m->mouse_action == ACT_MOUSE_WHEEL_UP ? -1 : 1) * (i64)(d->step > 0 ? d->step : 1));
         return m->mouse_action;
     default:
         return m->mouse_action & GADGET_PASSED_ON;
@@ -140,10 +176,12 @@ u32 SliderMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect) {
 }
 
 // Left and Up step back, Right and Down step on, Home and End go to min and max.
-u32 SliderKey(t_gadget *g, u16 key, u16 qualifiers) {
+u32 SliderKey(t_gadget *g, u16 key, u16 qualifiers)
+{
     (void)qualifiers;
     T_SLIDER_DATA *d = Data(g);
-    if (!d) return 0;
+    if (!d)
+        return 0;
     i64 step = d->step > 0 ? d->step : 1;
     switch (key) {
     case KEY_LEFT:

@@ -8,14 +8,16 @@ typedef struct T_DEFAULT_KEY {
     i8 step;             // +1 the next gadget, -1 the previous
 } T_DEFAULT_KEY;
 
-//  key         Shift reverses  step
+// clang-format off
+//   key        Shift reverses step
 static const T_DEFAULT_KEY default_keys[] = {
-    {KEY_TAB, 1, +1},
+    {KEY_TAB,   1, +1},
     {KEY_RIGHT, 0, +1},
-    {KEY_DOWN, 0, +1},
-    {KEY_LEFT, 0, -1},
-    {KEY_UP, 0, -1},
+    {KEY_DOWN,  0, +1},
+    {KEY_LEFT,  0, -1},
+    {KEY_UP,    0, -1},
 };
+// clang-format on
 
 // The list that holds a gadget: the first node's prev is the list's head, which is the list.
 static t_List *ListOf(t_gadget *gadget)

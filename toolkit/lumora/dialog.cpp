@@ -2,20 +2,26 @@
 // block that holds the dialog's record. Message boxes, the selectors and the key editor open so.
 #include "lumora/lumora_internal.h"
 
-void PlaceDialog(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h) {
+void PlaceDialog(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h)
+{
     i16 sw = CURRENT_DISPLAY->width, sh = CURRENT_DISPLAY->height;
     i16 x = parent ? parent->x + (parent->w - frame_w) / 2 : (sw - frame_w) / 2;
     i16 y = parent ? parent->y + (parent->h - frame_h) / 2 : (sh - frame_h) / 2;
-    if (x + frame_w > sw) x = sw - frame_w;
-    if (y + frame_h > sh) y = sh - frame_h;
-    if (x < 0) x = 0;
-    if (y < 0) y = 0;
+    if (x + frame_w > sw)
+        x = sw - frame_w;
+    if (y + frame_h > sh)
+        y = sh - frame_h;
+    if (x < 0)
+        x = 0;
+    if (y < 0)
+        y = 0;
     init->w = frame_w, init->h = frame_h;
     init->x = parent ? x - parent->user_x : x;  // a child's place counts from the parent's user area
     init->y = parent ? y - parent->user_y : y;
 }
 
-t_Window *OpenDialogWindow(const T_DIALOG_SPEC *spec) {
+t_Window *OpenDialogWindow(const T_DIALOG_SPEC *spec)
+{
     t_Window *parent = IsWindowLive(spec->parent) ? spec->parent : NULL;
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_WINDOWOBJINIT wi = {};
@@ -26,15 +32,18 @@ t_Window *OpenDialogWindow(const T_DIALOG_SPEC *spec) {
     wi.message = spec->message;
     wi.parent = parent;
     t_Window *window = CreateWindowObject(spec->title ? spec->title : "", &wi);
-    if (window) window->UserAreaColour = rec->dialog_colour;
+    if (window)
+        window->UserAreaColour = rec->dialog_colour;
     return window;
 }
 
-void *OpenDialog(const T_DIALOG_SPEC *spec) {
+void *OpenDialog(const T_DIALOG_SPEC *spec)
+{
     t_Window *window = OpenDialogWindow(spec);
-    if (!window) return NULL;
-    t_Handler *handler = NewHandler(&window->handlers, spec->input, spec->paint, spec->handler_name, 0,
-                                    spec->handler_size, window);
+    if (!window)
+        return NULL;
+    t_Handler *handler =
+        NewHandler(&window->handlers, spec->input, spec->paint, spec->handler_name, 0, spec->handler_size, window);
     if (!handler) {
         RemoveWindow(window);
         return NULL;

@@ -6,12 +6,14 @@
 
 #define DISABLED_VEIL 150  // how much of the back colour covers a disabled swatch
 
-static T_COLOUR_DATA *ColourData(t_gadget *g) {
+static T_COLOUR_DATA *ColourData(t_gadget *g)
+{
     T_COLOUR_DATA *d = (T_COLOUR_DATA *)g->data;
     return d && d->rgba ? d : NULL;
 }
 
-void DrawColourGadget(t_gadget *g, int focused) {
+void DrawColourGadget(t_gadget *g, int focused)
+{
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS r = GadgetRect(g);
     int border = !(g->live_flags & GADGET_FLAGS_NO_BORDER);
@@ -24,24 +26,30 @@ void DrawColourGadget(t_gadget *g, int focused) {
     DrawRectangle(swatch.x, swatch.y, swatch.w, swatch.h, d ? GetConstantTRGBA(d->rgba) : g->back_colour);
     if ((g->live_flags & GADGET_FLAGS_ICON) && g->icon_bank) {
         i16 side = swatch.w < swatch.h ? swatch.w : swatch.h;
-        DrawIconScaled(g->icon_bank, g->icon, swatch.x + (swatch.w - side) / 2, swatch.y + (swatch.h - side) / 2,
-                       side, side);
+        DrawIconScaled(g->icon_bank, g->icon, swatch.x + (swatch.w - side) / 2, swatch.y + (swatch.h - side) / 2, side,
+                       side);
     }
     if (g->live_flags & GADGET_FLAGS_DISABLED)
         BlendRectangle(swatch.x, swatch.y, swatch.w, swatch.h, rec->gadget_colour, DISABLED_VEIL);
-    if (focused) DrawGadgetFocus(g);
+    if (focused)
+        DrawGadgetFocus(g);
 }
 
-void DropColourOnGadget(t_Window *window, t_gadget *gadget, T_RGBA *rgba) {
-    if (!gadget || !rgba) return;
-    if (!window) window = gadget->window;
+void DropColourOnGadget(t_Window *window, t_gadget *gadget, T_RGBA *rgba)
+{
+    if (!gadget || !rgba)
+        return;
+    if (!window)
+        window = gadget->window;
     if (T_COLOUR_DATA *d = ColourData(gadget)) {
         *d->rgba = *rgba;
-        if (d->hsia) RGBToHSI(d->rgba, d->hsia);
+        if (d->hsia)
+            RGBToHSI(d->rgba, d->hsia);
     }
     if (gadget->action_fn) {
         T_MOUSE_MSG m = {0, 0, 0, ACT_LMOUSE_DROP};
-        if (window) m.x = window->mouse_x, m.y = window->mouse_y;
+        if (window)
+            m.x = window->mouse_x, m.y = window->mouse_y;
         gadget->action_fn(window, gadget, &m);
     } else {
         SendWindowMessage(window, gadget->live_item_code, ACT_LMOUSE_DROP, gadget);

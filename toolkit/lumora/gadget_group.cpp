@@ -8,15 +8,19 @@
 #define TITLE_INDENT 8  // a left-justified title's distance from the frame's corner
 #define TITLE_GAP 3     // the frame stops this far before and after the title
 
-void DrawGroupGadget(t_gadget *g, int focused) {
+void DrawGroupGadget(t_gadget *g, int focused)
+{
     (void)focused;
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS r = GadgetRect(g);
-    if (g->live_flags & GADGET_FLAGS_SOLID) DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
+    if (g->live_flags & GADGET_FLAGS_SOLID)
+        DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
     const char *title = g->name ? g->name : "";
     i16 th = (i16)GetActiveFontHeight(), tw = (i16)GetStringWidth(title);
-    if (tw > r.w - 2 * TITLE_INDENT) tw = r.w - 2 * TITLE_INDENT;
-    if (tw < 0) tw = 0;
+    if (tw > r.w - 2 * TITLE_INDENT)
+        tw = r.w - 2 * TITLE_INDENT;
+    if (tw < 0)
+        tw = 0;
     i16 tx = (g->live_flags & GADGET_FLAGS_LEFT_JUSTIFY) ? r.x + TITLE_INDENT : r.x + (r.w - tw) / 2;
     i16 top = r.y + th / 2;
     T_RPOS frame = {r.x, top, r.w, (i16)(r.h - th / 2)};
@@ -27,8 +31,10 @@ void DrawGroupGadget(t_gadget *g, int focused) {
         i16 shrink = etched ? 1 - pass : 0;
         i16 x0 = frame.x + pass, y0 = frame.y + pass;
         i16 x1 = frame.x + frame.w - 1 - shrink, y1 = frame.y + frame.h - 1 - shrink;
-        if (gap_from > x0) DrawLine(x0, y0, gap_from, y0, c);
-        if (gap_to < x1) DrawLine(gap_to, y0, x1, y0, c);
+        if (gap_from > x0)
+            DrawLine(x0, y0, gap_from, y0, c);
+        if (gap_to < x1)
+            DrawLine(gap_to, y0, x1, y0, c);
         DrawLine(x0, y0, x0, y1, c);
         DrawLine(x0, y1, x1, y1, c);
         DrawLine(x1, y0, x1, y1, c);

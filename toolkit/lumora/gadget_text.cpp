@@ -3,14 +3,17 @@
 // in the selection colour.
 #include "lumora/lumora_internal.h"
 
-void DrawTextGadget(t_gadget *g, int focused) {
+void DrawTextGadget(t_gadget *g, int focused)
+{
     (void)focused;
     T_RPOS r = GadgetRect(g);
-    if (g->live_flags & GADGET_FLAGS_SOLID) DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
+    if (g->live_flags & GADGET_FLAGS_SOLID)
+        DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
     T_RPOS clip;
     GetClip(&clip);
     T_RPOS inner = r;
-    if (!RectIntersect(&inner, &clip)) return;
+    if (!RectIntersect(&inner, &clip))
+        return;
     ClipInsideWindow(inner.x, inner.y, inner.x + inner.w, inner.y + inner.h);
     i16 th = (i16)GetActiveFontHeight();
     u32 colour = GadgetTextColour(g);

@@ -20,11 +20,13 @@ static const u32 ICON_TAN = ICON_RGB(0xE8, 0xB8, 0x5C);
 static const char *const GLYPH_I[] = {"##", "  ", "##", "##", "##", "##", "##", NULL};
 static const char *const GLYPH_QUESTION[] = {" ### ", "#   #", "    #", "  ## ", "  #  ", "     ", "  #  ", NULL};
 static const char *const GLYPH_BANG[] = {"##", "##", "##", "##", "  ", "##", NULL};
-static const char *const TRIANGLE[] = {
-    "       ##       ", "      #oo#      ", "      #oo#      ", "     #oooo#     ",
-    "     #oooo#     ", "    #oooooo#    ", "    #oooooo#    ", "   #oooooooo#   ",
-    "   #oooooooo#   ", "  #oooooooooo#  ", "  #oooooooooo#  ", " #oooooooooooo# ",
-    " ############## ", NULL};
+static const char *const TRIANGLE[] = {"       ##       ", "      #oo#      ",
+                                       "      #oo#      ", "     #oooo#     ",
+                                       "     #oooo#     ", "    #oooooo#    ",
+                                       "    #oooooo#    ", "   #oooooooo#   ",
+                                       "   #oooooooo#   ", "  #oooooooooo#  ",
+                                       "  #oooooooooo#  ", " #oooooooooooo# ",
+                                       " ############## ", NULL};
 
 static void DrawInfo(T_ICON_CANVAS *c)
 {
@@ -93,12 +95,14 @@ static void DrawSave(T_ICON_CANVAS *c)
     IconFill(c, 5, 12, 6, 1, ICON_LIGHT);
 }
 
+// clang-format off
 //  place  drawing
 static const T_ICON_DRAWING standard_icons[] = {
     {0, DrawInfo},       {1, DrawError},       {2, DrawQuestion}, {3, DrawWarning},
     {4, DrawTick},       {5, DrawWindowGlyph}, {6, DrawFolder},   {7, DrawDocument},
     {16, DrawSave},
 };
+// clang-format on
 
 // Null, with the reason logged by Brushel, when the bank can't be made.
 T_TEXTURE_BANK *MakeStandardIconBank(void)

@@ -1,7 +1,7 @@
 // What the parts of Lumora call of each other and no user of the toolkit sees.
 #pragma once
-#include "toolkit.h"
 #include "display/display.h"
+#include "toolkit.h"
 
 // Menus (menu*.cpp): what CreateObject and RemoveObject do with a menu handler, the menu bar's
 // height, and the painting and input of open menus.
@@ -35,9 +35,9 @@ void *CreateListEntry(t_Gaget_Handler *handler, const char *name, T_GADGETOBJECT
 // A window as the toolkit allocates it: the public record first, then what only the toolkit reads.
 typedef struct T_WINDOW_PRIVATE {
     t_Window window;
-    char *own_name;        // the toolkit's copy of the creation name (the owner may repoint name)
+    char *own_name;  // the toolkit's copy of the creation name (the owner may repoint name)
     u32 own_name_size;
-    u32 message_mask;      // the IDCMP_ mask given at creation; `idcmp` is the owner's to change
+    u32 message_mask;        // the IDCMP_ mask given at creation; `idcmp` is the owner's to change
     t_Window *focus_before;  // the focus window when this one was made: it gets the focus back
 } T_WINDOW_PRIVATE;
 
@@ -59,8 +59,8 @@ typedef struct T_LUMORA_STATE {
     u16 buttons;            // 1 left, 2 right: held now
     u16 qualifiers;         // QUAL_ bits of the input event in hand
     T_CAPTURE capture;
-    u16 broken_buttons;     // buttons whose press was broken off: their release is swallowed
-    u32 last_press_ms;      // for double clicks
+    u16 broken_buttons;  // buttons whose press was broken off: their release is swallowed
+    u32 last_press_ms;   // for double clicks
     i16 last_press_x, last_press_y;
     t_Window *last_press_window;
     t_Window *press_window;  // the window under the press in progress
@@ -69,19 +69,19 @@ typedef struct T_LUMORA_STATE {
     u16 border_image_shown;  // the frame or a gadget set the image on a hover
     T_RPOS mouse_limits;
     u16 mouse_limited;
-    u32 last_move_ms;        // when the pointer last moved: hover texts wait for rest
+    u32 last_move_ms;               // when the pointer last moved: hover texts wait for rest
     T_TEXTURE_BANK *own_icon_bank;  // made by the toolkit: freed at close
     T_DISPLAY_RECORD record;
     T_SURFACE screen;
     u16 paint_every_background;  // tests: fill each background whole, as the reference to compare
-    u16 animating;         // a paint asked for the next turn's repaint (KeepAnimating)
+    u16 animating;               // a paint asked for the next turn's repaint (KeepAnimating)
     // What the turn must repaint: the whole screen, or the union of the areas its events changed
     // (LimitRepaint); an event that says nothing may have changed anything.
     u16 repaint_whole;
-    T_RPOS repaint_area;     // w 0: none
-    u16 event_limited;       // the event in hand called LimitRepaint
+    T_RPOS repaint_area;  // w 0: none
+    u16 event_limited;    // the event in hand called LimitRepaint
     T_RPOS event_area;
-    u32 last_paint_ms;       // when the screen was last painted: a rest that ends after it shows
+    u32 last_paint_ms;           // when the screen was last painted: a rest that ends after it shows
     void (*input_source)(void);  // SetInputSource's: called at the start of each turn
 } T_LUMORA_STATE;
 
@@ -128,11 +128,11 @@ void *OpenDialog(const T_DIALOG_SPEC *spec);
 
 // Windows (window.cpp).
 #define WINDOW_TITLE_SIZE 512  // a title with its suffix, as the title bar shows it
-#define CASCADE_STEP 16  // pixels between cascade places, down and right
-#define CASCADE_STEPS 8  // places before the cascade starts again
+#define CASCADE_STEP 16        // pixels between cascade places, down and right
+#define CASCADE_STEPS 8        // places before the cascade starts again
 t_Window *FocusWindow(void);
-void FreeRemovedWindows(void);            // at the end of the outermost turn
-void FreeWindowNow(t_Window *window);      // handlers, gadgets, children, the block
+void FreeRemovedWindows(void);                                      // at the end of the outermost turn
+void FreeWindowNow(t_Window *window);                               // handlers, gadgets, children, the block
 void SetWindowFrame(t_Window *window, i16 x, i16 y, i16 w, i16 h);  // children follow a move
 void FreeAllWindows(void);
 int IsPopup(t_Window *window);
@@ -153,8 +153,8 @@ u32 MessageMask(t_Window *window);
 void ReleaseBitmap(T_RESOURCE *bitmap);
 
 // The frame (frame.cpp).
-T_RPOS TitleRect(t_Window *window);      // the title bar, absolute; w 0 without one
-u16 BorderHandleAt(t_Window *window, i16 x, i16 y);  // 1..8 on a resizable border, else 0
+T_RPOS TitleRect(t_Window *window);                       // the title bar, absolute; w 0 without one
+u16 BorderHandleAt(t_Window *window, i16 x, i16 y);       // 1..8 on a resizable border, else 0
 int MinimisedButtonRect(t_Window *window, T_RPOS *rect);  // false unless minimised
 void MinimiseWindow(t_Window *window);
 void RestoreMinimised(t_Window *window);
@@ -214,7 +214,7 @@ void FreeGadgetsOf(t_Gaget_Handler *handler);
 void GadgetMouseEvent(t_Window *window, t_gadget *gadget, T_MOUSE_MSG *msg);
 // A key for the window's current gadget; true when taken.
 int GadgetKeyEvent(t_Window *window, t_gadget *gadget, u16 key, u16 qualifiers);
-int DialogWindow(t_Window *window);  // no gadget with an action_fn: Tab walks, focus frame shows
+int DialogWindow(t_Window *window);     // no gadget with an action_fn: Tab walks, focus frame shows
 void GadgetTextFont(t_gadget *gadget);  // active font and style of the gadget's text
 void GadgetTextFontEnd(void);
 #define GSTATE_MARKED_BEFORE 0x100  // gadget_state: marked when the rubber band began
@@ -274,10 +274,10 @@ t_gadget *WheelTarget(t_gadget *gadget, const T_MOUSE_MSG *msg);
 void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind);  // kind: 1 error, 2 information, 3 question
 // The whole text of a message box, or null when the window is none.
 const char *MessageBoxText(t_Window *box);
-void ScreenResized(void);  // toolkit.cpp: the framebuffer and the display's size follow the screen
+void ScreenResized(void);                  // toolkit.cpp: the framebuffer and the display's size follow the screen
 void PaintWindowBitmap(t_Window *window);  // window_bitmap.cpp
-void CallMouseMoveHooks(void);  // loop.cpp: after a mouse move
-void SetPointer(i16 x, i16 y);          // mouse.cpp: the toolkit's pointer, clamped to the limits
+void CallMouseMoveHooks(void);             // loop.cpp: after a mouse move
+void SetPointer(i16 x, i16 y);             // mouse.cpp: the toolkit's pointer, clamped to the limits
 void ClampToLimits(i16 *x, i16 *y);
 void TabToNextGadget(t_Window *window, int backwards);  // gadget_handler.cpp: Tab in a dialog
-int TabStop(t_gadget *g);  // gadget_handler.cpp: whether the tab walk stops at the gadget
+int TabStop(t_gadget *g);                               // gadget_handler.cpp: whether the tab walk stops at the gadget

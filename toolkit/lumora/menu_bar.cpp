@@ -26,8 +26,8 @@ T_MENU_HANDLER *NewMenuHandler(t_Window *window)
         myprintf(0, "NewMenuHandler: no window\n");
         return NULL;
     }
-    T_MENU_HANDLER *handler = (T_MENU_HANDLER *)NewHandler(
-        &window->handlers, MenuBarInput, MenuBarPaint, "menus", 100, sizeof(T_MENU_HANDLER), window);
+    T_MENU_HANDLER *handler = (T_MENU_HANDLER *)NewHandler(&window->handlers, MenuBarInput, MenuBarPaint, "menus", 100,
+                                                           sizeof(T_MENU_HANDLER), window);
     InitMenuHandler(handler);
     RecalcUserSize(window);
     return handler;
@@ -41,8 +41,8 @@ T_MENU_HANDLER *CreateMenuHandler(t_List *list)
         myprintf(0, "CreateMenuHandler: no list\n");
         return NULL;
     }
-    T_MENU_HANDLER *handler = (T_MENU_HANDLER *)NewHandler(list, MenuBarInput, NULL, "menus", 100,
-                                                           sizeof(T_MENU_HANDLER), NULL);
+    T_MENU_HANDLER *handler =
+        (T_MENU_HANDLER *)NewHandler(list, MenuBarInput, NULL, "menus", 100, sizeof(T_MENU_HANDLER), NULL);
     InitMenuHandler(handler);
     return handler;
 }

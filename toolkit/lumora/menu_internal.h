@@ -4,18 +4,18 @@
 
 // Metrics of the menu bar and of open menus, in pixels.
 enum {
-    MENU_BAR_LEFT = 4,          // room before the first title
-    MENU_TITLE_PAD = 9,         // on each side of a title's label
-    MENU_PANEL_BORDER = 1,      // the panel's frame
-    MENU_PANEL_PAD = 3,         // between the frame and the entries
-    MENU_SHADOW = 4,            // the soft shadow to the right and below a panel
-    MENU_ICON_SIZE = 16,        // an entry's icon is shown at this size
-    MENU_ICON_COLUMN = 26,      // from the panel's inner left to the label
-    MENU_KEY_GAP = 18,          // between the widest label and the key column
-    MENU_ARROW_ROOM = 14,       // the right arrow of a sub-menu
-    MENU_ENTRY_EXTRA = 8,       // an entry is the font's height plus this
+    MENU_BAR_LEFT = 4,      // room before the first title
+    MENU_TITLE_PAD = 9,     // on each side of a title's label
+    MENU_PANEL_BORDER = 1,  // the panel's frame
+    MENU_PANEL_PAD = 3,     // between the frame and the entries
+    MENU_SHADOW = 4,        // the soft shadow to the right and below a panel
+    MENU_ICON_SIZE = 16,    // an entry's icon is shown at this size
+    MENU_ICON_COLUMN = 26,  // from the panel's inner left to the label
+    MENU_KEY_GAP = 18,      // between the widest label and the key column
+    MENU_ARROW_ROOM = 14,   // the right arrow of a sub-menu
+    MENU_ENTRY_EXTRA = 8,   // an entry is the font's height plus this
     MENU_SEPARATOR_HEIGHT = 7,
-    MENU_MAX_LEVELS = 8,        // sub-menus nest up to this depth
+    MENU_MAX_LEVELS = 8,  // sub-menus nest up to this depth
     MENU_SHADOW_ALPHA = 60,
     MENU_FALLBACK_FONT_HEIGHT = 13,  // when no font could be read
 };
@@ -41,8 +41,8 @@ i16 MenuFontHeight(void);  // the system font's line height
 // Measuring (menu.cpp). Heights and widths are measured with the system font active.
 i16 MenuEntryHeight(const t_Menu *entry);
 i16 MenuPanelHeight(const t_Menu *menu);
-i16 MenuPanelWidth(t_Menu *menu);   // detached_width, computed when it is 0
-u32 MenuEntryKey(const t_Menu *entry);  // the key shown at the right, or 0
+i16 MenuPanelWidth(t_Menu *menu);            // detached_width, computed when it is 0
+u32 MenuEntryKey(const t_Menu *entry);       // the key shown at the right, or 0
 int MenuEntryPickable(const t_Menu *entry);  // neither greyed, a separator, nor a title
 // The entry of `menu` at place `index` (counting separators), or null.
 t_Menu *MenuEntryByIndex(t_Menu *menu, i32 index);
@@ -63,8 +63,7 @@ void OpenBarTitle(T_MENU_HANDLER *handler, t_Menu *title, i32 highlight);
 
 // The open menus (menu_popup.cpp): level 0 is a bar title's menu or a detached menu, the levels
 // above are its sub-menus.
-t_Window *OpenMenuLevel(i32 level, t_Window *owner, T_MENU_HANDLER *bar, t_Menu *menu, i16 x, i16 y,
-                        i32 highlight);
+t_Window *OpenMenuLevel(i32 level, t_Window *owner, T_MENU_HANDLER *bar, t_Menu *menu, i16 x, i16 y, i32 highlight);
 T_MENU_HANDLER *OpenMenuBar(void);  // the bar whose title is open, or null
 // Follows the pointer over open menus and the open bar: highlights, sub-menus, switching titles.
 void MenuTrackPointer(i16 x, i16 y);

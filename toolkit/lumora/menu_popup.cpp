@@ -12,9 +12,9 @@ typedef struct T_OPEN_LEVEL {
 static struct {
     T_OPEN_LEVEL levels[MENU_MAX_LEVELS];
     i32 depth;
-    t_Window *owner;       // gets ACT_MENU_PICK
-    T_MENU_HANDLER *bar;   // the bar whose title is open, null for a detached menu
-    u8 pressed;            // a press began inside an open menu
+    t_Window *owner;      // gets ACT_MENU_PICK
+    T_MENU_HANDLER *bar;  // the bar whose title is open, null for a detached menu
+    u8 pressed;           // a press began inside an open menu
 } open_menus;
 
 static u32 MenuPopupInput(t_Handler *head, u32 event, void *data);
@@ -144,21 +144,20 @@ static i32 FirstPickable(t_Menu *menu)
 }
 
 // --- Opening and picking -----------------------------------------------------------------------------
-t_Window *OpenMenuLevel(i32 level, t_Window *owner, T_MENU_HANDLER *bar, t_Menu *menu, i16 x, i16 y,
-                        i32 highlight)
+t_Window *OpenMenuLevel(i32 level, t_Window *owner, T_MENU_HANDLER *bar, t_Menu *menu, i16 x, i16 y, i32 highlight)
 {
     if (!menu || level < 0 || !QF_EXPECT(level < MENU_MAX_LEVELS) || level > open_menus.depth)
         return NULL;
     CloseFromLevel(level);
     T_RPOS panel = {x, y, 0, 0};
     MeasurePanel(menu, &panel, level > 0 ? &open_menus.levels[level - 1].panel : NULL);
-    t_Window *popup = CreatePopupWindow(panel.x, panel.y, (i16)(panel.w + MENU_SHADOW),
-                                        (i16)(panel.h + MENU_SHADOW), NULL);
+    t_Window *popup =
+        CreatePopupWindow(panel.x, panel.y, (i16)(panel.w + MENU_SHADOW), (i16)(panel.h + MENU_SHADOW), NULL);
     if (!popup) {
         myprintf(0, "menu \"%s\" could not be opened\n", menu->label ? menu->label : "");
         return NULL;
     }
-    popup->flags |= WF_NO_BACK;  // the panel paints itself; the shadow lets the screen show
+    popup->flags |= WF_NO_BACK;               // the panel paints itself; the shadow lets the screen show
     popup->mouse_move_fn = MenuPointerMoved;  // the highlight follows the pointer
     NewHandler(&popup->handlers, MenuPopupInput, MenuPopupPaint, "menu", 0, sizeof(t_Handler), popup);
     if (level == 0) {
@@ -528,4 +527,3 @@ static void MenuPopupPaint(t_Handler *head)
     }
     MenuFontEnd(&font);
 }
-

@@ -6,14 +6,13 @@
 
 #include "lumora/lumora_internal.h"
 
-#define MSGBOX_WRAP 60        // characters on a line before the text wraps at a space
+#define MSGBOX_WRAP 60  // characters on a line before the text wraps at a space
 #define MSGBOX_MAX_LINES 40
 #define MSGBOX_PAD 12
 #define MSGBOX_GLYPH 32
 #define MSGBOX_BUTTON_MIN_W 72
 #define MSGBOX_BUTTON_GAP 8
-#define MSGBOX_FLAGS \
-    (WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_IN_FRONT | WF_DEPENDANT)
+#define MSGBOX_FLAGS (WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_IN_FRONT | WF_DEPENDANT)
 
 typedef struct T_MSGBOX_BUTTON {
     const char *label;
@@ -45,12 +44,14 @@ typedef struct T_MSGBOX {
 } T_MSGBOX;
 
 // Cuts the text into lines at '\n' and, past MSGBOX_WRAP characters, at the last space.
-static void WrapText(T_MSGBOX *box) {
+static void WrapText(T_MSGBOX *box)
+{
     const char *t = box->text;
     u32 at = 0, length = (u32)strlen(t);
     while (at <= length && box->lines < MSGBOX_MAX_LINES) {
         u32 end = at;
-        while (end < length && t[end] != '\n') end++;
+        while (end < length && t[end] != '\n')
+            end++;
         u32 n = end - at, skip = 1;
         if (n > MSGBOX_WRAP) {
             n = MSGBOX_WRAP, skip = 0;
@@ -63,29 +64,39 @@ static void WrapText(T_MSGBOX *box) {
         box->line_start[box->lines] = (u16)at, box->line_length[box->lines] = (u16)n;
         box->lines++;
         at += n + skip;
-        if (at > length) break;
+        if (at > length)
+            break;
     }
     QF_EXPECT(at > length);  // else the lines past MSGBOX_MAX_LINES are not shown
 }
 
-static T_MSGBOX *BoxOf(t_Window *window) { return (T_MSGBOX *)window->user_data; }
+static T_MSGBOX *BoxOf(t_Window *window)
+{
+    return (T_MSGBOX *)window->user_data;
+}
 
-static void Answer(t_Window *window, u32 answer) {
+static void Answer(t_Window *window, u32 answer)
+{
     T_MSGBOX *box = BoxOf(window);
-    if (!box || !IsWindowLive(window)) return;
+    if (!box || !IsWindowLive(window))
+        return;
     t_Window *parent = box->parent;
     u32 item_code = box->item_code;
     RemoveWindow(window);
-    if (IsWindowLive(parent)) DeliverMessage(parent, item_code, answer, NULL);
+    if (IsWindowLive(parent))
+        DeliverMessage(parent, item_code, answer, NULL);
 }
 
-static u32 EscapeAnswer(T_MSGBOX *box) {
+static u32 EscapeAnswer(T_MSGBOX *box)
+{
     for (u32 i = 0; i < box->button_count; i++)
-        if (box->buttons[i].answer == ACT_REQUESTER_CANCEL) return ACT_REQUESTER_CANCEL;
+        if (box->buttons[i].answer == ACT_REQUESTER_CANCEL)
+            return ACT_REQUESTER_CANCEL;
     return ACT_REQUESTER_OK;
 }
 
-static u32 MsgBoxMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+static u32 MsgBoxMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     (void)data;
     T_MSGBOX *box = BoxOf(window);
     switch (msg) {
@@ -101,7 +112,8 @@ static u32 MsgBoxMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
     }
 }
 
-static u32 MsgBoxInput(t_Handler *handler, u32 event, void *data) {
+static u32 MsgBoxInput(t_Handler *handler, u32 event, void *data)
+{
     T_MSGBOX *box = (T_MSGBOX *)handler;
     t_Window *window = handler->window;
     switch (event) {
@@ -113,8 +125,7 @@ static u32 MsgBoxInput(t_Handler *handler, u32 event, void *data) {
         }
         if (key == KEY_RETURN) {
             t_gadget *g = GetCurrentGadget(window);
-            u32 i = (g && g->live_item_code >= 1 && g->live_item_code <= box->button_count)
-                        ? g->live_item_code - 1 : 0;
+            u32 i = (g && g->live_item_code >= 1 && g->live_item_code <= box->button_count) ? g->live_item_code - 1 : 0;
             Answer(window, box->buttons[i].answer);
             return 1;
         }
@@ -130,12 +141,14 @@ static u32 MsgBoxInput(t_Handler *handler, u32 event, void *data) {
 }
 
 // A filled circle of `size` pixels with a mark in it: a cross (error), "i" or "?".
-void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind) {
+void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind)
+{
     static const u32 circle_colours[] = {0, 0x2828D0, 0xC07828, 0xC07828};
     i32 r = size / 2, cx = x + r, cy = y + r;
     for (i32 dy = -r; dy < r; dy++) {
         i32 dx = 0;
-        while ((dx + 1) * (dx + 1) + (dy + 1) * (dy + 1) <= r * r) dx++;
+        while ((dx + 1) * (dx + 1) + (dy + 1) * (dy + 1) <= r * r)
+            dx++;
         DrawRectangle((i16)(cx - dx), (i16)(cy + dy), (i16)(2 * dx), 1, circle_colours[kind]);
     }
     u32 white = 0xFFFFFF;
@@ -161,7 +174,8 @@ void DrawInfoGlyph(i16 x, i16 y, i16 size, int kind) {
     }
 }
 
-static void MsgBoxPaint(t_Handler *handler) {
+static void MsgBoxPaint(t_Handler *handler)
+{
     T_MSGBOX *box = (T_MSGBOX *)handler;
     t_Window *w = handler->window;
     i16 x = w->user_x + MSGBOX_PAD, y = w->user_y + MSGBOX_PAD;
@@ -180,8 +194,8 @@ static void MsgBoxPaint(t_Handler *handler) {
                   DISPLAY_RECORD->gadget_text_colour);
 }
 
-t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 style,
-                    u32 item_code) {
+t_Window *NewMsgBox(t_Window *parent, const char *title, const char *text, u32 style, u32 item_code)
+{
     return NewMsgBoxLabels(parent, title, text, style, item_code, NULL);
 }
 
@@ -191,34 +205,40 @@ typedef struct T_MSGBOX_SIZE {
     i16 button_w, button_h, row_w;  // a button, and the row of them
 } T_MSGBOX_SIZE;
 
-static T_MSGBOX_SIZE MeasureMsgBox(const T_MSGBOX *box) {
+static T_MSGBOX_SIZE MeasureMsgBox(const T_MSGBOX *box)
+{
     SetActiveFont(NULL);
     SetFontStyle(0);
     i16 fh = (i16)GetActiveFontHeight();
     i16 text_w = 0;
     for (u16 i = 0; i < box->lines; i++) {
         i16 lw = (i16)GetStringWidthN(box->text + box->line_start[i], box->line_length[i]);
-        if (lw > text_w) text_w = lw;
+        if (lw > text_w)
+            text_w = lw;
     }
     T_MSGBOX_SIZE size = {};
     size.button_w = MSGBOX_BUTTON_MIN_W, size.button_h = fh + 10;
     for (u32 i = 0; i < box->button_count; i++) {
         i16 bw = (i16)GetStringWidth(box->buttons[i].label) + 24;
-        if (bw > size.button_w) size.button_w = bw;
+        if (bw > size.button_w)
+            size.button_w = bw;
     }
     u32 count = box->button_count;
     size.row_w = (i16)(count * size.button_w + (count - 1) * MSGBOX_BUTTON_GAP);
     i16 glyph_w = box->glyph != GLYPH_NONE ? MSGBOX_GLYPH + MSGBOX_PAD : 0;
     size.user_w = MSGBOX_PAD + glyph_w + text_w + MSGBOX_PAD;
-    if (size.user_w < size.row_w + 2 * MSGBOX_PAD) size.user_w = size.row_w + 2 * MSGBOX_PAD;
+    if (size.user_w < size.row_w + 2 * MSGBOX_PAD)
+        size.user_w = size.row_w + 2 * MSGBOX_PAD;
     i16 body_h = box->lines * fh;
-    if (box->glyph != GLYPH_NONE && body_h < MSGBOX_GLYPH) body_h = MSGBOX_GLYPH;
+    if (box->glyph != GLYPH_NONE && body_h < MSGBOX_GLYPH)
+        body_h = MSGBOX_GLYPH;
     size.user_h = MSGBOX_PAD + body_h + MSGBOX_PAD + size.button_h + MSGBOX_PAD;
     return size;
 }
 
 // The buttons in a row centred at the bottom; item codes count them from 1; the first has the focus.
-static void AddMsgBoxButtons(t_Window *window, const T_MSGBOX *box, const T_MSGBOX_SIZE &size) {
+static void AddMsgBoxButtons(t_Window *window, const T_MSGBOX *box, const T_MSGBOX_SIZE &size)
+{
     t_Gaget_Handler *gh = NewGadgetHandler(window);
     T_GADGETOBJECTINIT gi = {};
     gi.type = GADGET_TYPE_BUTTON;
@@ -233,16 +253,19 @@ static void AddMsgBoxButtons(t_Window *window, const T_MSGBOX *box, const T_MSGB
     gh->current_gadget = gh->first_gadget;
 }
 
-t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style,
-                          u32 item_code, const char *const *labels) {
-    if (parent && !IsWindowLive(parent)) parent = NULL;
+t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text, u32 style, u32 item_code,
+                          const char *const *labels)
+{
+    if (parent && !IsWindowLive(parent))
+        parent = NULL;
     // The box's record, made before its window so that the window can be sized to it.
     T_MSGBOX measure = {};
     int question = (style & MSGBOX_BUTTONS_MASK) == MSGBOX_BUTTONS_YES_NO_CANCEL;
     measure.button_count = question ? 3 : 1;
     for (u32 i = 0; i < measure.button_count; i++) {
         measure.buttons[i] = question ? question_buttons[i] : ok_buttons[i];
-        if (labels && labels[i]) measure.buttons[i].label = labels[i];
+        if (labels && labels[i])
+            measure.buttons[i].label = labels[i];
     }
     measure.glyph = (style & MSGBOX_GLYPH_ERROR)      ? GLYPH_ERROR
                     : (style & MSGBOX_GLYPH_INFO)     ? GLYPH_INFO
@@ -255,7 +278,7 @@ t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text,
     WrapText(&measure);
     T_MSGBOX_SIZE size = MeasureMsgBox(&measure);
 
-    const T_DIALOG_SPEC spec = {title,       parent,      size.user_w, size.user_h, MSGBOX_FLAGS | WF_CHILD,
+    const T_DIALOG_SPEC spec = {title,           parent,        size.user_w, size.user_h, MSGBOX_FLAGS | WF_CHILD,
                                 IDCMP_TERMINATE, MsgBoxMessage, MsgBoxInput, MsgBoxPaint, "msgbox",
                                 sizeof(T_MSGBOX)};
     T_MSGBOX *box = (T_MSGBOX *)OpenDialog(&spec);
@@ -272,14 +295,18 @@ t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text,
     return window;
 }
 
-void SetMessageBoxIcon(t_Window *box, T_TEXTURE_BANK *bank, u16 icon) {
-    if (!box || !box->user_data) return;
+void SetMessageBoxIcon(t_Window *box, T_TEXTURE_BANK *bank, u16 icon)
+{
+    if (!box || !box->user_data)
+        return;
     T_MSGBOX *m = BoxOf(box);
     m->icon_bank = bank;
     m->icon = icon;
 }
 
-const char *MessageBoxText(t_Window *box) {
-    if (!box || box->message != MsgBoxMessage || !box->user_data) return NULL;
+const char *MessageBoxText(t_Window *box)
+{
+    if (!box || box->message != MsgBoxMessage || !box->user_data)
+        return NULL;
     return BoxOf(box)->text;
 }

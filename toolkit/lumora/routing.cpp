@@ -27,9 +27,13 @@
 
 static T_LUMORA_STATE *st = &lumora_state;
 
-static t_List *TopLevel(void) { return &CURRENT_DISPLAY->window_class->windows; }
+static t_List *TopLevel(void)
+{
+    return &CURRENT_DISPLAY->window_class->windows;
+}
 
-static T_MOUSE_MSG MouseMsg(u16 action) {
+static T_MOUSE_MSG MouseMsg(u16 action)
+{
     T_MOUSE_MSG m = {st->mouse_x, st->mouse_y, st->qualifiers, action};
     return m;
 }
@@ -37,12 +41,12 @@ static T_MOUSE_MSG MouseMsg(u16 action) {
 // --- Finding the window under a point -------------------------------------------------------------
 
 // The buttons of minimised windows in `list` stand in front of the windows of the list.
-static t_Window *MinimisedAt(t_List *list, i16 x, i16 y, T_RPOS clip) {
+static t_Window *MinimisedAt(t_List *list, i16 x, i16 y, T_RPOS clip)
+{
     for (t_Node *n = list->last; n->prev; n = n->prev) {
         t_Window *w = (t_Window *)n;
         T_RPOS r;
-        if (IsWindowLive(w) && MinimisedButtonRect(w, &r) && RectIntersect(&r, &clip) &&
-            PointBoxColl(x, y, &r))
+        if (IsWindowLive(w) && MinimisedButtonRect(w, &r) && RectIntersect(&r, &clip) && PointBoxColl(x, y, &r))
             return w;
     }
     return NULL;
@@ -50,33 +54,42 @@ static t_Window *MinimisedAt(t_List *list, i16 x, i16 y, T_RPOS clip) {
 
 // The topmost window at x, y: `w` or one of its children (which stand in front of it), each
 // clipped to `clip`, or to the parent's user area for WF_CLIP_PARENT children.
-static t_Window *HitOne(t_Window *w, i16 x, i16 y, T_RPOS clip, t_Window **minimised) {
+static t_Window *HitOne(t_Window *w, i16 x, i16 y, T_RPOS clip, t_Window **minimised)
+{
     if (!IsWindowLive(w) || IsPopup(w) || w->state != WINDOW_STATE_OPEN || (w->flags & WF_NO_MOUSE))
         return NULL;
     T_RPOS user = UserArea(w);
     RectIntersect(&user, &clip);
-    if ((*minimised = MinimisedAt(&w->children, x, y, user))) return NULL;
+    if ((*minimised = MinimisedAt(&w->children, x, y, user)))
+        return NULL;
     for (t_Node *c = w->children.last; c->prev; c = c->prev) {
         t_Window *child = (t_Window *)c;
-        if (IsFloating(child)) continue;  // tried before the tree
+        if (IsFloating(child))
+            continue;  // tried before the tree
         t_Window *hit = HitOne(child, x, y, (child->flags & WF_CLIP_PARENT) ? user : clip, minimised);
-        if (hit || *minimised) return hit;
+        if (hit || *minimised)
+            return hit;
     }
     T_RPOS f = {w->x, w->y, w->w, w->h};
-    if (RectIntersect(&f, &clip) && PointBoxColl(x, y, &f)) return w;
+    if (RectIntersect(&f, &clip) && PointBoxColl(x, y, &f))
+        return w;
     return NULL;
 }
 
 // Popups first, then the floating windows, then the window tree. A hit on a minimised window's
 // button gives null and that window in *minimised.
-t_Window *WindowAtPoint(i16 x, i16 y, t_Window **minimised) {
+t_Window *WindowAtPoint(i16 x, i16 y, t_Window **minimised)
+{
     t_Window *min = NULL;
-    if (minimised) *minimised = NULL;
-    if (!CURRENT_DISPLAY->window_class) return NULL;
+    if (minimised)
+        *minimised = NULL;
+    if (!CURRENT_DISPLAY->window_class)
+        return NULL;
     for (t_Node *n = TopLevel()->last; n->prev; n = n->prev) {
         t_Window *w = (t_Window *)n;
         T_RPOS f = {w->x, w->y, w->w, w->h};
-        if (IsWindowLive(w) && IsPopup(w) && PointBoxColl(x, y, &f)) return w;
+        if (IsWindowLive(w) && IsPopup(w) && PointBoxColl(x, y, &f))
+            return w;
     }
     T_RPOS screen;
     GetPhysicalScreenRes(&screen);
@@ -84,74 +97,104 @@ t_Window *WindowAtPoint(i16 x, i16 y, t_Window **minimised) {
     for (u32 i = CollectFloatingWindows(floating, FLOATING_MAX); i > 0; i--) {
         t_Window *hit = HitOne(floating[i - 1], x, y, screen, &min);
         if (min) {
-            if (minimised) *minimised = min;
+            if (minimised)
+                *minimised = min;
             return NULL;
         }
-        if (hit) return hit;
+        if (hit)
+            return hit;
     }
     if ((min = MinimisedAt(TopLevel(), x, y, screen))) {
-        if (minimised) *minimised = min;
+        if (minimised)
+            *minimised = min;
         return NULL;
     }
     for (t_Node *n = TopLevel()->last; n->prev; n = n->prev) {
         t_Window *hit = HitOne((t_Window *)n, x, y, screen, &min);
         if (min) {
-            if (minimised) *minimised = min;
+            if (minimised)
+                *minimised = min;
             return NULL;
         }
-        if (hit) return hit;
+        if (hit)
+            return hit;
     }
     return NULL;
 }
 
 // --- Mouse ---------------------------------------------------------------------------------------
 
-static int FrameKind(u32 kind) { return kind == HANDLER_KIND_TITLEBAR || kind == HANDLER_KIND_BORDER; }
+static int FrameKind(u32 kind)
+{
+    return kind == HANDLER_KIND_TITLEBAR || kind == HANDLER_KIND_BORDER;
+}
 
 // Offers the event to the window's handlers that `pick` selects, by priority, until one takes it.
-static t_Handler *OfferToHandlers(t_Window *w, u32 event, void *data, int (*pick)(u32 kind)) {
+static t_Handler *OfferToHandlers(t_Window *w, u32 event, void *data, int (*pick)(u32 kind))
+{
     t_Handler *list[HANDLERS_MAX];
     u32 n = SnapshotHandlers(w, list, HANDLERS_MAX);
     for (u32 i = 0; i < n; i++) {
         t_Handler *h = list[i];
-        if (!pick(h->kind) || !HandlerIsOn(w, h) || !h->input) continue;
-        if (h->input(h, event, data)) return h;
+        if (!pick(h->kind) || !HandlerIsOn(w, h) || !h->input)
+            continue;
+        if (h->input(h, event, data))
+            return h;
     }
     return NULL;
 }
 
-static int MenuKind(u32 kind) { return kind == HANDLER_KIND_MENU; }
-static int OwnerKind(u32 kind) { return !FrameKind(kind) && !MenuKind(kind) && kind != HANDLER_KIND_GADGET; }
-static int AnyKind(u32 kind) { return (void)kind, 1; }
+static int MenuKind(u32 kind)
+{
+    return kind == HANDLER_KIND_MENU;
+}
+static int OwnerKind(u32 kind)
+{
+    return !FrameKind(kind) && !MenuKind(kind) && kind != HANDLER_KIND_GADGET;
+}
+static int AnyKind(u32 kind)
+{
+    return (void)kind, 1;
+}
 
-static int IsPress(u16 action) { return action == ACT_LMOUSE_DOWN || action == ACT_RMOUSE_DOWN; }
+static int IsPress(u16 action)
+{
+    return action == ACT_LMOUSE_DOWN || action == ACT_RMOUSE_DOWN;
+}
 
 // One mouse event in a window: frame, menu bar, gadget, other handlers. With `capture`, whoever
 // takes it holds the pointer until the buttons are up. True when taken.
-static int RouteToWindow(t_Window *w, T_MOUSE_MSG *m, int capture) {
+static int RouteToWindow(t_Window *w, T_MOUSE_MSG *m, int capture)
+{
     t_Handler *h = OfferToHandlers(w, HANDLER_EVENT_MOUSE, m, FrameKind);
-    if (!h && IsWindowLive(w)) h = OfferToHandlers(w, HANDLER_EVENT_MOUSE, m, MenuKind);
+    if (!h && IsWindowLive(w))
+        h = OfferToHandlers(w, HANDLER_EVENT_MOUSE, m, MenuKind);
     if (h) {
-        if (capture) st->capture = T_CAPTURE{w, h, NULL};
+        if (capture)
+            st->capture = T_CAPTURE{w, h, NULL};
         return 1;
     }
-    if (!IsWindowLive(w)) return 0;
+    if (!IsWindowLive(w))
+        return 0;
     t_gadget *g = GadgetAtPoint(w, m->x, m->y);
     if (g) {
         if (IsPress(m->mouse_action)) {
             g->handler->current_gadget = g;
             g->handler->pressed_gadget = g;
         }
-        if (capture) st->capture = T_CAPTURE{w, NULL, g};
+        if (capture)
+            st->capture = T_CAPTURE{w, NULL, g};
         GadgetMouseEvent(w, g, m);
         return 1;
     }
     h = OfferToHandlers(w, HANDLER_EVENT_MOUSE, m, OwnerKind);
-    if (h && capture) st->capture = T_CAPTURE{w, h, NULL};
+    if (h && capture)
+        st->capture = T_CAPTURE{w, h, NULL};
     return h != NULL;
 }
 
-static void ToCapture(T_MOUSE_MSG *m) {
+static void ToCapture(T_MOUSE_MSG *m)
+{
     T_CAPTURE c = st->capture;
     if (!IsWindowLive(c.window)) {
         st->capture = T_CAPTURE{};
@@ -163,12 +206,15 @@ static void ToCapture(T_MOUSE_MSG *m) {
         c.handler->input(c.handler, HANDLER_EVENT_MOUSE, m);
 }
 
-void BreakPress(void) {
+void BreakPress(void)
+{
     T_CAPTURE c = st->capture;
     st->broken_buttons |= st->buttons;
     st->capture = T_CAPTURE{};
-    if (c.gadget) c.gadget->gadget_state &= ~GSTATE_PRESSED;
-    if (!IsWindowLive(c.window)) return;
+    if (c.gadget)
+        c.gadget->gadget_state &= ~GSTATE_PRESSED;
+    if (!IsWindowLive(c.window))
+        return;
     t_Handler *list[HANDLERS_MAX];
     u32 n = SnapshotHandlers(c.window, list, HANDLERS_MAX);
     for (u32 i = 0; i < n; i++)
@@ -177,7 +223,8 @@ void BreakPress(void) {
 }
 
 // The image shown while no button is down: a border handle's, or a gadget's own cursor.
-static void HoverImage(t_Window *w, t_gadget *g) {
+static void HoverImage(t_Window *w, t_gadget *g)
+{
     u16 handle = w ? BorderHandleAt(w, st->mouse_x, st->mouse_y) : 0;
     if (handle) {
         SetBorderMouseImage(handle);
@@ -191,7 +238,8 @@ static void HoverImage(t_Window *w, t_gadget *g) {
     }
 }
 
-static void RouteMove(i16 x, i16 y) {
+static void RouteMove(i16 x, i16 y)
+{
     SetPointer(x, y);
     st->last_move_ms = _LumoraBase->time_ms;
     if (st->capture.window) {
@@ -202,10 +250,12 @@ static void RouteMove(i16 x, i16 y) {
         t_gadget *g = w ? GadgetAtPoint(w, st->mouse_x, st->mouse_y) : NULL;
         t_Gaget_Handler *gh = w ? FindGadgetHandler(w) : NULL;
         if (gh && gh->hover_gadget != g) {
-            if (gh->hover_gadget) gh->hover_gadget->gadget_state &= ~GSTATE_HOVER;
+            if (gh->hover_gadget)
+                gh->hover_gadget->gadget_state &= ~GSTATE_HOVER;
             gh->hover_gadget = g;
             gh->hover_since_ms = _LumoraBase->time_ms;
-            if (g) g->gadget_state |= GSTATE_HOVER;
+            if (g)
+                g->gadget_state |= GSTATE_HOVER;
         }
         HoverImage(w, g);
         if (w) {
@@ -222,35 +272,43 @@ static void RouteMove(i16 x, i16 y) {
 
 // An event for the open popups' handlers, the top one first, until one takes it. The popups are
 // taken first, since a handler may close them.
-static int OfferToPopups(u32 event, void *data) {
+static int OfferToPopups(u32 event, void *data)
+{
     t_Window *popups[POPUPS_MAX];
     u32 n = 0;
     for (t_Node *p = TopLevel()->last; p->prev; p = p->prev)
         if (IsWindowLive((t_Window *)p) && IsPopup((t_Window *)p)) {
-            if (!QF_EXPECT(n < POPUPS_MAX)) break;
+            if (!QF_EXPECT(n < POPUPS_MAX))
+                break;
             popups[n++] = (t_Window *)p;
         }
     for (u32 i = 0; i < n; i++)
-        if (IsWindowLive(popups[i]) && OfferToHandlers(popups[i], event, data, AnyKind)) return 1;
+        if (IsWindowLive(popups[i]) && OfferToHandlers(popups[i], event, data, AnyKind))
+            return 1;
     return 0;
 }
 
 // While a popup is open, a press outside every popup goes first to the popups' handlers.
-static int OfferOutside(T_MOUSE_MSG *m) {
+static int OfferOutside(T_MOUSE_MSG *m)
+{
     return OfferToPopups(HANDLER_EVENT_OUTSIDE, m);
 }
 
-static int IsWithinWindow(t_Window *w, t_Window *ancestor) {
+static int IsWithinWindow(t_Window *w, t_Window *ancestor)
+{
     for (; w; w = w->parent)
-        if (w == ancestor) return 1;
+        if (w == ancestor)
+            return 1;
     return 0;
 }
 
 // Whether a press on `w` at x, y moves the input focus there. A popup, a toolbar (a palette) and
 // the menu bar of the window the keys already go to (or of one of its ancestors) don't: after a
 // pick there, the keys go where they went before.
-static int PressTakesFocus(t_Window *w, i16 x, i16 y) {
-    if (IsPopup(w) || FindHandlerOfKind(w, HANDLER_KIND_TOOLBAR)) return 0;
+static int PressTakesFocus(t_Window *w, i16 x, i16 y)
+{
+    if (IsPopup(w) || FindHandlerOfKind(w, HANDLER_KIND_TOOLBAR))
+        return 0;
     T_RPOS bar;
     t_Window *focus = FocusWindow();
     if (IsWindowLive(focus) && IsWithinWindow(focus, w) && MenuBarRect(w, &bar) && PointBoxColl(x, y, &bar))
@@ -258,7 +316,8 @@ static int PressTakesFocus(t_Window *w, i16 x, i16 y) {
     return FocusWindow() != w;
 }
 
-static void RoutePress(u16 button, i16 x, i16 y) {
+static void RoutePress(u16 button, i16 x, i16 y)
+{
     SetPointer(x, y);
     u16 bit = button == 1 ? 1 : 2;
     T_MOUSE_MSG m = MouseMsg(button == 1 ? ACT_LMOUSE_DOWN : ACT_RMOUSE_DOWN);
@@ -275,24 +334,28 @@ static void RoutePress(u16 button, i16 x, i16 y) {
         return;
     }
     w = WindowAtPoint(m.x, m.y, &min);  // the popups may have closed
-    if (min) {  // a minimised window's button restores it
+    if (min) {                          // a minimised window's button restores it
         RestoreMinimised(min);
         st->broken_buttons |= bit;
         return;
     }
     st->press_window = w;
-    if (!w) return;
+    if (!w)
+        return;
     if (PressTakesFocus(w, m.x, m.y))
         ISetActiveWindow(w);
     else if (!IsPopup(w))
-        for (t_Window *t = w; t; t = t->parent) WindowToFront(t);
-    if (!IsWindowLive(w)) return;
+        for (t_Window *t = w; t; t = t->parent)
+            WindowToFront(t);
+    if (!IsWindowLive(w))
+        return;
     u32 now = _LumoraBase->time_ms;
     int dbl = button == 1 && st->last_press_window == w && now - st->last_press_ms <= DOUBLE_CLICK_MS &&
               abs(m.x - st->last_press_x) <= DOUBLE_CLICK_DISTANCE &&
               abs(m.y - st->last_press_y) <= DOUBLE_CLICK_DISTANCE;
     RouteToWindow(w, &m, 1);
-    if (button != 1) return;
+    if (button != 1)
+        return;
     if (!dbl) {
         st->last_press_ms = now, st->last_press_x = m.x, st->last_press_y = m.y;
         st->last_press_window = w;
@@ -306,7 +369,8 @@ static void RoutePress(u16 button, i16 x, i16 y) {
         RouteToWindow(w, &d, 0);
 }
 
-static void RouteRelease(u16 button, i16 x, i16 y) {
+static void RouteRelease(u16 button, i16 x, i16 y)
+{
     SetPointer(x, y);
     u16 bit = button == 1 ? 1 : 2;
     st->buttons &= ~bit;
@@ -319,29 +383,33 @@ static void RouteRelease(u16 button, i16 x, i16 y) {
     if (c.window) {
         ToCapture(&m);
         // RemoveGadget clears the capture, so an unchanged capture names a gadget still there.
-        if (!st->buttons && c.gadget && st->capture.gadget == c.gadget &&
-            c.gadget->handler->pressed_gadget == c.gadget)
+        if (!st->buttons && c.gadget && st->capture.gadget == c.gadget && c.gadget->handler->pressed_gadget == c.gadget)
             c.gadget->handler->pressed_gadget = NULL;
-        if (!st->buttons) st->capture = T_CAPTURE{};
+        if (!st->buttons)
+            st->capture = T_CAPTURE{};
     } else if (IsWindowLive(st->press_window)) {
         RouteToWindow(st->press_window, &m, 0);
     }
-    if (!st->buttons) st->press_window = NULL;
+    if (!st->buttons)
+        st->press_window = NULL;
 }
 
-static void RouteWheel(i16 wheel) {
+static void RouteWheel(i16 wheel)
+{
     T_MOUSE_MSG m = MouseMsg(wheel > 0 ? ACT_MOUSE_WHEEL_UP : ACT_MOUSE_WHEEL_DOWN);
     if (st->capture.window) {
         ToCapture(&m);
         return;
     }
     t_Window *w = WindowAtPoint(m.x, m.y, NULL);
-    if (w) RouteToWindow(w, &m, 0);
+    if (w)
+        RouteToWindow(w, &m, 0);
 }
 
 // --- Keys ----------------------------------------------------------------------------------------
 
-static void RouteKey(u16 key, u16 qualifiers) {
+static void RouteKey(u16 key, u16 qualifiers)
+{
     T_KEY_MSG km = {key, qualifiers};
     t_Window *focus = FocusWindow();
     if (key == KEY_ALT_F4 && (qualifiers & QUAL_ALT)) {
@@ -351,56 +419,72 @@ static void RouteKey(u16 key, u16 qualifiers) {
         t_Window *closing = focus;
         while (closing && !(closing->flags & WF_ALTF4) && !(closing->flags & (WF_IN_FRONT | WF_DEPENDANT)))
             closing = closing->parent;
-        if (closing && !(closing->flags & WF_ALTF4)) closing = NULL;
+        if (closing && !(closing->flags & WF_ALTF4))
+            closing = NULL;
         if (closing) {
             CloseByFrame(closing);
             return;
         }
     }
-    if (OfferToPopups(HANDLER_EVENT_KEY, &km)) return;
+    if (OfferToPopups(HANDLER_EVENT_KEY, &km))
+        return;
     focus = FocusWindow();
-    if (!IsWindowLive(focus)) return;
-    if (OfferToHandlers(focus, HANDLER_EVENT_KEY, &km, AnyKind) || !IsWindowLive(focus)) return;
+    if (!IsWindowLive(focus))
+        return;
+    if (OfferToHandlers(focus, HANDLER_EVENT_KEY, &km, AnyKind) || !IsWindowLive(focus))
+        return;
     // Alt with a letter opens a menu of the nearest ancestor that has a menu bar.
     if (qualifiers & QUAL_ALT)
         for (t_Window *a = focus->parent; a; a = a->parent)
-            if (IsWindowLive(a) && OfferToHandlers(a, HANDLER_EVENT_KEY, &km, MenuKind)) return;
-    if (!IsWindowLive(focus)) return;
+            if (IsWindowLive(a) && OfferToHandlers(a, HANDLER_EVENT_KEY, &km, MenuKind))
+                return;
+    if (!IsWindowLive(focus))
+        return;
     t_gadget *g = GetCurrentGadget(focus);
-    if (g && GadgetKeyEvent(focus, g, key, qualifiers)) return;
-    if (!IsWindowLive(focus)) return;
+    if (g && GadgetKeyEvent(focus, g, key, qualifiers))
+        return;
+    if (!IsWindowLive(focus))
+        return;
     if (key == KEY_TAB && !(MessageMask(focus) & IDCMP_KEY) && DialogWindow(focus)) {
         TabToNextGadget(focus, (qualifiers & QUAL_SHIFT) != 0);
         return;
     }
     // ACT_KEY goes to the first window, from the focus up, whose mask asks for keys.
     t_Window *w = focus;
-    while (w && !(MessageMask(w) & IDCMP_KEY)) w = w->parent;
-    if (w && DeliverMessage(w, key, ACT_KEY, &km)) return;
+    while (w && !(MessageMask(w) & IDCMP_KEY))
+        w = w->parent;
+    if (w && DeliverMessage(w, key, ACT_KEY, &km))
+        return;
     if (key == KEY_TAB && IsWindowLive(focus) && DialogWindow(focus))
         TabToNextGadget(focus, (qualifiers & QUAL_SHIFT) != 0);
 }
 
 // Typed text: each character of the Latin-1 range is its own key.
-static void RouteText(const char *text, u16 qualifiers) {
+static void RouteText(const char *text, u16 qualifiers)
+{
     const u8 *p = (const u8 *)text;
     while (*p) {
         u32 c = *p++;
         if (c >= 0x80) {  // a two-byte sequence reaches 0x7FF; longer ones are outside Latin-1
             int more = c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : c >= 0xC0 ? 1 : 0;
             c &= more == 1 ? 0x1F : more == 2 ? 0x0F : 0x07;
-            for (int i = 0; i < more && (*p & 0xC0) == 0x80; i++) c = (c << 6) | (*p++ & 0x3F);
-            if (!more) continue;
+            for (int i = 0; i < more && (*p & 0xC0) == 0x80; i++)
+                c = (c << 6) | (*p++ & 0x3F);
+            if (!more)
+                continue;
         }
-        if (c < 256) RouteKey((u16)c, qualifiers);
+        if (c < 256)
+            RouteKey((u16)c, qualifiers);
     }
 }
 
 // --- Other input ---------------------------------------------------------------------------------
 
-static void RouteDrop(const char *path) {
+static void RouteDrop(const char *path)
+{
     t_Window *w = WindowAtPoint(st->mouse_x, st->mouse_y, NULL);
-    while (w && !(MessageMask(w) & IDCMP_RECEIVE_OBJECT)) w = w->parent;
+    while (w && !(MessageMask(w) & IDCMP_RECEIVE_OBJECT))
+        w = w->parent;
     if (!w) {
         myprintf(3, "A dropped file found no window to take it: %s\n", path);
         return;
@@ -412,28 +496,34 @@ static void RouteDrop(const char *path) {
     DeliverMessage(w, DROPPED_FILE_ITEM_CODE, ACT_RECEIVE_OBJECT, &file);
 }
 
-static void RouteQuit(void) {
+static void RouteQuit(void)
+{
     t_Window *windows[TOP_WINDOWS_MAX];
     u32 n = 0;
     for (t_Node *w = TopLevel()->first; w->next && QF_EXPECT(n < TOP_WINDOWS_MAX); w = w->next)
         windows[n++] = (t_Window *)w;
-    for (u32 i = 0; i < n; i++) DeliverMessage(windows[i], 0, ACT_TERMINATE, NULL);
+    for (u32 i = 0; i < n; i++)
+        DeliverMessage(windows[i], 0, ACT_TERMINATE, NULL);
 }
 
-void RouteInput(T_INPUT_EVENT *e) {
+void RouteInput(T_INPUT_EVENT *e)
+{
     st->qualifiers = e->qualifiers;
     switch (e->kind) {
     case INPUT_MOUSE_MOVE:  // capture holder, or an idle move for the window under the pointer
         RouteMove(e->x, e->y);
         break;
     case INPUT_MOUSE_DOWN:  // left (1) or right (3) press
-        if (e->button == 1 || e->button == 3) RoutePress(e->button, e->x, e->y);
+        if (e->button == 1 || e->button == 3)
+            RoutePress(e->button, e->x, e->y);
         break;
     case INPUT_MOUSE_UP:
-        if (e->button == 1 || e->button == 3) RouteRelease(e->button, e->x, e->y);
+        if (e->button == 1 || e->button == 3)
+            RouteRelease(e->button, e->x, e->y);
         break;
     case INPUT_WHEEL:
-        if (e->wheel) RouteWheel(e->wheel);
+        if (e->wheel)
+            RouteWheel(e->wheel);
         break;
     case INPUT_KEY_DOWN:
         RouteKey(e->key, e->qualifiers);
@@ -451,7 +541,8 @@ void RouteInput(T_INPUT_EVENT *e) {
         RouteQuit();
         break;
     case INPUT_FOCUS_LOST:  // a press in progress is broken off
-        if (st->buttons && st->capture.window) BreakPress();
+        if (st->buttons && st->capture.window)
+            BreakPress();
         st->broken_buttons |= st->buttons;
         st->buttons = 0;
         break;

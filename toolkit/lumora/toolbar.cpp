@@ -5,12 +5,12 @@
 #include "lumora/lumora_internal.h"
 
 enum {
-    TOOLBAR_BUTTON = 30,      // a button is square
-    TOOLBAR_ICON = 24,        // the icon inside it
-    TOOLBAR_PAD = 2,          // round the row of buttons
-    TOOLBAR_PLACE = 4,        // from the owner's user area's top left
-    TOOLBAR_TIP_PAD = 4,      // round the hover text
-    TOOLBAR_TIP_X = 12,       // the hover text's place from the pointer
+    TOOLBAR_BUTTON = 30,  // a button is square
+    TOOLBAR_ICON = 24,    // the icon inside it
+    TOOLBAR_PAD = 2,      // round the row of buttons
+    TOOLBAR_PLACE = 4,    // from the owner's user area's top left
+    TOOLBAR_TIP_PAD = 4,  // round the hover text
+    TOOLBAR_TIP_X = 12,   // the hover text's place from the pointer
     TOOLBAR_TIP_Y = 20,
     TOOLBAR_HOVER_ALPHA = 60,
     TOOLBAR_ACTIVE_ALPHA = 90,
@@ -24,8 +24,8 @@ static void RequestRepaint(void)
 
 static T_RPOS ButtonRect(t_Window *window, u32 index)
 {
-    T_RPOS rect = {(i16)(window->user_x + TOOLBAR_PAD + index * TOOLBAR_BUTTON),
-                   (i16)(window->user_y + TOOLBAR_PAD), TOOLBAR_BUTTON, TOOLBAR_BUTTON};
+    T_RPOS rect = {(i16)(window->user_x + TOOLBAR_PAD + index * TOOLBAR_BUTTON), (i16)(window->user_y + TOOLBAR_PAD),
+                   TOOLBAR_BUTTON, TOOLBAR_BUTTON};
     return rect;
 }
 
@@ -55,7 +55,8 @@ static void FitToolBar(T_TOOLBAR_HANDLER *toolbar)
     if (owner) {
         i32 below = window->y + window->h - owner->user_y;
         owner->cascade_start = (u16)((below + CASCADE_STEP - 1) / CASCADE_STEP);
-        if (owner->cascade_index < owner->cascade_start) owner->cascade_index = owner->cascade_start;
+        if (owner->cascade_index < owner->cascade_start)
+            owner->cascade_index = owner->cascade_start;
     }
 }
 
@@ -194,8 +195,8 @@ T_TOOLBAR_HANDLER *NewToolBar(t_Window *window, const char *name)
     InitList(&toolbar->entries, name);
     bar_window->user_data = toolbar;
     bar_window->extra_flags = 0;
-    t_Handler *handler = NewHandler(&bar_window->handlers, ToolBarInput, ToolBarPaint, "toolbar", 0,
-                                    sizeof(t_Handler), bar_window);
+    t_Handler *handler =
+        NewHandler(&bar_window->handlers, ToolBarInput, ToolBarPaint, "toolbar", 0, sizeof(t_Handler), bar_window);
     if (handler)
         handler->kind = HANDLER_KIND_TOOLBAR;
     FitToolBar(toolbar);
@@ -206,8 +207,7 @@ void AddToolBarIcon(T_TOOLBAR_HANDLER *toolbar, const char *label, u16 icon, u32
 {
     if (!toolbar)
         return;
-    T_TOOLBAR_ENTRY *entry =
-        (T_TOOLBAR_ENTRY *)NewTail(&toolbar->entries, sizeof(T_TOOLBAR_ENTRY), label ? label : "");
+    T_TOOLBAR_ENTRY *entry = (T_TOOLBAR_ENTRY *)NewTail(&toolbar->entries, sizeof(T_TOOLBAR_ENTRY), label ? label : "");
     entry->icon = icon;
     entry->item_code = item_code;
     FitToolBar(toolbar);

@@ -40,28 +40,31 @@ static const T_DISPLAY_RECORD default_look = {
     .hover_back_colour = 0xE1FFFF,
 };
 
-#define TITLE_MARGIN 8        // title bar: the system font's height plus this
+#define TITLE_MARGIN 8           // title bar: the system font's height plus this
 #define FALLBACK_FONT_HEIGHT 16  // when no font could be read
 
 // The back ends by name.
 static const struct {
     const char *name;
     const T_DISPLAY_BACKEND *backend;
+    // clang-format off
 } backends[] = {
-    {"sdl", &display_sdl},
+    {"sdl",      &display_sdl},
     {"headless", &display_headless},
 };
-
+// clang-format on
 
 // Points the draw surface at the display's framebuffer (again after a resize).
-static void AttachScreen(void) {
+static void AttachScreen(void)
+{
     T_SURFACE *s = &lumora_state.screen;
     s->pixels = display->pixels(&s->width, &s->height, &s->pitch);
     SetDrawSurface(s);
     ClipAll();
 }
 
-int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_root) {
+int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_root)
+{
     if (_LumoraBase->running) {
         myprintf(0, "OpenToolkit: the toolkit is already open\n");
         return 0;
@@ -70,7 +73,8 @@ int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_roo
         myprintf(0, "OpenToolkit: the data root %s can't be used\n", data_root);
     const T_DISPLAY_BACKEND *chosen = NULL;
     for (const auto &row : backends)
-        if (backend && strcmp(backend, row.name) == 0) chosen = row.backend;
+        if (backend && strcmp(backend, row.name) == 0)
+            chosen = row.backend;
     if (!chosen) {
         myprintf(0, "OpenToolkit: no display back end named %s\n", backend ? backend : "(none)");
         return 0;
@@ -91,23 +95,22 @@ int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_roo
 
     char font_dir[FILE_PATH_SIZE];
     snprintf(font_dir, sizeof(font_dir), "%s", MakePathFromSystem("System\\Fonts"));
-    if (!InitFonts(font_dir)) myprintf(0, "OpenToolkit: no system font could be read\n");
+    if (!InitFonts(font_dir))
+        myprintf(0, "OpenToolkit: no system font could be read\n");
 
     st->record = default_look;
     T_DISPLAY_RECORD *rec = &st->record;
     SetActiveFont(NULL);
     rec->system_font = GetActiveFont();
-    rec->title_height =
-        (rec->system_font ? GetFontHeight(rec->system_font) : FALLBACK_FONT_HEIGHT) + TITLE_MARGIN;
+    rec->title_height = (rec->system_font ? GetFontHeight(rec->system_font) : FALLBACK_FONT_HEIGHT) + TITLE_MARGIN;
     st->own_icon_bank = MakeStandardIconBank();
     rec->icon_bank = st->own_icon_bank;
 
-    T_WINDOW_CLASS *wc = (T_WINDOW_CLASS *)NewHandler(&st->class_handlers, NULL, NULL, "windows",
-                                                      0, sizeof(T_WINDOW_CLASS), NULL);
+    T_WINDOW_CLASS *wc =
+        (T_WINDOW_CLASS *)NewHandler(&st->class_handlers, NULL, NULL, "windows", 0, sizeof(T_WINDOW_CLASS), NULL);
     wc->head.kind = HANDLER_KIND_WINDOW_CLASS;
     InitList(&wc->windows, "windows");
-    t_Handler *menus = NewHandler(&st->class_handlers, NULL, NULL, "detached menus", 0,
-                                  sizeof(t_Handler), NULL);
+    t_Handler *menus = NewHandler(&st->class_handlers, NULL, NULL, "detached menus", 0, sizeof(t_Handler), NULL);
     menus->kind = HANDLER_KIND_DETACHED_MENU_CLASS;
 
     memset(_LumoraBase, 0, sizeof(*_LumoraBase));
@@ -124,8 +127,10 @@ int OpenToolkit(const char *backend, i16 width, i16 height, const char *data_roo
     return 1;
 }
 
-void CloseToolkit(void) {
-    if (!display || !CURRENT_DISPLAY->record) return;
+void CloseToolkit(void)
+{
+    if (!display || !CURRENT_DISPLAY->record)
+        return;
     T_LUMORA_STATE *st = &lumora_state;
     FreeAllWindows();
     CloseMarshalry();
@@ -139,21 +144,26 @@ void CloseToolkit(void) {
         b->use_count = 1;
         ReleaseBitmap(b);
     }
-    while (!LIST_EMPTY(&st->class_handlers)) DelHandler((t_Handler *)st->class_handlers.first);
-    if (st->own_icon_bank) FreeTextureBank(st->own_icon_bank);
+    while (!LIST_EMPTY(&st->class_handlers))
+        DelHandler((t_Handler *)st->class_handlers.first);
+    if (st->own_icon_bank)
+        FreeTextureBank(st->own_icon_bank);
     st->own_icon_bank = NULL;
     CloseFonts();
-    if (GetDrawSurface() == &st->screen) SetDrawSurface(NULL);
+    if (GetDrawSurface() == &st->screen)
+        SetDrawSurface(NULL);
     display->close();
     memset(_LumoraBase, 0, sizeof(*_LumoraBase));
 }
 
-void SetInputSource(void (*source)(void)) {
+void SetInputSource(void (*source)(void))
+{
     lumora_state.input_source = source;
 }
 
 // Called by routing when the screen changes size: the framebuffer follows.
-void ScreenResized(void) {
+void ScreenResized(void)
+{
     AttachScreen();
     CURRENT_DISPLAY->width = (i16)lumora_state.screen.width;
     CURRENT_DISPLAY->height = (i16)lumora_state.screen.height;

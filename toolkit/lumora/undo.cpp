@@ -32,8 +32,8 @@ static void DropAfter(T_UNDO_LIST *list, T_UNDO_NODE *keep)
 
 // Drops the redo half, then appends a record with a cleared block of `data_size` bytes and the
 // label copied, which becomes current. Null, with a log line, without a list.
-T_UNDO_NODE *AddUndoNode(T_UNDO_LIST *list, T_UNDO_FN redo, T_UNDO_FN undo, T_UNDO_FN third,
-                         u32 data_size, const char *label)
+T_UNDO_NODE *AddUndoNode(T_UNDO_LIST *list, T_UNDO_FN redo, T_UNDO_FN undo, T_UNDO_FN third, u32 data_size,
+                         const char *label)
 {
     if (!list) {
         myprintf(0, "AddUndoNode: no undo list\n");

@@ -10,19 +10,26 @@ typedef struct T_BITMAP {
     u32 *pixels;  // 0xAABBGGRR, the resource's data block
 } T_BITMAP;
 
-static void FreeBitmapObject(void *object) { FreeMem(object, sizeof(T_BITMAP)); }
+static void FreeBitmapObject(void *object)
+{
+    FreeMem(object, sizeof(T_BITMAP));
+}
 
-void ReleaseBitmap(T_RESOURCE *bitmap) {
-    if (!bitmap || --bitmap->use_count > 0) return;
+void ReleaseBitmap(T_RESOURCE *bitmap)
+{
+    if (!bitmap || --bitmap->use_count > 0)
+        return;
     SubNode((t_Node *)bitmap);
     FreeMem(bitmap->data, bitmap->data_size);
-    if (bitmap->free_object) bitmap->free_object(bitmap->object);
+    if (bitmap->free_object)
+        bitmap->free_object(bitmap->object);
     FreeMem(bitmap->name, (u32)strlen(bitmap->name) + 1);
     FreeMem(bitmap, sizeof(T_RESOURCE));
 }
 
 // The bitmap named `file` (a file name), loaded once and shared; null (logged) when absent.
-static T_RESOURCE *OpenBitmap(const char *name) {
+static T_RESOURCE *OpenBitmap(const char *name)
+{
     char file[FILE_PATH_SIZE];
     StripPath(file, name);
     for (t_Node *n = lumora_state.bitmaps.first; n->next; n = n->next)
@@ -57,15 +64,18 @@ static T_RESOURCE *OpenBitmap(const char *name) {
     return r;
 }
 
-void SetWindowBitmap(t_Window *window, const char *name) {
-    if (!window) return;
+void SetWindowBitmap(t_Window *window, const char *name)
+{
+    if (!window)
+        return;
     T_RESOURCE *old = window->bitmap;
     window->bitmap = (name && name[0]) ? OpenBitmap(name) : NULL;
     ReleaseBitmap(old);
 }
 
 // Draws the window's bitmap at the top left of its user area (the caller has clipped to it).
-void PaintWindowBitmap(t_Window *window) {
+void PaintWindowBitmap(t_Window *window)
+{
     T_BITMAP *b = (T_BITMAP *)window->bitmap->object;
     DrawImage(b->pixels, b->width, b->height, window->user_x, window->user_y);
 }

@@ -12,8 +12,7 @@
 #define KEYED_USER_H 320
 #define KEYED_PAD 8
 #define KEYED_LINE_SIZE 160
-#define KEYED_FLAGS \
-    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_RESIZE | WF_DEPENDANT)
+#define KEYED_FLAGS (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_RESIZE | WF_DEPENDANT)
 
 enum { KEYED_LIST = 1, KEYED_HINT };
 
@@ -29,15 +28,20 @@ typedef struct T_KEY_EDITOR {
     char hint_text[KEYED_LINE_SIZE];
 } T_KEY_EDITOR;
 
-static T_KEY_EDITOR *EditorOf(t_Window *window) { return (T_KEY_EDITOR *)window->user_data; }
+static T_KEY_EDITOR *EditorOf(t_Window *window)
+{
+    return (T_KEY_EDITOR *)window->user_data;
+}
 
-static T_APP_COMMAND *CommandAt(T_KEY_EDITOR *e, i32 row) {
+static T_APP_COMMAND *CommandAt(T_KEY_EDITOR *e, i32 row)
+{
     return row < 0 ? NULL : (T_APP_COMMAND *)FindNodeByIndex(&e->app->commands, (u32)row);
 }
 
 // One line per command, in registration order: "Group: Name<tab>Key", or "Group: Name"; the list
 // shows the key at the right.
-static void FillList(T_KEY_EDITOR *e) {
+static void FillList(T_KEY_EDITOR *e)
+{
     i32 selected = e->list->selected, top = e->list->top;
     EmptyList(&e->list->entries, sizeof(T_LIST_ENTRY));
     T_GADGETOBJECTINIT gi = {};
@@ -53,7 +57,8 @@ static void FillList(T_KEY_EDITOR *e) {
     e->list->resized_flags |= LIST_RESIZED;
 }
 
-static void SetHint(T_KEY_EDITOR *e) {
+static void SetHint(T_KEY_EDITOR *e)
+{
     if (e->picked)
         snprintf(e->hint_text, sizeof e->hint_text, hint_press, e->picked->name);
     else
@@ -62,13 +67,13 @@ static void SetHint(T_KEY_EDITOR *e) {
 }
 
 // The picked command takes `key`, unless another command has it.
-static void TakeKey(t_Window *window, u16 key) {
+static void TakeKey(t_Window *window, u16 key)
+{
     T_KEY_EDITOR *e = EditorOf(window);
     T_APP_COMMAND *holder = FindAppCommandByKey(e->app, key);
     if (holder && holder != e->picked) {
         char name[KEY_NAME_SIZE], text[KEYED_LINE_SIZE];
-        snprintf(text, sizeof text, "The key %s is already used by %s.", KeyName(key, name),
-                 holder->name);
+        snprintf(text, sizeof text, "The key %s is already used by %s.", KeyName(key, name), holder->name);
         NewMsgBox(window, "Keyboard", text, 16, 0);
         return;
     }
@@ -78,12 +83,14 @@ static void TakeKey(t_Window *window, u16 key) {
     FillList(e);
 }
 
-static void Layout(t_Window *window) {
+static void Layout(t_Window *window)
+{
     T_KEY_EDITOR *e = EditorOf(window);
     i16 rh = (i16)GetFontHeight(DISPLAY_RECORD->system_font) + 8;
     i16 w = window->user_w, h = window->user_h;
     i16 list_h = ListHeightForWholeRows(e->list_gadget, (i16)(h - 3 * KEYED_PAD - rh));
-    if (list_h < rh) list_h = rh;
+    if (list_h < rh)
+        list_h = rh;
     t_gadget *rows[2] = {e->hint, e->list_gadget};
     T_RPOS places[2] = {{KEYED_PAD, KEYED_PAD, (i16)(w - 2 * KEYED_PAD), rh},
                         {KEYED_PAD, (i16)(2 * KEYED_PAD + rh), (i16)(w - 2 * KEYED_PAD), list_h}};
@@ -95,7 +102,8 @@ static void Layout(t_Window *window) {
     e->list->resized_flags |= LIST_RESIZED;
 }
 
-static u32 KeyEditorMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+static u32 KeyEditorMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     (void)data;
     T_KEY_EDITOR *e = EditorOf(window);
     switch (msg) {
@@ -122,14 +130,16 @@ static u32 KeyEditorMessage(t_Window *window, u32 item_code, u32 msg, void *data
 
 // Keys come here before the list: while a command is picked, a key is its new key, and Escape
 // keeps the old one; with nothing picked, Escape closes.
-static u32 KeyEditorInput(t_Handler *handler, u32 event, void *data) {
+static u32 KeyEditorInput(t_Handler *handler, u32 event, void *data)
+{
     T_KEY_EDITOR *e = (T_KEY_EDITOR *)handler;
     t_Window *window = handler->window;
     switch (event) {
     case HANDLER_EVENT_KEY: {
         u16 key = ((T_KEY_MSG *)data)->key_code;
         if (!e->picked) {
-            if (key != KEY_ESCAPE) return 0;
+            if (key != KEY_ESCAPE)
+                return 0;
             RemoveWindow(window);
             return 1;
         }
@@ -146,13 +156,24 @@ static u32 KeyEditorInput(t_Handler *handler, u32 event, void *data) {
     }
 }
 
-t_Window *OpenApplicationCmdEditWindow(t_Window *parent, T_APPLICATION *app) {
-    if (!app) return NULL;
-    const T_DIALOG_SPEC spec = {"Keyboard",     parent, KEYED_USER_W, KEYED_USER_H,
-                                KEYED_FLAGS,    IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, KeyEditorMessage,
-                                KeyEditorInput, NULL,   "key editor", sizeof(T_KEY_EDITOR)};
+t_Window *OpenApplicationCmdEditWindow(t_Window *parent, T_APPLICATION *app)
+{
+    if (!app)
+        return NULL;
+    const T_DIALOG_SPEC spec = {"Keyboard",
+                                parent,
+                                KEYED_USER_W,
+                                KEYED_USER_H,
+                                KEYED_FLAGS,
+                                IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
+                                KeyEditorMessage,
+                                KeyEditorInput,
+                                NULL,
+                                "key editor",
+                                sizeof(T_KEY_EDITOR)};
     T_KEY_EDITOR *e = (T_KEY_EDITOR *)OpenDialog(&spec);
-    if (!e) return NULL;
+    if (!e)
+        return NULL;
     t_Window *window = e->head.window;
     window->user_data = e;
     e->app = app;

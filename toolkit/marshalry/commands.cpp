@@ -20,7 +20,8 @@ static struct {
     u32 *pairs;  // item code, key; `count` pairs
 } key_store;
 
-void ForgetKeyStore(T_APPLICATION *app) {
+void ForgetKeyStore(T_APPLICATION *app)
+{
     if (key_store.app != app)
         return;
     free(key_store.pairs);
@@ -30,7 +31,8 @@ void ForgetKeyStore(T_APPLICATION *app) {
 }
 
 // One line "item_code key"; false for anything else but an empty line.
-static int ParseKeyLine(const char *line, u32 *item_code, u32 *key) {
+static int ParseKeyLine(const char *line, u32 *item_code, u32 *key)
+{
     char *end;
     const char *at = line;
     while (*at == ' ' || *at == '\t')
@@ -54,7 +56,8 @@ static int ParseKeyLine(const char *line, u32 *item_code, u32 *key) {
 }
 
 // One line of the key store into key_store; a pair that memory can't hold is passed over.
-static int TakeKeyLine(const char *line, void *context) {
+static int TakeKeyLine(const char *line, void *context)
+{
     (void)context;
     u32 item_code, key;
     int parsed = ParseKeyLine(line, &item_code, &key);
@@ -73,18 +76,20 @@ static int TakeKeyLine(const char *line, void *context) {
 }
 
 // A garbage store gives one log line and no user keys at all: the defaults hold.
-static void LoadKeyStore(T_APPLICATION *app) {
+static void LoadKeyStore(T_APPLICATION *app)
+{
     ForgetKeyStore(key_store.app);
     key_store.app = app;
     const char *path = MarshalryStorePath(KEY_STORE_FOLDER, app->name, KEY_STORE_EXTENSION, 0);
-    if (ReadStoreLines(path, &app->broken_stores, STORE_KEYS,
-                       "a key binding; the default keys are used", TakeKeyLine, NULL) == STORE_GARBAGE) {
+    if (ReadStoreLines(path, &app->broken_stores, STORE_KEYS, "a key binding; the default keys are used", TakeKeyLine,
+                       NULL) == STORE_GARBAGE) {
         ForgetKeyStore(app);
         key_store.app = app;
     }
 }
 
-static int StoredKey(u32 item_code, u32 *key) {
+static int StoredKey(u32 item_code, u32 *key)
+{
     for (u32 i = 0; i < key_store.count; i++)
         if (key_store.pairs[i * 2] == item_code) {
             *key = key_store.pairs[i * 2 + 1];
@@ -93,25 +98,26 @@ static int StoredKey(u32 item_code, u32 *key) {
     return 0;
 }
 
-void SetAppCommandGroup(T_APPLICATION *app, const char *group) {
+void SetAppCommandGroup(T_APPLICATION *app, const char *group)
+{
     if (app)
         app->group = group;
 }
 
 // The command's name, description and group are copied into its own block, behind the record.
-T_APP_COMMAND *RegisterAppCommand(T_APPLICATION *app, const char *name, const char *description,
-                                  u32 item_code, u32 key, u32 flags) {
+T_APP_COMMAND *RegisterAppCommand(T_APPLICATION *app, const char *name, const char *description, u32 item_code, u32 key,
+                                  u32 flags)
+{
     if (!app)
         return NULL;
     if (key_store.app != app)
         LoadKeyStore(app);
-    const char *texts[3] = {name ? name : "", description ? description : "",
-                            app->group ? app->group : ""};
+    const char *texts[3] = {name ? name : "", description ? description : "", app->group ? app->group : ""};
     u32 lengths[3], extra = 0;
     for (int i = 0; i < 3; i++)
         extra += lengths[i] = (u32)strlen(texts[i]) + 1;
-    T_APP_COMMAND *command = (T_APP_COMMAND *)AllocMemExtra(_OstrandBase->default_memory_type,
-                                                            sizeof(T_APP_COMMAND), extra);
+    T_APP_COMMAND *command =
+        (T_APP_COMMAND *)AllocMemExtra(_OstrandBase->default_memory_type, sizeof(T_APP_COMMAND), extra);
     if (!command)
         return NULL;
     char *copies[3];
@@ -132,22 +138,24 @@ T_APP_COMMAND *RegisterAppCommand(T_APPLICATION *app, const char *name, const ch
     return command;
 }
 
-T_APP_COMMAND *FindAppCommandByKey(T_APPLICATION *app, u32 key) {
+T_APP_COMMAND *FindAppCommandByKey(T_APPLICATION *app, u32 key)
+{
     if (!app || !key)
         return NULL;
     return (T_APP_COMMAND *)FindNodeByField(&app->commands, offsetof(T_APP_COMMAND, key), key);
 }
 
-T_APP_COMMAND *FindAppCommandByCode(T_APPLICATION *app, u32 item_code) {
+T_APP_COMMAND *FindAppCommandByCode(T_APPLICATION *app, u32 item_code)
+{
     if (!app)
         return NULL;
-    return (T_APP_COMMAND *)FindNodeByField(&app->commands, offsetof(T_APP_COMMAND, item_code),
-                                            item_code);
+    return (T_APP_COMMAND *)FindNodeByField(&app->commands, offsetof(T_APP_COMMAND, item_code), item_code);
 }
 
 // Writes the keys that differ from their defaults. A store that can't be written is logged and
 // the change holds for this run.
-void StoreKeys(T_APPLICATION *app) {
+void StoreKeys(T_APPLICATION *app)
+{
     u32 count = CountListEntries(&app->commands);
     u32 capacity = count * 24 + 1;
     char *text = (char *)AllocMemC(capacity);
@@ -156,14 +164,14 @@ void StoreKeys(T_APPLICATION *app) {
     u32 length = 0;
     for (T_APP_COMMAND *c = (T_APP_COMMAND *)app->commands.first; c->next; c = c->next)
         if (c->key != c->default_key)
-            length += (u32)snprintf(text + length, capacity - length, "%u %u\n", c->item_code,
-                                    c->key);
+            length += (u32)snprintf(text + length, capacity - length, "%u %u\n", c->item_code, c->key);
     WriteStoreText(app, KEY_STORE_FOLDER, KEY_STORE_EXTENSION, STORE_KEYS, "keys", text, length, capacity);
     if (key_store.app == app)
         ForgetKeyStore(app);
 }
 
-int SetAppCommandKey(T_APPLICATION *app, T_APP_COMMAND *command, u32 key) {
+int SetAppCommandKey(T_APPLICATION *app, T_APP_COMMAND *command, u32 key)
+{
     if (!app || !command)
         return 0;
     T_APP_COMMAND *holder = FindAppCommandByKey(app, key);
@@ -174,13 +182,15 @@ int SetAppCommandKey(T_APPLICATION *app, T_APP_COMMAND *command, u32 key) {
     return 1;
 }
 
-static t_Window *TopLevel(t_Window *window) {
+static t_Window *TopLevel(t_Window *window)
+{
     while (window && window->parent)
         window = window->parent;
     return window;
 }
 
-u32 ExecuteAppCommand(T_APPLICATION *app, t_Window *window, T_KEY_MSG *key) {
+u32 ExecuteAppCommand(T_APPLICATION *app, t_Window *window, T_KEY_MSG *key)
+{
     if (!key)
         return 0;
     T_APP_COMMAND *command = FindAppCommandByKey(app, key->key_code);
@@ -198,8 +208,8 @@ u32 ExecuteAppCommand(T_APPLICATION *app, t_Window *window, T_KEY_MSG *key) {
 }
 
 // The caller's init record is used for the entry and given back as it was.
-t_Menu *AddApplicationCmdMenu(T_APPLICATION *app, T_MENU_HANDLER *handler, T_MENUOBJECTINIT *init,
-                              u32 item_code) {
+t_Menu *AddApplicationCmdMenu(T_APPLICATION *app, T_MENU_HANDLER *handler, T_MENUOBJECTINIT *init, u32 item_code)
+{
     T_APP_COMMAND *command = FindAppCommandByCode(app, item_code);
     if (!command || !handler || !init) {
         myprintf(0, "AddApplicationCmdMenu: no command with item code %u", item_code);

@@ -8,8 +8,7 @@ int WindowStands(t_Window *window);
 
 // The store file "<data root>/<folder>/<name><extension>" in a static buffer, with separators in
 // the name turned into '_'; the folder is made when `make_folder` is set (false if it can't be).
-const char *MarshalryStorePath(const char *folder, const char *name, const char *extension,
-                               int make_folder);
+const char *MarshalryStorePath(const char *folder, const char *name, const char *extension, int make_folder);
 
 // Takes one line of a store; false for a line that isn't one of the store's.
 typedef int (*T_STORE_LINE_FN)(const char *line, void *context);
@@ -19,8 +18,7 @@ typedef int (*T_STORE_LINE_FN)(const char *line, void *context);
 // "<path>:<line>: not <what>" and sets `store` in *broken: STORE_GARBAGE, and the caller drops
 // what it took. Else STORE_READ.
 enum { STORE_NOT_READ, STORE_GARBAGE, STORE_READ };
-int ReadStoreLines(const char *path, u16 *broken, u16 store, const char *what, T_STORE_LINE_FN take,
-                   void *context);
+int ReadStoreLines(const char *path, u16 *broken, u16 store, const char *what, T_STORE_LINE_FN take, void *context);
 // Writes the text of a store of `app` (its `length` bytes), frees it (`capacity` bytes), and clears
 // `store` in its broken stores; a store that can't be written is logged as "The <what> of <app>
 // could not be stored" and stays broken.

@@ -12,26 +12,28 @@
 
 #define RECENT_FOLDER "recent"
 #define RECENT_EXTENSION ".txt"
-#define RECENT_LABEL_MAX 40  // longer paths are shown as ".../dir/name"
+#define RECENT_LABEL_MAX 40     // longer paths are shown as ".../dir/name"
 #define MENU_CODE_SAVE_ALL 261  // the recent files stand right after this entry when it is there
 
 // A menu entry that AddRecentFilesToMenu made, so that the next call can take it out again.
 typedef struct T_RECENT_ENTRY {
     T_NODE_FIELDS(struct T_RECENT_ENTRY);
-    t_Menu *menu;   // the menu that holds it
+    t_Menu *menu;  // the menu that holds it
     t_Menu *entry;
 } T_RECENT_ENTRY;
 
 static t_List recent_entries;
 
-static T_RECENT_TYPE *FindRecentType(T_APPLICATION *app, u32 type) {
+static T_RECENT_TYPE *FindRecentType(T_APPLICATION *app, u32 type)
+{
     if (!app)
         return NULL;
     return (T_RECENT_TYPE *)FindNodeByField(&app->recent_types, offsetof(T_RECENT_TYPE, type), type);
 }
 
 // Drops the oldest files beyond the limit; a limit of 0 keeps all.
-static void TrimRecentFiles(T_RECENT_TYPE *type) {
+static void TrimRecentFiles(T_RECENT_TYPE *type)
+{
     while (type->limit && CountListEntries(&type->files) > type->limit) {
         t_Node *oldest = type->files.last;
         SubNode(oldest);
@@ -39,7 +41,8 @@ static void TrimRecentFiles(T_RECENT_TYPE *type) {
     }
 }
 
-static T_RECENT_FILE *NewRecentFile(u32 type, const char *path) {
+static T_RECENT_FILE *NewRecentFile(u32 type, const char *path)
+{
     T_RECENT_FILE *file = (T_RECENT_FILE *)NewNamedNode(sizeof(T_RECENT_FILE), path);
     if (file)
         file->type = type;
@@ -47,7 +50,8 @@ static T_RECENT_FILE *NewRecentFile(u32 type, const char *path) {
 }
 
 // One line "<type> <path>" of the store: a file of `context`'s type joins its list.
-static int TakeRecentLine(const char *line, void *context) {
+static int TakeRecentLine(const char *line, void *context)
+{
     T_RECENT_TYPE *type = (T_RECENT_TYPE *)context;
     char *end;
     u32 line_type = (u32)strtoul(line, &end, 10);
@@ -60,15 +64,17 @@ static int TakeRecentLine(const char *line, void *context) {
 }
 
 // A line that isn't "<type> <path>" makes the whole store garbage: one log line, an empty list.
-static void LoadRecentFiles(T_APPLICATION *app, T_RECENT_TYPE *type) {
+static void LoadRecentFiles(T_APPLICATION *app, T_RECENT_TYPE *type)
+{
     const char *path = MarshalryStorePath(RECENT_FOLDER, app->name, RECENT_EXTENSION, 0);
-    if (ReadStoreLines(path, &app->broken_stores, STORE_RECENT,
-                       "a recent file; the recent files are dropped", TakeRecentLine, type) == STORE_GARBAGE)
+    if (ReadStoreLines(path, &app->broken_stores, STORE_RECENT, "a recent file; the recent files are dropped",
+                       TakeRecentLine, type) == STORE_GARBAGE)
         EmptyList(&type->files, sizeof(T_RECENT_FILE));
     TrimRecentFiles(type);
 }
 
-void StoreRecentFiles(T_APPLICATION *app) {
+void StoreRecentFiles(T_APPLICATION *app)
+{
     u32 capacity = 1;
     for (T_RECENT_TYPE *t = (T_RECENT_TYPE *)app->recent_types.first; t->next; t = t->next)
         for (T_RECENT_FILE *f = (T_RECENT_FILE *)t->files.first; f->next; f = f->next)
@@ -83,7 +89,8 @@ void StoreRecentFiles(T_APPLICATION *app) {
     WriteStoreText(app, RECENT_FOLDER, RECENT_EXTENSION, STORE_RECENT, "recent files", text, length, capacity);
 }
 
-void AddRecentFileType(T_APPLICATION *app, u32 type, u32 limit) {
+void AddRecentFileType(T_APPLICATION *app, u32 type, u32 limit)
+{
     if (!app)
         return;
     T_RECENT_TYPE *recent = FindRecentType(app, type);
@@ -103,13 +110,13 @@ void AddRecentFileType(T_APPLICATION *app, u32 type, u32 limit) {
 
 // A path already on the list moves to the front. A path with a line end can't be stored and is
 // refused with a log line.
-void AddRecentFile(T_APPLICATION *app, const char *path, u32 type) {
+void AddRecentFile(T_APPLICATION *app, const char *path, u32 type)
+{
     if (!path || !path[0])
         return;
     T_RECENT_TYPE *recent = FindRecentType(app, type);
     if (!recent || strpbrk(path, "\r\n")) {
-        myprintf(0, "AddRecentFile: %s refused (%s)", path,
-                 recent ? "line end in the path" : "type not registered");
+        myprintf(0, "AddRecentFile: %s refused (%s)", path, recent ? "line end in the path" : "type not registered");
         return;
     }
     T_RECENT_FILE *file = (T_RECENT_FILE *)FindNode(recent->files.first, path);
@@ -124,7 +131,8 @@ void AddRecentFile(T_APPLICATION *app, const char *path, u32 type) {
     StoreRecentFiles(app);
 }
 
-static const char *RecentLabel(const char *path, char *label, size_t size) {
+static const char *RecentLabel(const char *path, char *label, size_t size)
+{
     size_t length = strlen(path);
     if (length <= RECENT_LABEL_MAX) {
         snprintf(label, size, "%s", path);
@@ -142,7 +150,8 @@ static const char *RecentLabel(const char *path, char *label, size_t size) {
 
 // Takes out the entries that an earlier call put into `menu`; each is looked for among the menu's
 // items first, so an entry that the menu code already removed is only forgotten.
-static void RemoveRecentEntries(T_MENU_HANDLER *handler, t_Menu *menu) {
+static void RemoveRecentEntries(T_MENU_HANDLER *handler, t_Menu *menu)
+{
     if (!recent_entries.first)
         InitList(&recent_entries, "recent entries");
     for (T_RECENT_ENTRY *r = (T_RECENT_ENTRY *)recent_entries.first; r->next;) {
@@ -162,7 +171,8 @@ static void RemoveRecentEntries(T_MENU_HANDLER *handler, t_Menu *menu) {
 
 // The menus that held the entries are freed when the toolkit closes; a record kept past that
 // could match a new menu at the same address and take out one of its own entries.
-void ForgetRecentEntries(void) {
+void ForgetRecentEntries(void)
+{
     if (!recent_entries.first)
         return;
     while (!LIST_EMPTY(&recent_entries)) {
@@ -172,8 +182,8 @@ void ForgetRecentEntries(void) {
     }
 }
 
-void AddRecentFilesToMenu(T_MENU_HANDLER *handler, t_Menu *menu, T_APPLICATION *app, u32 type,
-                          u32 item_code) {
+void AddRecentFilesToMenu(T_MENU_HANDLER *handler, t_Menu *menu, T_APPLICATION *app, u32 type, u32 item_code)
+{
     if (!handler || !menu)
         return;
     RemoveRecentEntries(handler, menu);
@@ -193,8 +203,7 @@ void AddRecentFilesToMenu(T_MENU_HANDLER *handler, t_Menu *menu, T_APPLICATION *
     init.item_code = item_code;
     for (T_RECENT_FILE *f = (T_RECENT_FILE *)recent->files.first; f->next; f = f->next) {
         char label[RECENT_LABEL_MAX + 8];
-        t_Menu *entry = (t_Menu *)CreateObject(&handler->head,
-                                               RecentLabel(f->name, label, sizeof(label)), &init);
+        t_Menu *entry = (t_Menu *)CreateObject(&handler->head, RecentLabel(f->name, label, sizeof(label)), &init);
         T_RECENT_ENTRY *record = entry ? (T_RECENT_ENTRY *)AllocMemC(sizeof(T_RECENT_ENTRY)) : NULL;
         if (!record) {
             if (entry)

@@ -13,7 +13,8 @@
 #define PLACES_FOLDER "places"
 #define PLACES_EXTENSION ".txt"
 
-static int OfSetup(T_TOOL_OBJECT *object, T_TOOL_SETUP *setup) {
+static int OfSetup(T_TOOL_OBJECT *object, T_TOOL_SETUP *setup)
+{
     return setup && setup->name && object->name && strcmp(object->name, setup->name) == 0;
 }
 
@@ -22,7 +23,8 @@ static int OfSetup(T_TOOL_OBJECT *object, T_TOOL_SETUP *setup) {
 // count this run's windows only. (Stale window pointers are only compared, never followed; a
 // freed window's address may come back for a new one, hence the drop at the new run.) That
 // top-level window becomes the command window of the applications that have none standing.
-void AddToolSetupObject(T_TOOL_SETUP *setup, t_Window *window, u32 a, u32 b) {
+void AddToolSetupObject(T_TOOL_SETUP *setup, t_Window *window, u32 a, u32 b)
+{
     if (!setup || !window)
         return;
     int new_run = b == 0 && !window->parent;
@@ -42,8 +44,7 @@ void AddToolSetupObject(T_TOOL_SETUP *setup, t_Window *window, u32 a, u32 b) {
     object->a = a;
     object->b = b;
     if (new_run)
-        for (T_APPLICATION *app = (T_APPLICATION *)_MarshalryBase->applications.first; app->next;
-             app = app->next)
+        for (T_APPLICATION *app = (T_APPLICATION *)_MarshalryBase->applications.first; app->next; app = app->next)
             if (!WindowStands(app->window))
                 app->window = window;
 }
@@ -57,12 +58,13 @@ typedef struct T_STORED_PLACES {
 } T_STORED_PLACES;
 
 // One line "<index> <x> <y> <w> <h>" of the store.
-static int TakePlaceLine(const char *line, void *context) {
+static int TakePlaceLine(const char *line, void *context)
+{
     T_STORED_PLACES *stored = (T_STORED_PLACES *)context;
     int index, x, y, w, h, consumed = 0;
-    if (sscanf(line, "%d %d %d %d %d %n", &index, &x, &y, &w, &h, &consumed) != 5 || line[consumed] ||
-        index < 0 || index >= MAX_PLACES || w <= 0 || h <= 0 || w > 32767 || h > 32767 ||
-        x < -32768 || x > 32767 || y < -32768 || y > 32767)
+    if (sscanf(line, "%d %d %d %d %d %n", &index, &x, &y, &w, &h, &consumed) != 5 || line[consumed] || index < 0 ||
+        index >= MAX_PLACES || w <= 0 || h <= 0 || w > 32767 || h > 32767 || x < -32768 || x > 32767 || y < -32768 ||
+        y > 32767)
         return 0;
     stored->places[index] = {(i16)x, (i16)y, (i16)w, (i16)h};
     stored->known[index] = 1;
@@ -70,19 +72,19 @@ static int TakePlaceLine(const char *line, void *context) {
 }
 
 // A line that isn't five numbers makes the whole store garbage: one log line, no places.
-void ReadToolConfig(T_TOOL_SETUP *setup, void *config) {
+void ReadToolConfig(T_TOOL_SETUP *setup, void *config)
+{
     (void)config;
     if (!setup || !setup->name)
         return;
     const char *path = MarshalryStorePath(PLACES_FOLDER, setup->name, PLACES_EXTENSION, 0);
     T_STORED_PLACES stored = {};
     u16 broken = 0;  // the places are written whole at every orderly end anyway
-    if (ReadStoreLines(path, &broken, 0, "a window place; the stored places are ignored",
-                       TakePlaceLine, &stored) != STORE_READ)
+    if (ReadStoreLines(path, &broken, 0, "a window place; the stored places are ignored", TakePlaceLine, &stored) !=
+        STORE_READ)
         return;
     int index = 0;
-    for (T_TOOL_OBJECT *o = (T_TOOL_OBJECT *)_MarshalryBase->tool_objects.first; o->next;
-         o = o->next)
+    for (T_TOOL_OBJECT *o = (T_TOOL_OBJECT *)_MarshalryBase->tool_objects.first; o->next; o = o->next)
         if (OfSetup(o, setup)) {
             o->has_stored = index < MAX_PLACES && stored.known[index];
             if (o->has_stored)
@@ -91,7 +93,8 @@ void ReadToolConfig(T_TOOL_SETUP *setup, void *config) {
         }
 }
 
-void ExecuteToolSetup(T_TOOL_SETUP *setup, T_TOOL_SETUP_HANDLER handler) {
+void ExecuteToolSetup(T_TOOL_SETUP *setup, T_TOOL_SETUP_HANDLER handler)
+{
     if (!setup || !handler)
         return;
     for (T_TOOL_OBJECT *o = (T_TOOL_OBJECT *)_MarshalryBase->tool_objects.first; o->next;) {
@@ -103,7 +106,8 @@ void ExecuteToolSetup(T_TOOL_SETUP *setup, T_TOOL_SETUP_HANDLER handler) {
 }
 
 // Keeps `start`..`start + size` inside `low`..`low + range`, the size cut to the range first.
-static void Clamp(i16 *start, i16 *size, i16 low, i16 range) {
+static void Clamp(i16 *start, i16 *size, i16 low, i16 range)
+{
     if (*size > range)
         *size = range;
     if (*start + *size > low + range)
@@ -113,7 +117,8 @@ static void Clamp(i16 *start, i16 *size, i16 low, i16 range) {
 }
 
 // A stored place is clamped onto the screen, so a window never comes back out of sight.
-void GenericToolSetupHandler(T_TOOL_SETUP *setup, T_TOOL_OBJECT *object) {
+void GenericToolSetupHandler(T_TOOL_SETUP *setup, T_TOOL_OBJECT *object)
+{
     (void)setup;
     if (!object || !object->has_stored || !WindowStands(object->window))
         return;
@@ -126,14 +131,14 @@ void GenericToolSetupHandler(T_TOOL_SETUP *setup, T_TOOL_OBJECT *object) {
     ResizeWindow(object->window, &place);
 }
 
-void StoreToolSetup(T_TOOL_SETUP *setup) {
+void StoreToolSetup(T_TOOL_SETUP *setup)
+{
     if (!setup || !setup->name)
         return;
     char text[64 * 48];
     u32 length = 0;
     int index = 0;
-    for (T_TOOL_OBJECT *o = (T_TOOL_OBJECT *)_MarshalryBase->tool_objects.first; o->next;
-         o = o->next) {
+    for (T_TOOL_OBJECT *o = (T_TOOL_OBJECT *)_MarshalryBase->tool_objects.first; o->next; o = o->next) {
         if (!OfSetup(o, setup))
             continue;
         if (WindowStands(o->window) && length + 48 < sizeof(text)) {
@@ -143,8 +148,8 @@ void StoreToolSetup(T_TOOL_SETUP *setup) {
             if (w->state_flags & WSF_MAXIMISED)
                 place = w->restore_rect;
             if (place.w > 0 && place.h > 0)
-                length += (u32)snprintf(text + length, sizeof(text) - length, "%d %d %d %d %d\n",
-                                        index, place.x, place.y, place.w, place.h);
+                length += (u32)snprintf(text + length, sizeof(text) - length, "%d %d %d %d %d\n", index, place.x,
+                                        place.y, place.w, place.h);
         }
         index++;
     }

@@ -13,7 +13,7 @@
 #include "ostrand_internal.h"
 
 #define READLINE_MAX (READ_LINE_SIZE - 1)  // the callers' line buffers are READ_LINE_SIZE bytes
-#define TEMP_SUFFIX ".tmp"  // the temporary file of a save is ".<name>.tmp" beside the target
+#define TEMP_SUFFIX ".tmp"                 // the temporary file of a save is ".<name>.tmp" beside the target
 
 static u32 last_load_size;
 static char load_error[256];
@@ -21,14 +21,15 @@ static char save_error[256];
 
 // Normalises `path` for a system call into `name` (FILE_PATH_SIZE bytes). False, with a log line
 // naming the operation, when the path is too long; false quietly when it is null or empty.
-static int SystemPath(char *name, const char *path, const char *operation) {
+static int SystemPath(char *name, const char *path, const char *operation)
+{
     name[0] = 0;
     if (!path || !path[0])
         return 0;
     if (NormalisePath(name, path, FILE_PATH_SIZE))
         return 1;
-    myprintf(0, "%s: the path is longer than %d characters and is refused: %.60s...", operation,
-             FILE_PATH_SIZE - 1, path);
+    myprintf(0, "%s: the path is longer than %d characters and is refused: %.60s...", operation, FILE_PATH_SIZE - 1,
+             path);
     name[0] = 0;
     return 0;
 }
@@ -36,7 +37,8 @@ static int SystemPath(char *name, const char *path, const char *operation) {
 // --- Loading -------------------------------------------------------------------------------------
 // The block holds one NUL byte behind the data, outside its recorded size, so FreeMem(data,
 // GetLoadFileSize()) matches. A file that can't be read gives null and a level-3 log line.
-void *LoadFile(const char *path) {
+void *LoadFile(const char *path)
+{
     char name[FILE_PATH_SIZE];
     if (!SystemPath(name, path, "LoadFile"))
         return NULL;
@@ -44,9 +46,10 @@ void *LoadFile(const char *path) {
     struct stat st;
     if (fd < 0 || fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size > 0x7fffffff) {
         snprintf(load_error, sizeof(load_error), "%s",
-                 fd < 0 ? strerror(errno)
-                        : S_ISDIR(st.st_mode) ? "a folder stands there"
-                        : S_ISREG(st.st_mode) ? "too large" : "not a file");
+                 fd < 0                ? strerror(errno)
+                 : S_ISDIR(st.st_mode) ? "a folder stands there"
+                 : S_ISREG(st.st_mode) ? "too large"
+                                       : "not a file");
         myprintf(3, "LoadFile: can't read %s: %s", name, load_error);
         if (fd >= 0)
             close(fd);
@@ -74,17 +77,20 @@ void *LoadFile(const char *path) {
     return data;
 }
 
-u32 GetLoadFileSize(void) {
+u32 GetLoadFileSize(void)
+{
     return last_load_size;
 }
 
-const char *LoadFileError(void) {
+const char *LoadFileError(void)
+{
     return load_error;
 }
 
 // A line longer than the callers' buffers is cut at READLINE_MAX characters; the rest of it is
 // consumed and dropped.
-u32 ReadLine(char *line, const char *position, const char *end) {
+u32 ReadLine(char *line, const char *position, const char *end)
+{
     line[0] = 0;
     if (!position || position >= end)
         return 0;
@@ -102,15 +108,18 @@ u32 ReadLine(char *line, const char *position, const char *end) {
 }
 
 // --- Saving --------------------------------------------------------------------------------------
-static void SetSaveError(const char *reason) {
+static void SetSaveError(const char *reason)
+{
     snprintf(save_error, sizeof(save_error), "%s", reason);
 }
 
-const char *SaveFileError(void) {
+const char *SaveFileError(void)
+{
     return save_error;
 }
 
-static int WriteAll(int fd, const char *data, u32 size) {
+static int WriteAll(int fd, const char *data, u32 size)
+{
     while (size > 0) {
         ssize_t put = write(fd, data, size);
         if (put < 0 && errno == EINTR)
@@ -125,12 +134,14 @@ static int WriteAll(int fd, const char *data, u32 size) {
 
 // Where a document may not be replaced: a file without any write permission (which root, too,
 // is held to) or one this user can't write.
-static int WriteProtected(const char *target, const struct stat *st) {
+static int WriteProtected(const char *target, const struct stat *st)
+{
     return !(st->st_mode & 0222) || (geteuid() != 0 && access(target, W_OK) != 0);
 }
 
 // The mode a new file gets from the user's mask, as open() would give it.
-static mode_t OrdinaryMode(void) {
+static mode_t OrdinaryMode(void)
+{
     mode_t mask = umask(0);
     umask(mask);
     return 0666 & ~mask;
@@ -140,7 +151,8 @@ static mode_t OrdinaryMode(void) {
 // never write it together. A file left by a save that was killed is taken over and emptied. If
 // another save renamed the file into place between our open and our lock, the lock is on its
 // target: the open is tried again. -1, with the reason set, when it can't be had.
-static int OpenTemp(const char *temp, mode_t mode) {
+static int OpenTemp(const char *temp, mode_t mode)
+{
     for (int tries = 0; tries < 3; tries++) {
         int fd = open(temp, O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
         if (fd < 0) {
@@ -174,7 +186,8 @@ void (*save_pause_hook)(void);
 // saves it; on failure it is removed and the old file stays whole. With SAVE_KEEP_MODE (a
 // document) the new file keeps the old one's mode and a write-protected file is not replaced;
 // without it (a store) the new file gets the ordinary mode, whatever the broken one had.
-int WriteFileAtomic(const char *path, const void *data, u32 size, u32 flags) {
+int WriteFileAtomic(const char *path, const void *data, u32 size, u32 flags)
+{
     char target[FILE_PATH_SIZE], directory[FILE_PATH_SIZE], temp[FILE_PATH_SIZE];
     if (!path || !path[0]) {
         SetSaveError("Invalid file name");
@@ -243,7 +256,8 @@ int WriteFileAtomic(const char *path, const void *data, u32 size, u32 flags) {
     return 1;
 }
 
-int SaveFile(const char *path, const void *data, u32 size) {
+int SaveFile(const char *path, const void *data, u32 size)
+{
     if (WriteFileAtomic(path, data, size, 0))
         return 1;
     myprintf(0, "Could not save %s: %s", path ? path : "(null)", save_error);
@@ -252,7 +266,8 @@ int SaveFile(const char *path, const void *data, u32 size) {
 
 // A folder where a store goes is moved out of the way, so that the good file takes its place: an
 // empty one is removed, another is renamed "<store>.folder".
-int SaveStoreFile(const char *path, const void *data, u32 size) {
+int SaveStoreFile(const char *path, const void *data, u32 size)
+{
     char name[FILE_PATH_SIZE];
     if (SystemPath(name, path, "SaveStoreFile") && DirectoryExists(name) && rmdir(name) != 0) {
         char aside[FILE_PATH_SIZE + 8];
@@ -281,7 +296,8 @@ static struct {
 // one past STREAM_KEEP_MAX bytes goes.
 #define STREAM_KEEP_MAX (64u << 20)
 
-static void DropStream(void) {
+static void DropStream(void)
+{
     if (stream.capacity > STREAM_KEEP_MAX) {
         free(stream.text);
         stream.text = NULL;
@@ -293,7 +309,8 @@ static void DropStream(void) {
 
 // Fails at once, with the reason kept for FinishSaveFile, when the path is too long, the
 // directory isn't there or isn't writable, or the file is write-protected.
-int InitSaveFile(const char *path) {
+int InitSaveFile(const char *path)
+{
     FinishSaveFile();
     save_error[0] = 0;
     stream.state = STREAM_OPEN;
@@ -324,7 +341,8 @@ int InitSaveFile(const char *path) {
     return 1;
 }
 
-void SavePrint(const char *text) {
+void SavePrint(const char *text)
+{
     if (stream.state != STREAM_OPEN || !text)
         return;
     u32 length = (u32)strlen(text);
@@ -346,11 +364,11 @@ void SavePrint(const char *text) {
 }
 
 // Nothing pending: true at once. A failure is logged once, naming the file and the reason.
-int FinishSaveFile(void) {
+int FinishSaveFile(void)
+{
     if (stream.state == STREAM_IDLE)
         return 1;
-    int ok = stream.state == STREAM_OPEN &&
-             WriteFileAtomic(stream.path, stream.text, stream.length, SAVE_KEEP_MODE);
+    int ok = stream.state == STREAM_OPEN && WriteFileAtomic(stream.path, stream.text, stream.length, SAVE_KEEP_MODE);
     if (!ok)
         myprintf(0, "Could not save %s: %s", stream.path, save_error);
     DropStream();
@@ -358,7 +376,8 @@ int FinishSaveFile(void) {
 }
 
 // --- Directories ---------------------------------------------------------------------------------
-static int StatKind(const char *path, mode_t kind) {
+static int StatKind(const char *path, mode_t kind)
+{
     char name[FILE_PATH_SIZE];
     struct stat st;
     if (!SystemPath(name, path, "FileExists"))
@@ -366,21 +385,25 @@ static int StatKind(const char *path, mode_t kind) {
     return stat(name, &st) == 0 && (st.st_mode & S_IFMT) == kind;
 }
 
-int FileExists(const char *path) {
+int FileExists(const char *path)
+{
     return StatKind(path, S_IFREG);
 }
 
-int DirectoryExists(const char *path) {
+int DirectoryExists(const char *path)
+{
     return StatKind(path, S_IFDIR);
 }
 
-int PathExists(const char *path) {
+int PathExists(const char *path)
+{
     char name[FILE_PATH_SIZE];
     struct stat st;
     return SystemPath(name, path, "PathExists") && lstat(name, &st) == 0;
 }
 
-int MakeEntireDirectory(const char *path) {
+int MakeEntireDirectory(const char *path)
+{
     char name[FILE_PATH_SIZE];
     if (!SystemPath(name, path, "MakeEntireDirectory"))
         return 0;

@@ -6,7 +6,8 @@
 #include "ostrand.h"
 
 // The text is printed as given (a leading line feed stays) and ends with a line feed.
-void myprintf(int level, const char *format, ...) {
+void myprintf(int level, const char *format, ...)
+{
     if (level > _OstrandBase->log_level || !format)
         return;
     char buffer[LOG_LINE_SIZE];

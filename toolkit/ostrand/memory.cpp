@@ -28,7 +28,8 @@ typedef struct T_BLOCK_HEAD {
     u32 extra;  // cleared bytes behind `size` that belong to the block
 } T_BLOCK_HEAD;
 
-void *AllocMemExtra(u32 type, u32 size, u32 extra) {
+void *AllocMemExtra(u32 type, u32 size, u32 extra)
+{
     T_BLOCK_HEAD *head = (T_BLOCK_HEAD *)calloc(1, sizeof(T_BLOCK_HEAD) + (size_t)size + extra);
     if (!head) {
         fprintf(stderr, "AllocMem: no memory for %u bytes\n", size);
@@ -42,16 +43,19 @@ void *AllocMemExtra(u32 type, u32 size, u32 extra) {
     return head + 1;
 }
 
-void *AllocMemType(u32 type, u32 size) {
+void *AllocMemType(u32 type, u32 size)
+{
     return AllocMemExtra(type, size, 0);
 }
 
-void *AllocMemC(u32 size) {
+void *AllocMemC(u32 size)
+{
     return AllocMemExtra(_OstrandBase->default_memory_type, size, 0);
 }
 
 // A block that isn't live (freed twice, or never ours) is reported and left alone.
-void FreeMem(void *block, u32 size) {
+void FreeMem(void *block, u32 size)
+{
     if (!block)
         return;
     T_BLOCK_HEAD *head = (T_BLOCK_HEAD *)block - 1;
@@ -60,8 +64,7 @@ void FreeMem(void *block, u32 size) {
         return;
     }
     if (memory_check && head->size != size) {
-        fprintf(stderr, "FreeMem: block %p of %u bytes freed with size %u\n", block, head->size,
-                size);
+        fprintf(stderr, "FreeMem: block %p of %u bytes freed with size %u\n", block, head->size, size);
         _OstrandBase->size_mismatches++;
     }
     head->magic = BLOCK_MAGIC_FREED;
@@ -69,7 +72,8 @@ void FreeMem(void *block, u32 size) {
     free(head);
 }
 
-void ZeroMem(void *block, u32 size) {
+void ZeroMem(void *block, u32 size)
+{
     if (block)
         memset(block, 0, size);
 }

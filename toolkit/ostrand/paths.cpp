@@ -14,7 +14,8 @@
 #define PATH_BUFFER_SIZE FILE_PATH_SIZE
 #define LOCK_FILE "lock"  // in the data root
 
-int NormalisePath(char *dest, const char *path, u32 dest_size) {
+int NormalisePath(char *dest, const char *path, u32 dest_size)
+{
     u32 i = 0;
     for (; path && path[i] && i + 1 < dest_size; i++)
         dest[i] = path[i] == '\\' ? '/' : path[i];
@@ -24,7 +25,8 @@ int NormalisePath(char *dest, const char *path, u32 dest_size) {
 
 // Copies into a path buffer of the caller; a path too long for it leaves the buffer empty and
 // gives false, with a log line.
-static int CopyPath(char *dest, const char *path) {
+static int CopyPath(char *dest, const char *path)
+{
     if (NormalisePath(dest, path, PATH_BUFFER_SIZE))
         return 1;
     myprintf(0, "Path longer than %d characters, refused: %.60s...", PATH_BUFFER_SIZE - 1, path);
@@ -33,19 +35,22 @@ static int CopyPath(char *dest, const char *path) {
 }
 
 // The file-name part of a normalised path.
-static const char *NamePart(const char *path) {
+static const char *NamePart(const char *path)
+{
     const char *slash = strrchr(path, '/');
     return slash ? slash + 1 : path;
 }
 
 // The extension's '.', or null: a '.' that opens the name (".profile") is no extension.
-static char *ExtensionDot(char *name) {
+static char *ExtensionDot(char *name)
+{
     char *dot = strrchr(name, '.');
     return dot && dot != name ? dot : NULL;
 }
 
 // "/a/b/c.cpp" gives "/a/b", "/c.cpp" gives "/", and a bare name gives "".
-char *XGetPath(char *dest, const char *path) {
+char *XGetPath(char *dest, const char *path)
+{
     char buffer[PATH_BUFFER_SIZE];
     if (!CopyPath(buffer, path)) {
         dest[0] = 0;
@@ -60,7 +65,8 @@ char *XGetPath(char *dest, const char *path) {
     return dest;
 }
 
-char *StripPath(char *dest, const char *path) {
+char *StripPath(char *dest, const char *path)
+{
     char buffer[PATH_BUFFER_SIZE];
     if (!CopyPath(buffer, path)) {
         dest[0] = 0;
@@ -70,7 +76,8 @@ char *StripPath(char *dest, const char *path) {
     return dest;
 }
 
-char *StripPathAndExt(char *dest, const char *path) {
+char *StripPathAndExt(char *dest, const char *path)
+{
     if (!StripPath(dest, path))
         return NULL;
     char *dot = ExtensionDot(dest);
@@ -81,7 +88,8 @@ char *StripPathAndExt(char *dest, const char *path) {
 
 // An empty path stays empty, so that directory + separator + name of a bare name is the bare
 // name again (XGetPath of "Page.cpp" is "").
-char *AddBackSlashToPath(char *path) {
+char *AddBackSlashToPath(char *path)
+{
     size_t length = strlen(path);
     for (size_t i = 0; i < length; i++)
         if (path[i] == '\\')
@@ -93,14 +101,16 @@ char *AddBackSlashToPath(char *path) {
     return path;
 }
 
-int ExtensionExists(const char *path) {
+int ExtensionExists(const char *path)
+{
     char buffer[PATH_BUFFER_SIZE];
     if (!CopyPath(buffer, path))
         return 0;
     return ExtensionDot((char *)NamePart(buffer)) != NULL;
 }
 
-char *MakeFilename(char *dest, const char *directory, const char *name) {
+char *MakeFilename(char *dest, const char *directory, const char *name)
+{
     char buffer[PATH_BUFFER_SIZE * 2];
     int whole = NormalisePath(buffer, directory, sizeof(buffer));
     size_t length = strlen(buffer);
@@ -117,7 +127,8 @@ char *MakeFilename(char *dest, const char *directory, const char *name) {
     return dest;
 }
 
-int IsAbsolutePath(const char *path) {
+int IsAbsolutePath(const char *path)
+{
     if (!path || !path[0])
         return 0;
     if (path[0] == '/')
@@ -126,7 +137,8 @@ int IsAbsolutePath(const char *path) {
 }
 
 // A root that can't be made or written leaves the old one in place.
-int SetDataRoot(const char *path) {
+int SetDataRoot(const char *path)
+{
     char root[sizeof(_OstrandBase->data_root)];
     if (!path || !path[0] || !NormalisePath(root, path, sizeof(root))) {
         myprintf(0, "Data root not usable (empty or too long): %s", path ? path : "(null)");
@@ -144,7 +156,8 @@ int SetDataRoot(const char *path) {
 }
 
 // By default $XDG_DATA_HOME/quillform, else ~/.local/share/quillform.
-const char *DataRoot(void) {
+const char *DataRoot(void)
+{
     if (!_OstrandBase->data_root[0]) {
         char root[sizeof(_OstrandBase->data_root)];
         const char *xdg = getenv("XDG_DATA_HOME");
@@ -152,8 +165,7 @@ const char *DataRoot(void) {
         if (xdg && xdg[0] == '/')
             snprintf(root, sizeof(root), "%s/quillform", xdg);
         else
-            snprintf(root, sizeof(root), "%s/.local/share/quillform",
-                     home && home[0] ? home : "/tmp");
+            snprintf(root, sizeof(root), "%s/.local/share/quillform", home && home[0] ? home : "/tmp");
         if (!SetDataRoot(root))
             strcpy(_OstrandBase->data_root, root);
     }
@@ -162,7 +174,8 @@ const char *DataRoot(void) {
 
 // The lock is a record lock on the whole file: the system drops it when the process ends, and
 // F_GETLK tells who holds it. The file itself stays; only the lock says that the root is in use.
-int LockDataRoot(u32 *holder) {
+int LockDataRoot(u32 *holder)
+{
     static int lock_fd = -1;
     static char locked_root[sizeof(_OstrandBase->data_root)];
     *holder = 0;
@@ -206,7 +219,8 @@ int LockDataRoot(u32 *holder) {
     return 1;
 }
 
-char *MakePathFromSystem(const char *relative) {
+char *MakePathFromSystem(const char *relative)
+{
     static char path[sizeof(_OstrandBase->data_root) + PATH_BUFFER_SIZE];
     const char *root = DataRoot();
     size_t length = strlen(root);

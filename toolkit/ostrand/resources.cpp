@@ -20,7 +20,8 @@
 
 static u32 crc_table[256];
 
-static u32 Crc32(const u8 *data, u32 size) {
+static u32 Crc32(const u8 *data, u32 size)
+{
     if (!crc_table[1])
         for (u32 n = 0; n < 256; n++) {
             u32 c = n;
@@ -34,17 +35,20 @@ static u32 Crc32(const u8 *data, u32 size) {
     return crc ^ 0xffffffffu;
 }
 
-static void PutU32(u8 *at, u32 value) {
+static void PutU32(u8 *at, u32 value)
+{
     for (int i = 0; i < 4; i++)
         at[i] = (u8)(value >> (8 * i));
 }
 
-static u32 GetU32(const u8 *at) {
+static u32 GetU32(const u8 *at)
+{
     return (u32)at[0] | (u32)at[1] << 8 | (u32)at[2] << 16 | (u32)at[3] << 24;
 }
 
 // The store file of a resource; separators in the name become '_'.
-static const char *StorePath(const char *name) {
+static const char *StorePath(const char *name)
+{
     char relative[RELATIVE_PATH_SIZE];
     snprintf(relative, sizeof(relative), STORE_FOLDER "/%s" STORE_EXTENSION, name);
     for (char *c = relative + sizeof(STORE_FOLDER); *c; c++)
@@ -53,7 +57,8 @@ static const char *StorePath(const char *name) {
     return MakePathFromSystem(relative);
 }
 
-static T_RESOURCE *NewResource(t_List *list, const char *name, u32 type) {
+static T_RESOURCE *NewResource(t_List *list, const char *name, u32 type)
+{
     T_RESOURCE *resource = (T_RESOURCE *)NewNamedNode(sizeof(T_RESOURCE), name);
     if (!resource)
         return NULL;
@@ -66,7 +71,8 @@ static T_RESOURCE *NewResource(t_List *list, const char *name, u32 type) {
 // Reads a stored resource into a new record on the list. A missing file gives null quietly; a
 // broken one (garbage, a folder in its place, no permission) gives null and one log line, and
 // stays as it is until the next store writes a good file in its place.
-static T_RESOURCE *LoadStoredResource(t_List *list, const char *name, u32 type) {
+static T_RESOURCE *LoadStoredResource(t_List *list, const char *name, u32 type)
+{
     const char *path = StorePath(name);
     if (!PathExists(path))
         return NULL;
@@ -74,8 +80,7 @@ static T_RESOURCE *LoadStoredResource(t_List *list, const char *name, u32 type) 
     snprintf(path_copy, sizeof(path_copy), "%s", path);
     const u8 *file = (const u8 *)LoadFile(path_copy);
     if (!file) {
-        myprintf(0, "Stored resource %s can't be read (%s); it is ignored", path_copy,
-                 LoadFileError());
+        myprintf(0, "Stored resource %s can't be read (%s); it is ignored", path_copy, LoadFileError());
         return NULL;
     }
     u32 file_size = GetLoadFileSize();
@@ -109,7 +114,8 @@ static T_RESOURCE *LoadStoredResource(t_List *list, const char *name, u32 type) 
     return resource;
 }
 
-T_RESOURCE *OpenResource(t_List *list, const char *name, u32 type, u32 flags) {
+T_RESOURCE *OpenResource(t_List *list, const char *name, u32 type, u32 flags)
+{
     (void)flags;
     if (!list || !name)
         return NULL;
@@ -129,7 +135,8 @@ T_RESOURCE *OpenResource(t_List *list, const char *name, u32 type, u32 flags) {
     }
 }
 
-T_RESOURCE *CreateResource(t_List *list, const char *name, u32 size, u32 type) {
+T_RESOURCE *CreateResource(t_List *list, const char *name, u32 size, u32 type)
+{
     if (!list)
         return NULL;
     void *data = AllocMemType(_OstrandBase->default_memory_type, size);
@@ -145,7 +152,8 @@ T_RESOURCE *CreateResource(t_List *list, const char *name, u32 size, u32 type) {
     return resource;
 }
 
-void RemoveResource(T_RESOURCE *resource) {
+void RemoveResource(T_RESOURCE *resource)
+{
     if (!resource || --resource->use_count > 0)
         return;
     SubNode((t_Node *)resource);
@@ -155,7 +163,8 @@ void RemoveResource(T_RESOURCE *resource) {
     FreeMem(resource, NodeBlockSize(sizeof(T_RESOURCE)));
 }
 
-static int StoreResource(T_RESOURCE *resource) {
+static int StoreResource(T_RESOURCE *resource)
+{
     u32 size = STORE_HEAD_SIZE + resource->data_size;
     u8 *file = (u8 *)AllocMemC(size);
     if (!file)
@@ -167,13 +176,14 @@ static int StoreResource(T_RESOURCE *resource) {
     if (resource->data_size)
         memcpy(file + STORE_HEAD_SIZE, resource->data, resource->data_size);
     PutU32(file + 16, Crc32(file + STORE_HEAD_SIZE, resource->data_size));
-    int ok = MakeEntireDirectory(MakePathFromSystem(STORE_FOLDER)) &&
-             SaveStoreFile(StorePath(resource->name), file, size);
+    int ok =
+        MakeEntireDirectory(MakePathFromSystem(STORE_FOLDER)) && SaveStoreFile(StorePath(resource->name), file, size);
     FreeMem(file, size);
     return ok;
 }
 
-u32 StoreResources(t_List *list) {
+u32 StoreResources(t_List *list)
+{
     u32 failed = 0;
     if (!list)
         return 0;

@@ -6,7 +6,8 @@
 
 // A null text frees the string and gives null. The copy is made before the old text goes, so a
 // string may be given its own text.
-char *AllocString(const char *text, STRING *string) {
+char *AllocString(const char *text, STRING *string)
+{
     if (!text) {
         FreeString(string);
         return NULL;
@@ -22,7 +23,8 @@ char *AllocString(const char *text, STRING *string) {
     return copy;
 }
 
-void FreeString(STRING *string) {
+void FreeString(STRING *string)
+{
     if (!string)
         return;
     FreeMem(string->text, string->size);
@@ -30,7 +32,8 @@ void FreeString(STRING *string) {
     string->size = 0;
 }
 
-char *RemoveSpacesFromString(char *text) {
+char *RemoveSpacesFromString(char *text)
+{
     if (!text)
         return text;
     char *to = text;
@@ -43,12 +46,15 @@ char *RemoveSpacesFromString(char *text) {
 
 // Prefixes of the toolkit's symbolic names, dropped from the front of a name (repeatedly, for a
 // name that stacks them) before it becomes a label.
+// clang-format off
 static const char *const symbol_prefixes[] = {
     "IDCMP_", "ACT_", "WF_", "WSF_", "GADGET_FLAGS_", "GADGET_TYPE_", "GADGET_MARK_",
     "MENU_FLAG_", "MENU_KIND_", "QUAL_", "KEY_", "RESOURCE_TYPE_",
 };
+// clang-format on
 
-char *MakeReadable(char *text) {
+char *MakeReadable(char *text)
+{
     if (!text)
         return text;
     char *start = text;
@@ -73,7 +79,8 @@ char *MakeReadable(char *text) {
     return text;
 }
 
-u32 CalcHexNumber(const char *text) {
+u32 CalcHexNumber(const char *text)
+{
     u32 value = 0;
     for (; text && isxdigit((unsigned char)*text); text++) {
         int c = tolower((unsigned char)*text);
@@ -83,14 +90,16 @@ u32 CalcHexNumber(const char *text) {
 }
 
 // Both walks stop at the terminator row, the first of value 0.
-const char *FindV2SByCode(const T_VAL2STRING *table, u32 value) {
+const char *FindV2SByCode(const T_VAL2STRING *table, u32 value)
+{
     for (const T_VAL2STRING *row = table; row && row->value; row++)
         if (row->value == value)
             return row->text;
     return NULL;
 }
 
-u32 FindV2SByString(const T_VAL2STRING *table, const char *text) {
+u32 FindV2SByString(const T_VAL2STRING *table, const char *text)
+{
     if (!text || !*text)
         return 0;
     for (const T_VAL2STRING *row = table; row && row->value; row++)

@@ -15,13 +15,12 @@
 #include "pickett/pickett_internal.h"
 
 #define COLSEL_USER_W 340
-#define COLSEL_VALUE_W 32     // the value column, right of the sliders
+#define COLSEL_VALUE_W 32  // the value column, right of the sliders
 #define COLSEL_SWATCH_H 40
-#define COLSEL_GROUP_GAP 8    // between the RGB and the HSI rows, beyond the row gap
-#define COLSEL_DROP_ITEM 1    // the item code of ACT_RECEIVE_OBJECT for a dropped colour
+#define COLSEL_GROUP_GAP 8  // between the RGB and the HSI rows, beyond the row gap
+#define COLSEL_DROP_ITEM 1  // the item code of ACT_RECEIVE_OBJECT for a dropped colour
 #define COLSEL_DRAG_IMAGE MOUSE_IMAGE_HAND
-#define COLSEL_FLAGS \
-    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_IN_FRONT | WF_DEPENDANT)
+#define COLSEL_FLAGS (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_IN_FRONT | WF_DEPENDANT)
 #define COLSEL_SLIDER_ACTION (ACT_LMOUSE_DOWN | ACT_LMOUSE_UP | ACT_MOUSE_WHEEL)
 #define COLSEL_CHANNEL_MAX 255
 
@@ -48,14 +47,16 @@ static const struct {
     const char *label;
     u16 group;
     size_t offset;
+    // clang-format off
 } channels[COLSEL_CHANNELS] = {
-    {"Red", GROUP_RGB, offsetof(T_RGBA, r)},
-    {"Green", GROUP_RGB, offsetof(T_RGBA, g)},
-    {"Blue", GROUP_RGB, offsetof(T_RGBA, b)},
-    {"Hue", GROUP_HSI, offsetof(T_HSIA, h)},
+    {"Red",        GROUP_RGB, offsetof(T_RGBA, r)},
+    {"Green",      GROUP_RGB, offsetof(T_RGBA, g)},
+    {"Blue",       GROUP_RGB, offsetof(T_RGBA, b)},
+    {"Hue",        GROUP_HSI, offsetof(T_HSIA, h)},
     {"Saturation", GROUP_HSI, offsetof(T_HSIA, s)},
-    {"Intensity", GROUP_HSI, offsetof(T_HSIA, i)},
+    {"Intensity",  GROUP_HSI, offsetof(T_HSIA, i)},
 };
+// clang-format on
 
 typedef struct T_COLOUR_SELECTOR {
     T_SELECTOR base;  // and the swatch's drag, the swatch and values' paint
@@ -67,48 +68,64 @@ typedef struct T_COLOUR_SELECTOR {
     u16 dragging;   // the press in progress drags the colour from the swatch
 } T_COLOUR_SELECTOR;
 
-static T_COLOUR_SELECTOR *SelectorOf(t_Window *window) {
+static T_COLOUR_SELECTOR *SelectorOf(t_Window *window)
+{
     return (T_COLOUR_SELECTOR *)((char *)window->user_data - offsetof(T_COLOUR_SELECTOR, sel));
 }
 
 // Where channel i lives: the caller's T_RGBA, or the selector's T_HSIA.
-static float *Channel(T_COLOUR_SELECTOR *s, int i) {
+static float *Channel(T_COLOUR_SELECTOR *s, int i)
+{
     char *record = channels[i].group == GROUP_RGB ? (char *)s->sel.rgba : (char *)&s->hsia;
     return (float *)(record + channels[i].offset);
 }
 
-static T_SLIDER_DATA *Slider(t_gadget *slider) { return (T_SLIDER_DATA *)slider->class_data; }
+static T_SLIDER_DATA *Slider(t_gadget *slider)
+{
+    return (T_SLIDER_DATA *)slider->class_data;
+}
 
-static i32 ToByte(float v) {
+static i32 ToByte(float v)
+{
     return v < 0 ? 0 : v > COLSEL_CHANNEL_MAX ? COLSEL_CHANNEL_MAX : (i32)(v + 0.5f);
 }
 
-static int PreviewOn(T_COLOUR_SELECTOR *s) { return s->preview && s->preview->class_data; }
+static int PreviewOn(T_COLOUR_SELECTOR *s)
+{
+    return s->preview && s->preview->class_data;
+}
 
-static void SendPreview(T_COLOUR_SELECTOR *s) {
-    if (PreviewOn(s)) TellParent(&s->base, ACT_REQUESTER_PREVIEW);
+static void SendPreview(T_COLOUR_SELECTOR *s)
+{
+    if (PreviewOn(s))
+        TellParent(&s->base, ACT_REQUESTER_PREVIEW);
 }
 
 // The sliders of a group follow the colour.
-static void ShowGroup(T_COLOUR_SELECTOR *s, u16 group) {
+static void ShowGroup(T_COLOUR_SELECTOR *s, u16 group)
+{
     for (int i = 0; i < COLSEL_CHANNELS; i++)
-        if (channels[i].group == group) Slider(s->sliders[i])->value = ToByte(*Channel(s, i));
+        if (channels[i].group == group)
+            Slider(s->sliders[i])->value = ToByte(*Channel(s, i));
 }
 
 // A slider of the group of channel `moved` was moved: the channels whose slider now shows
 // another value take it (the others keep their fractions), the other group is worked out from
 // this one, the caller's T_HSIA takes the selector's, and the parent gets a preview. A press
 // that changes nothing changes nothing.
-static void TakeGroup(T_COLOUR_SELECTOR *s, int moved) {
+static void TakeGroup(T_COLOUR_SELECTOR *s, int moved)
+{
     u16 group = channels[moved].group;
     int changed = 0;
     for (int i = 0; i < COLSEL_CHANNELS; i++) {
         i32 value = Slider(s->sliders[i])->value;
-        if (channels[i].group != group || ToByte(*Channel(s, i)) == value) continue;
+        if (channels[i].group != group || ToByte(*Channel(s, i)) == value)
+            continue;
         *Channel(s, i) = (float)value;
         changed = 1;
     }
-    if (!changed) return;
+    if (!changed)
+        return;
     if (group == GROUP_RGB) {
         RGBToHSI(s->sel.rgba, &s->hsia);
         ShowGroup(s, GROUP_HSI);
@@ -117,11 +134,13 @@ static void TakeGroup(T_COLOUR_SELECTOR *s, int moved) {
         HSIToRGB(&s->hsia, s->sel.rgba);
         ShowGroup(s, GROUP_RGB);
     }
-    if (s->sel.hsia) *s->sel.hsia = s->hsia;
+    if (s->sel.hsia)
+        *s->sel.hsia = s->hsia;
     SendPreview(s);
 }
 
-static u32 ColourSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+static u32 ColourSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     (void)data;
     T_COLOUR_SELECTOR *s = SelectorOf(window);
     switch (msg) {
@@ -139,13 +158,16 @@ static u32 ColourSelectorMessage(t_Window *window, u32 item_code, u32 msg, void 
             TakeGroup(s, (int)(item_code - COLSEL_RED));
             return 0;
         case COLSEL_PREVIEW:  // turned on again: the parent catches up with the colour
-            if (msg == ACT_LMOUSE_UP) SendPreview(s);
+            if (msg == ACT_LMOUSE_UP)
+                SendPreview(s);
             return 0;
         case COLSEL_OK:  // the OK button
-            if (msg == ACT_LMOUSE_UP) FinishSelector(&s->base, ACT_REQUESTER_OK);
+            if (msg == ACT_LMOUSE_UP)
+                FinishSelector(&s->base, ACT_REQUESTER_OK);
             return 0;
         case COLSEL_CANCEL:  // the Cancel button
-            if (msg == ACT_LMOUSE_UP) FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
+            if (msg == ACT_LMOUSE_UP)
+                FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
             return 0;
         default:
             return 0;
@@ -153,13 +175,15 @@ static u32 ColourSelectorMessage(t_Window *window, u32 item_code, u32 msg, void 
     }
 }
 
-static T_RPOS SwatchRect(T_COLOUR_SELECTOR *s) {
+static T_RPOS SwatchRect(T_COLOUR_SELECTOR *s)
+{
     t_Window *w = s->sel.window;
     return T_RPOS{(i16)(w->user_x + s->swatch.x), (i16)(w->user_y + s->swatch.y), s->swatch.w, s->swatch.h};
 }
 
 // The swatch in the colour, and each slider's value right-aligned beside it.
-static void ColourSelectorPaint(t_Handler *handler) {
+static void ColourSelectorPaint(t_Handler *handler)
+{
     T_COLOUR_SELECTOR *s = (T_COLOUR_SELECTOR *)handler;
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_RPOS box = SwatchRect(s);
@@ -180,9 +204,11 @@ static void ColourSelectorPaint(t_Handler *handler) {
 // The colour released at x, y: on a colour flat gadget of another window (one in a combo too)
 // it is dropped, on another window's background it is offered. The selector's own colour stays:
 // the receivers get a copy.
-static void DropColour(T_COLOUR_SELECTOR *s, i16 x, i16 y) {
+static void DropColour(T_COLOUR_SELECTOR *s, i16 x, i16 y)
+{
     t_Window *target = WindowAtPoint(x, y, NULL);
-    if (!target || target == s->sel.window) return;
+    if (!target || target == s->sel.window)
+        return;
     T_RGBA colour = *s->sel.rgba;
     if (t_gadget *g = GadgetAtPoint(target, x, y)) {
         // A disabled swatch takes nothing, unless its owner's function decides.
@@ -191,27 +217,33 @@ static void DropColour(T_COLOUR_SELECTOR *s, i16 x, i16 y) {
         return;
     }
     T_RPOS user = UserArea(target);
-    if (PointBoxColl(x, y, &user)) DeliverMessage(target, COLSEL_DROP_ITEM, ACT_RECEIVE_OBJECT, &colour);
+    if (PointBoxColl(x, y, &user))
+        DeliverMessage(target, COLSEL_DROP_ITEM, ACT_RECEIVE_OBJECT, &colour);
 }
 
-static void EndDrag(T_COLOUR_SELECTOR *s) {
-    if (!s->dragging) return;
+static void EndDrag(T_COLOUR_SELECTOR *s)
+{
+    if (!s->dragging)
+        return;
     s->dragging = 0;
     SetMouseImage(MOUSE_IMAGE_ARROW);
 }
 
 // A left press on the swatch drags its colour; the drag holds the pointer until the release.
-static u32 SwatchMouse(T_COLOUR_SELECTOR *s, const T_MOUSE_MSG *m) {
+static u32 SwatchMouse(T_COLOUR_SELECTOR *s, const T_MOUSE_MSG *m)
+{
     switch (m->mouse_action) {
     case ACT_LMOUSE_DOWN: {  // on the swatch: the drag begins
         T_RPOS swatch = SwatchRect(s);
-        if (!PointBoxColl(m->x, m->y, &swatch)) return 0;
+        if (!PointBoxColl(m->x, m->y, &swatch))
+            return 0;
         s->dragging = 1;
         SetMouseImage(COLSEL_DRAG_IMAGE);
         return 1;
     }
     case ACT_LMOUSE_UP:  // the drop
-        if (!s->dragging) return 0;
+        if (!s->dragging)
+            return 0;
         EndDrag(s);
         DropColour(s, m->x, m->y);
         return 1;
@@ -221,7 +253,8 @@ static u32 SwatchMouse(T_COLOUR_SELECTOR *s, const T_MOUSE_MSG *m) {
 }
 
 // Keys come here before the gadgets: Enter is OK (Cancel on the Cancel button), Escape Cancel.
-static u32 ColourSelectorInput(t_Handler *handler, u32 event, void *data) {
+static u32 ColourSelectorInput(t_Handler *handler, u32 event, void *data)
+{
     T_COLOUR_SELECTOR *s = (T_COLOUR_SELECTOR *)handler;
     switch (event) {
     case HANDLER_EVENT_KEY:
@@ -238,29 +271,34 @@ static u32 ColourSelectorInput(t_Handler *handler, u32 event, void *data) {
 }
 
 // The label column is as wide as the widest label.
-static i16 LabelWidth(void) {
+static i16 LabelWidth(void)
+{
     SetActiveFont(NULL);
     SetFontStyle(0);
     i32 widest = 0;
     for (const auto &c : channels) {
         i32 w = GetStringWidth(c.label);
-        if (w > widest) widest = w;
+        if (w > widest)
+            widest = w;
     }
     return (i16)(widest + SELECTOR_GAP);
 }
 
-static t_gadget *MakeGadget(t_Gaget_Handler *gh, const char *name, T_GADGETOBJECTINIT *gi) {
+static t_gadget *MakeGadget(t_Gaget_Handler *gh, const char *name, T_GADGETOBJECTINIT *gi)
+{
     return (t_gadget *)CreateObject(&gh->head, name, gi);
 }
 
 // The rows under the swatch: a label and a slider per channel, the two groups apart, then
 // Preview at the left and OK and Cancel at the right. False when a gadget can't be made.
-static int MakeSelectorGadgets(T_COLOUR_SELECTOR *s, t_Gaget_Handler *gh, i16 rh) {
+static int MakeSelectorGadgets(T_COLOUR_SELECTOR *s, t_Gaget_Handler *gh, i16 rh)
+{
     i16 pad = SELECTOR_PAD, gap = SELECTOR_GAP, label_w = LabelWidth();
     i16 slider_w = COLSEL_USER_W - 2 * pad - label_w - gap - COLSEL_VALUE_W;
     i16 y = pad + COLSEL_SWATCH_H + gap;
     for (int i = 0; i < COLSEL_CHANNELS; i++, y += rh + gap) {
-        if (i && channels[i].group != channels[i - 1].group) y += COLSEL_GROUP_GAP;
+        if (i && channels[i].group != channels[i - 1].group)
+            y += COLSEL_GROUP_GAP;
         T_GADGETOBJECTINIT gi = {};
         gi.type = GADGET_TYPE_TEXT;
         gi.x = pad, gi.y = y, gi.base_width = label_w, gi.base_height = rh;
@@ -275,7 +313,8 @@ static int MakeSelectorGadgets(T_COLOUR_SELECTOR *s, t_Gaget_Handler *gh, i16 rh
         gi.init_val = ToByte(*Channel(s, i));
         gi.flags = GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_REPORT_DRAG;
         gi.action = COLSEL_SLIDER_ACTION;
-        if (!(s->sliders[i] = MakeGadget(gh, channels[i].label, &gi))) return 0;
+        if (!(s->sliders[i] = MakeGadget(gh, channels[i].label, &gi)))
+            return 0;
     }
     y += gap;
     T_GADGETOBJECTINIT gi = {};
@@ -298,7 +337,8 @@ static int MakeSelectorGadgets(T_COLOUR_SELECTOR *s, t_Gaget_Handler *gh, i16 rh
 
 // The HSI sliders start from the caller's T_HSIA when it names the caller's colour, so that a
 // grey keeps its hue; else from the colour.
-static void StartHSI(T_COLOUR_SELECTOR *s) {
+static void StartHSI(T_COLOUR_SELECTOR *s)
+{
     if (s->sel.hsia) {
         T_RGBA back;
         HSIToRGB(s->sel.hsia, &back);
@@ -310,23 +350,34 @@ static void StartHSI(T_COLOUR_SELECTOR *s) {
     RGBToHSI(s->sel.rgba, &s->hsia);
 }
 
-t_Window *AddColourSelector(T_COLOURSEL_INIT *init) {
-    if (!init || !init->rgba) return NULL;
+t_Window *AddColourSelector(T_COLOURSEL_INIT *init)
+{
+    if (!init || !init->rgba)
+        return NULL;
     i16 rh = SelectorRowHeight(), pad = SELECTOR_PAD, gap = SELECTOR_GAP;
     i16 user_h = pad + COLSEL_SWATCH_H + gap + COLSEL_CHANNELS * (rh + gap) + COLSEL_GROUP_GAP + gap + rh + pad;
-    const T_DIALOG_SPEC spec = {init->title,         init->parent,        COLSEL_USER_W,     user_h,
-                                COLSEL_FLAGS,        IDCMP_TERMINATE,     ColourSelectorMessage,
-                                ColourSelectorInput, ColourSelectorPaint, "colour selector", sizeof(T_COLOUR_SELECTOR)};
-    T_COLOUR_SELECTOR *s =
-        (T_COLOUR_SELECTOR *)OpenSelector(&spec, init->item_code, offsetof(T_COLOUR_SELECTOR, sel));
-    if (!s) return NULL;
+    const T_DIALOG_SPEC spec = {init->title,
+                                init->parent,
+                                COLSEL_USER_W,
+                                user_h,
+                                COLSEL_FLAGS,
+                                IDCMP_TERMINATE,
+                                ColourSelectorMessage,
+                                ColourSelectorInput,
+                                ColourSelectorPaint,
+                                "colour selector",
+                                sizeof(T_COLOUR_SELECTOR)};
+    T_COLOUR_SELECTOR *s = (T_COLOUR_SELECTOR *)OpenSelector(&spec, init->item_code, offsetof(T_COLOUR_SELECTOR, sel));
+    if (!s)
+        return NULL;
     t_Window *window = s->base.head.window;
     s->base.answer_data = s->base.cancel_data = &s->sel;
     s->sel = T_COLOURSEL{window, init->rgba, init->hsia, init->item_code, init->user_data};
     s->swatch = T_RPOS{pad, pad, (i16)(COLSEL_USER_W - 2 * pad), COLSEL_SWATCH_H};
     StartHSI(s);
     t_Gaget_Handler *gh = NewGadgetHandler(window);
-    if (!gh || !MakeSelectorGadgets(s, gh, rh)) return DropSelector(&s->base, "AddColourSelector");
+    if (!gh || !MakeSelectorGadgets(s, gh, rh))
+        return DropSelector(&s->base, "AddColourSelector");
     gh->current_gadget = s->sliders[0];
     return window;
 }

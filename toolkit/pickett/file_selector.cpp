@@ -10,9 +10,8 @@
 #define FILESEL_USER_W 460
 #define FILESEL_USER_H 380
 #define FILESEL_MIN_LIST_H 40
-#define FILESEL_FLAGS \
-    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_RESIZE | WF_IN_FRONT | \
-     WF_DEPENDANT)
+#define FILESEL_FLAGS                                                                                                  \
+    (WF_CHILD | WF_TITLE | WF_MOVE | WF_BORDER | WF_CLOSE | WF_ALTF4 | WF_RESIZE | WF_IN_FRONT | WF_DEPENDANT)
 
 // Item codes of the selector's own gadgets.
 enum {
@@ -41,13 +40,15 @@ typedef struct T_FILE_SELECTOR {
     t_gadget *labels[3];  // "Folder", "Pattern", "Name"
 } T_FILE_SELECTOR;
 
-static T_FILE_SELECTOR *SelectorOf(t_Window *window) {
+static T_FILE_SELECTOR *SelectorOf(t_Window *window)
+{
     return (T_FILE_SELECTOR *)window->user_data;
 }
 
 // Shows `folder`, or the nearest existing folder above it, and its entries. A folder that can't
 // be read shows no entries and the note.
-static void GoToFolder(T_FILE_SELECTOR *s, const char *folder) {
+static void GoToFolder(T_FILE_SELECTOR *s, const char *folder)
+{
     char nearest[PICKETT_PATH_SIZE];
     NearestFolder(nearest, sizeof nearest, folder);
     memcpy(s->folder, nearest, sizeof s->folder);
@@ -63,17 +64,17 @@ static void GoToFolder(T_FILE_SELECTOR *s, const char *folder) {
 
 // OK: the typed name with the folder shown (or its own full path). A name that leads to a folder
 // goes there instead; an empty name does nothing.
-static void Accept(t_Window *window) {
+static void Accept(t_Window *window)
+{
     T_FILE_SELECTOR *s = SelectorOf(window);
     T_FILE_REQUESTER_ANSWER answer = s->answer;
-    if (!SplitTypedName(&answer, s->folder, s->name_text)) return;
+    if (!SplitTypedName(&answer, s->folder, s->name_text))
+        return;
     char full[PICKETT_PATH_SIZE];
     JoinPath(full, sizeof full, answer.directory, answer.name);
     if (strcmp(answer.name, "..") == 0 || DirectoryExists(full)) {
         SetSelectorField(s->name_field, s->name_text, "");
-        GoToFolder(s, strcmp(answer.name, "..") == 0
-                          ? ParentFolder(full, sizeof full, answer.directory)
-                          : full);
+        GoToFolder(s, strcmp(answer.name, "..") == 0 ? ParentFolder(full, sizeof full, answer.directory) : full);
         return;
     }
     s->answer = answer;
@@ -81,10 +82,12 @@ static void Accept(t_Window *window) {
 }
 
 // An entry was opened (double click, or Enter in the list): a folder is entered, a file is OK.
-static void OpenEntry(t_Window *window, T_FOLDER_ENTRY *e) {
+static void OpenEntry(t_Window *window, T_FOLDER_ENTRY *e)
+{
     T_FILE_SELECTOR *s = SelectorOf(window);
     char path[PICKETT_PATH_SIZE];
-    if (!e) return;
+    if (!e)
+        return;
     if (!e->is_folder) {
         SetSelectorField(s->name_field, s->name_text, e->name);
         Accept(window);
@@ -96,19 +99,22 @@ static void OpenEntry(t_Window *window, T_FOLDER_ENTRY *e) {
 }
 
 // Lays the gadgets out in the user area: path on top, the list, pattern, name, buttons.
-static void Layout(t_Window *window) {
+static void Layout(t_Window *window)
+{
     T_FILE_SELECTOR *s = SelectorOf(window);
     i16 rh = SelectorRowHeight(), pad = SELECTOR_PAD, gap = SELECTOR_GAP;
     i16 w = window->user_w, h = window->user_h;
     i16 label_w = 0;
     for (t_gadget *label : s->labels) {
         i16 lw = (i16)GetStringWidth(label->name) + 8;
-        if (lw > label_w) label_w = lw;
+        if (lw > label_w)
+            label_w = lw;
     }
     i16 field_x = pad + label_w, field_w = w - field_x - pad;
     i16 buttons_y = h - pad - rh, name_y = buttons_y - gap - rh, pattern_y = name_y - gap - rh;
     i16 list_y = pad + rh + gap, list_h = pattern_y - gap - list_y;
-    if (list_h < FILESEL_MIN_LIST_H) list_h = FILESEL_MIN_LIST_H;
+    if (list_h < FILESEL_MIN_LIST_H)
+        list_h = FILESEL_MIN_LIST_H;
     PlaceGadget(s->labels[0], pad, pad, label_w, rh);
     PlaceGadget(s->path_field, field_x, pad, field_w, rh);
     PlaceGadget(s->list_gadget, pad, list_y, w - 2 * pad, list_h);
@@ -121,7 +127,8 @@ static void Layout(t_Window *window) {
     PlaceGadget(s->note, pad, buttons_y, w - 3 * pad - 2 * SELECTOR_BUTTON_W - gap, rh);
 }
 
-static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data) {
+static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
     (void)data;
     T_FILE_SELECTOR *s = SelectorOf(window);
     switch (msg) {
@@ -141,7 +148,8 @@ static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
             return 0;
         case FILESEL_LIST: {  // a click on an entry: a file's name goes into the name field
             T_FOLDER_ENTRY *e = (T_FOLDER_ENTRY *)SelectedNode(s->list, &s->entries);
-            if (e && !e->is_folder) SetSelectorField(s->name_field, s->name_text, e->name);
+            if (e && !e->is_folder)
+                SetSelectorField(s->name_field, s->name_text, e->name);
             return 0;
         }
         default:
@@ -162,7 +170,8 @@ static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
 
 // Enter but on the Cancel button: on the path or the pattern it shows that folder, on a folder
 // of the list it enters it, elsewhere it is OK.
-static void Enter(t_Window *window) {
+static void Enter(t_Window *window)
+{
     T_FILE_SELECTOR *s = SelectorOf(window);
     t_gadget *current = GetCurrentGadget(window);
     T_FOLDER_ENTRY *e = (T_FOLDER_ENTRY *)SelectedNode(s->list, &s->entries);
@@ -177,7 +186,8 @@ static void Enter(t_Window *window) {
 }
 
 // Keys come here before the gadgets.
-static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data) {
+static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data)
+{
     T_FILE_SELECTOR *s = (T_FILE_SELECTOR *)handler;
     switch (event) {
     case HANDLER_EVENT_KEY:
@@ -199,13 +209,17 @@ static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data) {
     }
 }
 
-t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init) {
-    if (!init) return NULL;
-    const T_DIALOG_SPEC spec = {init->title,       init->parent,    FILESEL_USER_W,  FILESEL_USER_H,
-                                FILESEL_FLAGS,     IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE, FileSelectorMessage,
-                                FileSelectorInput, NULL,            "file selector", sizeof(T_FILE_SELECTOR)};
+t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init)
+{
+    if (!init)
+        return NULL;
+    const T_DIALOG_SPEC spec = {init->title,         init->parent,           FILESEL_USER_W,
+                                FILESEL_USER_H,      FILESEL_FLAGS,          IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
+                                FileSelectorMessage, FileSelectorInput,      NULL,
+                                "file selector",     sizeof(T_FILE_SELECTOR)};
     T_FILE_SELECTOR *s = (T_FILE_SELECTOR *)OpenSelector(&spec, init->item_code, 0);
-    if (!s) return NULL;
+    if (!s)
+        return NULL;
     t_Window *window = s->base.head.window;
     s->base.answer_data = &s->answer;
     InitList(&s->entries, "folder entries");
@@ -220,14 +234,13 @@ t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init) {
     s->pattern_field = MakeSelectorField(gh, s->pattern_text, FILESEL_PATTERN);
     s->labels[2] = MakeSelectorGadget(gh, GADGET_TYPE_TEXT, "Name", FILESEL_LABEL, 0, NULL);
     s->name_field = MakeSelectorField(gh, s->name_text, FILESEL_NAME);
-    s->ok = MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, init->ok_text ? init->ok_text : "OK",
-                               FILESEL_OK, ACT_LMOUSE_UP, NULL);
-    s->base.cancel =
-        MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, init->cancel_text ? init->cancel_text : "Cancel",
-                           FILESEL_CANCEL, ACT_LMOUSE_UP, NULL);
+    s->ok = MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, init->ok_text ? init->ok_text : "OK", FILESEL_OK, ACT_LMOUSE_UP,
+                               NULL);
+    s->base.cancel = MakeSelectorGadget(gh, GADGET_TYPE_BUTTON, init->cancel_text ? init->cancel_text : "Cancel",
+                                        FILESEL_CANCEL, ACT_LMOUSE_UP, NULL);
     s->note = MakeSelectorGadget(gh, GADGET_TYPE_TEXT, unreadable_note, FILESEL_NOTE, 0, NULL);
-    if (!s->labels[0] || !s->path_field || !s->list_gadget || !s->labels[1] || !s->pattern_field ||
-        !s->labels[2] || !s->name_field || !s->ok || !s->base.cancel || !s->note)
+    if (!s->labels[0] || !s->path_field || !s->list_gadget || !s->labels[1] || !s->pattern_field || !s->labels[2] ||
+        !s->name_field || !s->ok || !s->base.cancel || !s->note)
         return DropSelector(&s->base, "NewFileSelector");
     Layout(window);
     // A name that holds a folder opens in that folder with its bare name; the name is selected, so

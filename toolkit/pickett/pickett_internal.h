@@ -89,8 +89,8 @@ void ReadFontList(t_List *entries, const char *folder, const char *patterns);
 #define SELECTOR_FIELD_SIZE 256  // a string field's buffer, its terminator included
 
 i16 SelectorRowHeight(void);  // a field's or button's height, from the system font
-t_gadget *MakeSelectorGadget(t_Gaget_Handler *handler, u16 type, const char *name, u32 item_code,
-                             u32 action, void *data);
+t_gadget *MakeSelectorGadget(t_Gaget_Handler *handler, u16 type, const char *name, u32 item_code, u32 action,
+                             void *data);
 // A string field that edits `buffer` (SELECTOR_FIELD_SIZE bytes) in place.
 t_gadget *MakeSelectorField(t_Gaget_Handler *handler, char *buffer, u32 item_code);
 // Puts new text into a field's buffer and its cursor at the end.

@@ -11,7 +11,8 @@ T_TENURE_BASE *_TenureBase = &tenure_base;
 
 // A WF_DEPENDANT child goes with its parent, and a toolbar (a window with a toolbar handler)
 // stays to the end: neither is asked to end nor counted.
-static int LeftAlone(t_Window *child) {
+static int LeftAlone(t_Window *child)
+{
     if (child->flags & WF_DEPENDANT)
         return 1;
     for (t_Handler *h = (t_Handler *)child->handlers.first; h->next; h = h->next)
@@ -20,7 +21,8 @@ static int LeftAlone(t_Window *child) {
     return 0;
 }
 
-static int Asked(t_Window **asked, u32 count, t_Window *child) {
+static int Asked(t_Window **asked, u32 count, t_Window *child)
+{
     for (u32 i = 0; i < count; i++)
         if (asked[i] == child)
             return 1;
@@ -30,7 +32,8 @@ static int Asked(t_Window **asked, u32 count, t_Window *child) {
 // Each child's ACT_TERMINATE may turn the loop (a page's query), which may remove or free other
 // children; so the walk starts again from the first child after each message and remembers by
 // address whom it has asked, never keeping a pointer into the list across a call.
-int WaitForNDependantWindowLeft(t_Window *window, u32 n) {
+int WaitForNDependantWindowLeft(t_Window *window, u32 n)
+{
     if (!window || _TenureBase->session_state == SESSION_ENDED)
         return 0;
     _TenureBase->session_state = SESSION_ENDING;
@@ -38,8 +41,7 @@ int WaitForNDependantWindowLeft(t_Window *window, u32 n) {
     u32 asked_count = 0, asked_capacity = 0;
     for (;;) {
         t_Window *child = (t_Window *)window->children.first;
-        while (child->next &&
-               (!IsWindowLive(child) || LeftAlone(child) || Asked(asked, asked_count, child)))
+        while (child->next && (!IsWindowLive(child) || LeftAlone(child) || Asked(asked, asked_count, child)))
             child = child->next;
         if (!child->next)
             break;
@@ -74,7 +76,8 @@ int WaitForNDependantWindowLeft(t_Window *window, u32 n) {
     return 1;
 }
 
-void SaveAndCloseSessionApplication(t_Window *window, T_TOOL_SETUP *setup) {
+void SaveAndCloseSessionApplication(t_Window *window, T_TOOL_SETUP *setup)
+{
     if (_TenureBase->session_state == SESSION_ENDED) {
         myprintf(3, "The session has ended already; nothing is stored again");
         return;
@@ -92,6 +95,7 @@ void SaveAndCloseSessionApplication(t_Window *window, T_TOOL_SETUP *setup) {
     _TenureBase->session_state = SESSION_ENDED;
 }
 
-int SessionEnded(void) {
+int SessionEnded(void)
+{
     return _TenureBase->session_state == SESSION_ENDED;
 }
