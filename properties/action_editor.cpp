@@ -9,12 +9,13 @@
 #include "properties/texts.h"
 
 // It opens narrow and is fitted to its contents.
-#define ACTION_FRAME_FLAGS (WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE)  // 0x274
-#define ACTION_FRAME_IDCMP                                                                                             \
-    (IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_MENU_OPEN | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK |               \
-     IDCMP_REQUESTER_ABORT)  // 0x24486
+// clang-format off
 static const T_DIALOG_FRAME action_frame = {
-    TXT_ACTION_EDITOR, 187, 173, 4, 179, ACTION_FRAME_FLAGS, ACTION_FRAME_IDCMP, 5, ActionEditorMsg};
+    TXT_ACTION_EDITOR, 187, 173, 4, 179, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
+    IDCMP_GAIN_CONTEXT | IDCMP_TERMINATE | IDCMP_MENU_OPEN | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK |
+        IDCMP_REQUESTER_ABORT,  // 0x24486
+    5, ActionEditorMsg};
+// clang-format on
 #define COMBO_FLAGS (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_REPORT_DRAG)  // 0xC08
 #define COMBO_WIDTH 140
 #define COMBO_HEIGHT 96

@@ -78,12 +78,13 @@ static const T_PROPERTY_ROW property_rows[] = {
 };
 // clang-format on
 
-#define PROPERTIES_FRAME_FLAGS (WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE)  // 0x274
-#define PROPERTIES_FRAME_IDCMP                                                                                         \
-    (IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL |                 \
-     IDCMP_REQUESTER_PREVIEW)  // 0x4C414
+// clang-format off
 static const T_DIALOG_FRAME properties_frame = {
-    TXT_GADGET_PROPERTIES, 0, 0, 240, 240, PROPERTIES_FRAME_FLAGS, PROPERTIES_FRAME_IDCMP, 0, GadgetPropertiesMsg};
+    TXT_GADGET_PROPERTIES, 0, 0, 240, 240, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
+    IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN | IDCMP_REQUESTER_OK | IDCMP_REQUESTER_CANCEL |
+        IDCMP_REQUESTER_PREVIEW,  // 0x4C414
+    0, GadgetPropertiesMsg};
+// clang-format on
 
 u32 GadgetRowMask(u16 type)
 {

@@ -13,11 +13,12 @@
 #include "properties/dialog_support.h"
 #include "properties/texts.h"
 
-#define INFO_FRAME_FLAGS                                                                                               \
-    (WF_CHILD | WF_MINIMISE | WF_MAXIMISE | WF_BORDER | WF_MOVE | WF_TITLE | WF_RESIZE | WF_CLOSE)  // 0x3FC
-#define INFO_FRAME_IDCMP (IDCMP_TERMINATE)
-static const T_DIALOG_FRAME info_frame = {TXT_SOURCE_INFO,  176, 239, 562, 293, INFO_FRAME_FLAGS, INFO_FRAME_IDCMP, 5,
-                                          SourceFileInfoMsg};
+// clang-format off
+static const T_DIALOG_FRAME info_frame = {
+    TXT_SOURCE_INFO, 176, 239, 562, 293,
+    WF_CHILD | WF_MINIMISE | WF_MAXIMISE | WF_BORDER | WF_MOVE | WF_TITLE | WF_RESIZE | WF_CLOSE,  // 0x3FC
+    IDCMP_TERMINATE, 5, SourceFileInfoMsg};
+// clang-format on
 #define INFO_ACTION (ACT_LMOUSE_UP | ACT_LMOUSE_DOWN | ACT_LMOUSE_DBL | ACT_RMOUSE_UP | ACT_RMOUSE_DOWN)  // 0x73
 #define INFO_LINE_SIZE 1100  // a list row: a number and a source line of up to 1023 characters
 #define INFO_SOURCE_LINE 1024

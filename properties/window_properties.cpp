@@ -10,10 +10,12 @@
 #include "properties/texts.h"
 
 // The first place and size, before it is fitted to its contents.
-#define WINDOW_FRAME_FLAGS (WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE)  // 0x274
-#define WINDOW_FRAME_IDCMP (IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN)     // 0x414
+// clang-format off
 static const T_DIALOG_FRAME window_frame = {
-    TXT_WINDOW_PROPERTIES, 32, 32, 32, 32, WINDOW_FRAME_FLAGS, WINDOW_FRAME_IDCMP, 0, WindowPropertiesMsg};
+    TXT_WINDOW_PROPERTIES, 32, 32, 32, 32, WF_CHILD | WF_BORDER | WF_MOVE | WF_TITLE | WF_CLOSE,  // 0x274
+    IDCMP_TERMINATE | IDCMP_KEY | IDCMP_FIRSTTIME_RUN,  // 0x414
+    0, WindowPropertiesMsg};
+// clang-format on
 #define COMBO_FLAGS                                                                                                    \
     (GADGET_FLAGS_HORIZONTAL | GADGET_FLAGS_VERTICAL | GADGET_FLAGS_SOLID | GADGET_FLAGS_REPORT_DRAG)  // 0xC28
 #define COMBO_WIDTH 170
