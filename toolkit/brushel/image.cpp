@@ -69,16 +69,17 @@ T_TEXTURE_BANK *NewTextureBank(const char *name, u16 count, u16 icon_width, u16 
 {
     T_TEXTURE_BANK *bank = (T_TEXTURE_BANK *)NewNamedNode(sizeof(T_TEXTURE_BANK), name);
     u32 size = (u32)count * icon_width * icon_height * 4;
-    if (bank && size)
-        bank->pixels = (u32 *)AllocMemC(size);
+    if (bank) {  // whole before its pixels, so that FreeTextureBank frees them by their size
+        bank->count = count;
+        bank->icon_width = icon_width;
+        bank->icon_height = icon_height;
+        bank->pixels = size ? (u32 *)AllocMemC(size) : nullptr;
+    }
     if (!bank || (size && !bank->pixels)) {
         myprintf(0, "No memory for the icon bank \"%s\" of %u icons\n", name ? name : "", count);
         FreeTextureBank(bank);
         return nullptr;
     }
-    bank->count = count;
-    bank->icon_width = icon_width;
-    bank->icon_height = icon_height;
     return bank;
 }
 
