@@ -1,8 +1,8 @@
 // Images and icons: blending 0xAABBGGRR pixels onto the surface, and the icon banks that hold them.
 #include <algorithm>
-#include <cstring>
 
 #include "brushel_internal.h"
+#include "ostrand/ostrand_internal.h"
 
 // One image pixel over a surface pixel, by the image's alpha.
 static inline u32 OverPixel(u32 dst, u32 src)
@@ -64,26 +64,22 @@ void DrawIconScaled(T_TEXTURE_BANK *bank, u16 icon, i16 x, i16 y, i16 w, i16 h)
     }
 }
 
-// On failure (no memory) returns null and logs.
+// On failure (no memory) returns null and logs. The name lives in the bank's own block.
 T_TEXTURE_BANK *NewTextureBank(const char *name, u16 count, u16 icon_width, u16 icon_height)
 {
-    T_TEXTURE_BANK *bank = (T_TEXTURE_BANK *)AllocMemC(sizeof(T_TEXTURE_BANK));
+    T_TEXTURE_BANK *bank = (T_TEXTURE_BANK *)NewNamedNode(sizeof(T_TEXTURE_BANK), name);
     u32 size = (u32)count * icon_width * icon_height * 4;
-    u32 name_size = name ? (u32)strlen(name) + 1 : 0;
-    if (bank && size)
-        bank->pixels = (u32 *)AllocMemC(size);
-    if (bank && name_size)
-        bank->name = (char *)AllocMemC(name_size);
-    if (!bank || (size && !bank->pixels) || (name_size && !bank->name)) {
+    if (bank) {  // whole before its pixels, so that FreeTextureBank frees them by their size
+        bank->count = count;
+        bank->icon_width = icon_width;
+        bank->icon_height = icon_height;
+        bank->pixels = size ? (u32 *)AllocMemC(size) : nullptr;
+    }
+    if (!bank || (size && !bank->pixels)) {
         myprintf(0, "No memory for the icon bank \"%s\" of %u icons\n", name ? name : "", count);
         FreeTextureBank(bank);
         return nullptr;
     }
-    if (name_size)
-        memcpy(bank->name, name, name_size);
-    bank->count = count;
-    bank->icon_width = icon_width;
-    bank->icon_height = icon_height;
     return bank;
 }
 
@@ -91,8 +87,6 @@ void FreeTextureBank(T_TEXTURE_BANK *bank)
 {
     if (!bank)
         return;
-    if (bank->name)
-        FreeMem(bank->name, (u32)strlen(bank->name) + 1);
     FreeMem(bank->pixels, (u32)bank->count * bank->icon_width * bank->icon_height * 4);
-    FreeMem(bank, sizeof(T_TEXTURE_BANK));
+    FreeMem(bank, NodeBlockSize(sizeof(T_TEXTURE_BANK)));
 }

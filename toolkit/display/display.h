@@ -56,6 +56,18 @@ extern const T_DISPLAY_BACKEND display_headless;
 // The back end in use, chosen by OpenToolkit.
 extern const T_DISPLAY_BACKEND *display;
 
+// A framebuffer of 0x00BBGGRR pixels, pitch equal to width, as each back end keeps one.
+typedef struct T_FRAMEBUFFER {
+    u32 *pixels;
+    i32 width, height;
+} T_FRAMEBUFFER;
+
+// Frees the pixels held and makes width by height cleared ones; false (and no pixels) for a size
+// of 0 or when there is no memory.
+int ResizeFramebuffer(T_FRAMEBUFFER *frame, i32 width, i32 height);
+// The framebuffer as a back end's `pixels` gives it.
+u32 *FramebufferPixels(const T_FRAMEBUFFER *frame, i32 *width, i32 *height, i32 *pitch);
+
 // Headless only: queue synthetic input, and read what the toolkit asked of the pointer.
 void HeadlessPush(const T_INPUT_EVENT *event);
 u32 HeadlessPending(void);

@@ -7,8 +7,7 @@
 #include "ostrand.h"
 
 static struct {
-    u32 *pixels;
-    i32 width, height;
+    T_FRAMEBUFFER frame;
     std::deque<T_INPUT_EVENT> queue;
     u32 time_ms;
     u16 qualifiers;  // of the last key or mouse event pushed
@@ -19,22 +18,6 @@ static struct {
     std::string clipboard;  // kept over a close and open, as a desktop's clipboard outlives a program
 } headless;
 
-// A framebuffer of width by height, cleared; false (and no framebuffer) when there is no memory.
-static int MakeFramebuffer(i32 width, i32 height)
-{
-    FreeMem(headless.pixels, (u32)headless.width * headless.height * 4);
-    headless.pixels = nullptr;
-    headless.width = headless.height = 0;
-    if (width <= 0 || height <= 0)
-        return 0;
-    headless.pixels = (u32 *)AllocMemC((u32)width * height * 4);
-    if (!headless.pixels)
-        return 0;
-    headless.width = width;
-    headless.height = height;
-    return 1;
-}
-
 static int HeadlessOpen(i16 width, i16 height, const char *)
 {
     headless.queue.clear();
@@ -43,7 +26,7 @@ static int HeadlessOpen(i16 width, i16 height, const char *)
     headless.cursor = 0;
     headless.mouse_limited = 0;
     headless.warp_x = headless.warp_y = 0;
-    if (!MakeFramebuffer(width, height)) {
+    if (!ResizeFramebuffer(&headless.frame, width, height)) {
         myprintf(0, "The headless display can't open a screen of %d by %d\n", width, height);
         return 0;
     }
@@ -52,16 +35,13 @@ static int HeadlessOpen(i16 width, i16 height, const char *)
 
 static void HeadlessClose(void)
 {
-    MakeFramebuffer(0, 0);
+    ResizeFramebuffer(&headless.frame, 0, 0);
     headless.queue.clear();
 }
 
 static u32 *HeadlessPixels(i32 *width, i32 *height, i32 *pitch)
 {
-    *width = headless.width;
-    *height = headless.height;
-    *pitch = headless.width;
-    return headless.pixels;
+    return FramebufferPixels(&headless.frame, width, height, pitch);
 }
 
 // A resize takes effect when it is taken from the queue, as a window's would.
@@ -71,7 +51,7 @@ static int HeadlessPoll(T_INPUT_EVENT *event)
         return 0;
     *event = headless.queue.front();
     headless.queue.pop_front();
-    if (event->kind == INPUT_RESIZE && !MakeFramebuffer(event->x, event->y))
+    if (event->kind == INPUT_RESIZE && !ResizeFramebuffer(&headless.frame, event->x, event->y))
         myprintf(0, "The headless display can't resize to %d by %d\n", event->x, event->y);
     return 1;
 }

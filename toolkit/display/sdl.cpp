@@ -45,8 +45,7 @@ static struct {
     SDL_Window *window;
     SDL_Renderer *renderer;
     SDL_Texture *texture;
-    u32 *pixels;
-    i32 width, height;
+    T_FRAMEBUFFER frame;
     SDL_Cursor *cursors[SDL_NUM_SYSTEM_CURSORS];
     int video_started;
     SDL_Keymod mod;  // the modifiers as of the last key event taken from the queue
@@ -62,20 +61,12 @@ static int MakeFramebuffer(i32 width, i32 height)
 {
     if (sdl.texture)
         SDL_DestroyTexture(sdl.texture);
-    FreeMem(sdl.pixels, (u32)sdl.width * sdl.height * 4);
-    sdl.pixels = nullptr;
-    sdl.width = sdl.height = 0;
     // 0x00BBGGRR little-endian is R, G, B, X in memory: SDL's XBGR8888, alpha unused.
     sdl.texture = SDL_CreateTexture(sdl.renderer, SDL_PIXELFORMAT_XBGR8888, SDL_TEXTUREACCESS_STREAMING, width, height);
     if (!sdl.texture)
-        return 0;
+        return ResizeFramebuffer(&sdl.frame, 0, 0);
     SDL_SetTextureBlendMode(sdl.texture, SDL_BLENDMODE_NONE);
-    sdl.pixels = (u32 *)AllocMemC((u32)width * height * 4);
-    if (!sdl.pixels)
-        return 0;
-    sdl.width = width;
-    sdl.height = height;
-    return 1;
+    return ResizeFramebuffer(&sdl.frame, width, height);
 }
 
 static void SdlClose(void)
@@ -91,15 +82,13 @@ static void SdlClose(void)
         SDL_DestroyRenderer(sdl.renderer);
     if (sdl.window)
         SDL_DestroyWindow(sdl.window);
-    FreeMem(sdl.pixels, (u32)sdl.width * sdl.height * 4);
+    ResizeFramebuffer(&sdl.frame, 0, 0);
     if (sdl.video_started)
         SDL_QuitSubSystem(SDL_INIT_VIDEO);
     sdl.video_started = 0;
     sdl.texture = nullptr;
     sdl.renderer = nullptr;
     sdl.window = nullptr;
-    sdl.pixels = nullptr;
-    sdl.width = sdl.height = 0;
 }
 
 // Only video is started (audio is slow and noisy), the renderer has no vsync (it would pin a turn
@@ -133,10 +122,7 @@ static int SdlOpen(i16 width, i16 height, const char *title)
 
 static u32 *SdlPixels(i32 *width, i32 *height, i32 *pitch)
 {
-    *width = sdl.width;
-    *height = sdl.height;
-    *pitch = sdl.width;
-    return sdl.pixels;
+    return FramebufferPixels(&sdl.frame, width, height, pitch);
 }
 
 // The toolkit key of a key press, or 0 for a press that gives none: a plain character is left to
@@ -174,15 +160,15 @@ static int TranslateWindowEvent(const SDL_WindowEvent *in, T_INPUT_EVENT *event)
         event->kind = INPUT_EXPOSED;
         return 1;
     case SDL_WINDOWEVENT_SIZE_CHANGED:
-        if (in->data1 == sdl.width && in->data2 == sdl.height)
+        if (in->data1 == sdl.frame.width && in->data2 == sdl.frame.height)
             return 0;
         if (!MakeFramebuffer(in->data1, in->data2)) {
             myprintf(0, "The SDL window can't be resized to %d by %d: %s\n", in->data1, in->data2, SDL_GetError());
             return 0;
         }
         event->kind = INPUT_RESIZE;
-        event->x = (i16)sdl.width;
-        event->y = (i16)sdl.height;
+        event->x = (i16)sdl.frame.width;
+        event->y = (i16)sdl.frame.height;
         return 1;
     default:
         return 0;
@@ -264,7 +250,7 @@ static void SdlPresent(void)
 {
     if (!sdl.texture)
         return;
-    SDL_UpdateTexture(sdl.texture, nullptr, sdl.pixels, sdl.width * 4);
+    SDL_UpdateTexture(sdl.texture, nullptr, sdl.frame.pixels, sdl.frame.width * 4);
     SDL_RenderCopy(sdl.renderer, sdl.texture, nullptr, nullptr);
     SDL_RenderPresent(sdl.renderer);
 }

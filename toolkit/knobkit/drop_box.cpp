@@ -308,6 +308,16 @@ void DrawDropBoxGadget(t_gadget *g, int focused)
         DrawGadgetFocus(g);
 }
 
+// The entry of g's open list under the pointer; -1 off its entries, or when g's list is not open.
+static i32 OpenRowAt(t_gadget *g, const T_MOUSE_MSG *m)
+{
+    if (!open_list || open_list->gadget != g)
+        return -1;
+    T_DROP_LAYOUT l;
+    DropLayout(open_list, &l);
+    return DropRowAt(open_list, &l, m->x, m->y);
+}
+
 u32 DropBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
 {
     (void)rect;
@@ -319,23 +329,16 @@ u32 DropBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
             return ACT_LMOUSE_DOWN;
         g->gadget_state |= GSTATE_DRAGGING;
         return ACT_LMOUSE_DOWN;
-    case ACT_MOUSE_MOVE:  // the opening press dragged over the list
-        if ((g->gadget_state & GSTATE_DRAGGING) && open_list && open_list->gadget == g) {
-            T_DROP_LAYOUT l;
-            DropLayout(open_list, &l);
-            i32 row = DropRowAt(open_list, &l, m->x, m->y);
-            if (row >= 0)
-                open_list->hot = row;
-        }
+    case ACT_MOUSE_MOVE: {  // the opening press dragged over the list
+        i32 row = (g->gadget_state & GSTATE_DRAGGING) ? OpenRowAt(g, m) : -1;
+        if (row >= 0)
+            open_list->hot = row;
         return 0;
+    }
     case ACT_LMOUSE_UP: {  // released on an entry: picked
-        if (EndGadgetPress(g) && open_list && open_list->gadget == g) {
-            T_DROP_LAYOUT l;
-            DropLayout(open_list, &l);
-            i32 row = DropRowAt(open_list, &l, m->x, m->y);
-            if (row >= 0)
-                Pick(open_list, row);
-        }
+        i32 row = EndGadgetPress(g) ? OpenRowAt(g, m) : -1;
+        if (row >= 0)
+            Pick(open_list, row);
         return 0;
     }
     default:

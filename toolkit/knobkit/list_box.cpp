@@ -145,23 +145,35 @@ void DrawListBoxGadget(t_gadget *g, int focused)
         DrawGadgetFocus(g);
 }
 
-// The row under y, or -1 below the last.
-static i32 RowAt(T_LIST_DATA *d, const T_LIST_LAYOUT *l, i16 y)
+// The row at y from the top row shown; above the rows, the one before the top (-1 at the start).
+static i32 RowNear(const T_LIST_DATA *d, const T_LIST_LAYOUT *l, i16 y)
 {
-    i32 row = d->top + (y - l->inner.y) / l->row_h;
-    if (y < l->inner.y)
-        row = d->top - 1;
+    return y < l->inner.y ? d->top - 1 : d->top + (y - l->inner.y) / l->row_h;
+}
+
+// The row under y, or -1 off the rows.
+static i32 RowAt(const T_LIST_DATA *d, const T_LIST_LAYOUT *l, i16 y)
+{
+    i32 row = RowNear(d, l, y);
     return row >= 0 && row < l->count ? row : -1;
+}
+
+// The list's data with its layout brought up to date; null for a gadget that has none.
+static T_LIST_DATA *LaidOut(t_gadget *g, T_LIST_LAYOUT *l)
+{
+    T_LIST_DATA *d = Data(g);
+    if (d)
+        ListLayout(g, l);
+    return d;
 }
 
 u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
 {
     (void)rect;
-    T_LIST_DATA *d = Data(g);
+    T_LIST_LAYOUT l;
+    T_LIST_DATA *d = LaidOut(g, &l);
     if (!d)
         return 0;
-    T_LIST_LAYOUT l;
-    ListLayout(g, &l);
     T_ROW_BAR bar = RowBar(g, &l);
     if (RowBarMouse(&bar, m))
         return 0;
@@ -184,9 +196,7 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
     }
     case ACT_MOUSE_MOVE:  // the selection follows; past the ends it scrolls
         if ((g->gadget_state & GSTATE_DRAGGING) && l.count > 0) {
-            i32 row = d->top + (m->y - l.inner.y) / l.row_h;
-            if (m->y < l.inner.y)
-                row = d->top - 1;
+            i32 row = RowNear(d, &l, m->y);
             if (row < 0)
                 row = 0;
             if (row >= l.count)
@@ -218,11 +228,10 @@ u32 ListBoxMouse(t_gadget *g, const T_MOUSE_MSG *m, const T_RPOS *rect)
 u32 ListBoxKey(t_gadget *g, u16 key, u16 qualifiers)
 {
     (void)qualifiers;
-    T_LIST_DATA *d = Data(g);
+    T_LIST_LAYOUT l;
+    T_LIST_DATA *d = LaidOut(g, &l);
     if (!d)
         return 0;
-    T_LIST_LAYOUT l;
-    ListLayout(g, &l);
     if (l.count == 0)
         return 0;
     i32 row = d->selected;

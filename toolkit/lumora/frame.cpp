@@ -324,17 +324,24 @@ static void TitleBarPaint(t_Handler *handler)
     }
 }
 
+// A frame handler of `kind` on the window, made anew: the callers first look for one it has.
+static t_Handler *NewFrameHandler(t_Window *window, u16 kind, T_HANDLER_INPUT input, T_HANDLER_PAINT paint,
+                                  const char *name, u32 size)
+{
+    t_Handler *h = NewHandler(&window->handlers, input, paint, name, FRAME_PRIORITY, size, window);
+    if (h)
+        h->kind = kind;
+    return h;
+}
+
 t_Handler *NewTitleBarHandler(t_Window *window)
 {
     if (!window)
         return NULL;
     t_Handler *h = FindHandlerOfKind(window, HANDLER_KIND_TITLEBAR);
-    if (h)
-        return h;
-    h = NewHandler(&window->handlers, TitleBarInput, TitleBarPaint, "titlebar", FRAME_PRIORITY,
-                   sizeof(T_TITLEBAR_HANDLER), window);
-    if (h)
-        h->kind = HANDLER_KIND_TITLEBAR;
+    if (!h)
+        h = NewFrameHandler(window, HANDLER_KIND_TITLEBAR, TitleBarInput, TitleBarPaint, "titlebar",
+                            sizeof(T_TITLEBAR_HANDLER));
     return h;
 }
 
@@ -429,11 +436,7 @@ t_Handler *NewBorderHandler(t_Window *window)
     if (h)
         return h;
     window->border_size = DISPLAY_RECORD->border_size;
-    h = NewHandler(&window->handlers, BorderInput, BorderPaint, "border", FRAME_PRIORITY, sizeof(T_BORDER_HANDLER),
-                   window);
-    if (h)
-        h->kind = HANDLER_KIND_BORDER;
-    return h;
+    return NewFrameHandler(window, HANDLER_KIND_BORDER, BorderInput, BorderPaint, "border", sizeof(T_BORDER_HANDLER));
 }
 
 // --- Painting -------------------------------------------------------------------------------------

@@ -21,8 +21,8 @@ u32 GadgetTextColour(t_gadget *g)
     return (g->live_flags & GADGET_FLAGS_DISABLED) ? DISPLAY_RECORD->disabled_text_colour : g->text_colour;
 }
 
-// Text centred (or at the left with LEFT_JUSTIFY) in x, y, w, h, clipped to that box.
-static void DrawBoxText(t_gadget *g, T_RPOS box, int left)
+// Text at x, centred on the box's height, clipped to the box within the clip already set.
+void DrawGadgetText(T_RPOS box, i16 x, const char *text, u32 colour)
 {
     T_RPOS clip;
     GetClip(&clip);
@@ -30,10 +30,15 @@ static void DrawBoxText(t_gadget *g, T_RPOS box, int left)
     if (!RectIntersect(&inner, &clip))
         return;
     ClipInsideWindow(inner.x, inner.y, inner.x + inner.w, inner.y + inner.h);
-    i16 tw = (i16)GetStringWidth(g->name), th = (i16)GetActiveFontHeight();
-    i16 x = left ? box.x + 4 : box.x + (box.w - tw) / 2;
-    DrawText(x, box.y + (box.h - th) / 2, g->name, GadgetTextColour(g));
+    DrawText(x, box.y + (box.h - (i16)GetActiveFontHeight()) / 2, text, colour);
     ClipInsideWindow(clip.x, clip.y, clip.x + clip.w, clip.y + clip.h);
+}
+
+// The name centred (or at the left with LEFT_JUSTIFY) in the box.
+static void DrawBoxText(t_gadget *g, T_RPOS box, int left)
+{
+    i16 x = left ? box.x + 4 : box.x + (box.w - (i16)GetStringWidth(g->name)) / 2;
+    DrawGadgetText(box, x, g->name, GadgetTextColour(g));
 }
 
 void DrawGenericGadget(t_gadget *g, int focused)

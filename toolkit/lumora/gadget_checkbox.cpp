@@ -11,14 +11,8 @@ i16 CheckBoxSize(void)
 // The text of a check box or radio button from `text_x` to the gadget's right edge, cut there.
 void DrawMarkLabel(t_gadget *g, T_RPOS r, i16 text_x)
 {
-    T_RPOS clip;
-    GetClip(&clip);
     T_RPOS text = {text_x, r.y, (i16)(r.x + r.w - text_x), r.h};
-    if (!RectIntersect(&text, &clip))
-        return;
-    ClipInsideWindow(text.x, text.y, text.x + text.w, text.y + text.h);
-    DrawText(text_x, r.y + (r.h - (i16)GetActiveFontHeight()) / 2, g->name, GadgetTextColour(g));
-    ClipInsideWindow(clip.x, clip.y, clip.x + clip.w, clip.y + clip.h);
+    DrawGadgetText(text, text_x, g->name, GadgetTextColour(g));
 }
 
 i16 DrawMarkGround(t_gadget *g, T_RPOS r)

@@ -9,16 +9,8 @@ void DrawTextGadget(t_gadget *g, int focused)
     T_RPOS r = GadgetRect(g);
     if (g->live_flags & GADGET_FLAGS_SOLID)
         DrawRectangle(r.x, r.y, r.w, r.h, g->back_colour);
-    T_RPOS clip;
-    GetClip(&clip);
-    T_RPOS inner = r;
-    if (!RectIntersect(&inner, &clip))
-        return;
-    ClipInsideWindow(inner.x, inner.y, inner.x + inner.w, inner.y + inner.h);
-    i16 th = (i16)GetActiveFontHeight();
     u32 colour = GadgetTextColour(g);
     if ((g->live_flags & GADGET_FLAGS_HILIGHT) && !(g->live_flags & GADGET_FLAGS_DISABLED))
         colour = DISPLAY_RECORD->select_colour;
-    DrawText(r.x + 2, r.y + (r.h - th) / 2, g->name, colour);
-    ClipInsideWindow(clip.x, clip.y, clip.x + clip.w, clip.y + clip.h);
+    DrawGadgetText(r, r.x + 2, g->name, colour);
 }

@@ -229,6 +229,8 @@ int EndGadgetPress(t_gadget *gadget);
 void DrawGadgetBevel(T_RPOS r, int pressed);
 void DrawGadgetFocus(t_gadget *gadget);
 u32 GadgetTextColour(t_gadget *gadget);
+// Text at x, centred on the box's height, clipped to the box within the clip already set.
+void DrawGadgetText(T_RPOS box, i16 x, const char *text, u32 colour);
 void DrawGenericGadget(t_gadget *gadget, int focused);
 u32 GenericGadgetMouse(t_gadget *gadget, const T_MOUSE_MSG *msg, const T_RPOS *rect);
 void DrawButtonGadget(t_gadget *gadget, int focused);

@@ -131,26 +131,30 @@ int PointBoxColl(i16 x, i16 y, T_RPOS *box)
     return x >= box->x && x < box->x + box->w && y >= box->y && y < box->y + box->h;
 }
 
+// A low edge (top or left) dragged to `to`, the high edge staying: it stops `min` short of it.
+static void DragLowEdge(i16 *pos, i16 *size, i16 min, i16 to)
+{
+    i16 edge = *pos + *size;
+    i16 at = to > edge - min ? edge - min : to;
+    *pos = at, *size = edge - at;
+}
+
+// A high edge (bottom or right) dragged to `to`: the size is at least `min`.
+static void DragHighEdge(i16 pos, i16 *size, i16 min, i16 to)
+{
+    *size = to - pos < min ? min : to - pos;
+}
+
 // Handles: 1 top, 2 bottom, 3 left, 4 right, 5 top left, 6 top right, 7 bottom right, 8 bottom
 // left. A side dragged past the opposite one stops at the minimum size.
 void GenericResize(T_RPOS *rect, i16 min_w, i16 min_h, i16 mx, i16 my, u16 handle)
 {
-    int top = handle == 1 || handle == 5 || handle == 6;
-    int bottom = handle == 2 || handle == 7 || handle == 8;
-    int left = handle == 3 || handle == 5 || handle == 8;
-    int right = handle == 4 || handle == 6 || handle == 7;
-    if (top) {
-        i16 edge = rect->y + rect->h;
-        i16 y = my > edge - min_h ? edge - min_h : my;
-        rect->y = y, rect->h = edge - y;
-    }
-    if (bottom)
-        rect->h = my - rect->y < min_h ? min_h : my - rect->y;
-    if (left) {
-        i16 edge = rect->x + rect->w;
-        i16 x = mx > edge - min_w ? edge - min_w : mx;
-        rect->x = x, rect->w = edge - x;
-    }
-    if (right)
-        rect->w = mx - rect->x < min_w ? min_w : mx - rect->x;
+    if (handle == 1 || handle == 5 || handle == 6)
+        DragLowEdge(&rect->y, &rect->h, min_h, my);
+    if (handle == 2 || handle == 7 || handle == 8)
+        DragHighEdge(rect->y, &rect->h, min_h, my);
+    if (handle == 3 || handle == 5 || handle == 8)
+        DragLowEdge(&rect->x, &rect->w, min_w, mx);
+    if (handle == 4 || handle == 6 || handle == 7)
+        DragHighEdge(rect->x, &rect->w, min_w, mx);
 }
