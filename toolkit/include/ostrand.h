@@ -80,6 +80,7 @@ enum {
     HANDLER_KIND_BORDER,
     HANDLER_KIND_TITLEBAR,
     HANDLER_KIND_TOOLBAR,
+    HANDLER_KIND_SELECTOR,  // a file, font or colour selector's record
 };
 
 // The head of every handler. A handler made by NewHandler is a block of `size` bytes that begins

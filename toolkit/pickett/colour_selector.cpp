@@ -139,39 +139,34 @@ static void TakeGroup(T_COLOUR_SELECTOR *s, int moved)
     SendPreview(s);
 }
 
+// Every message comes from a gadget (the close gadget is the selectors' own): by the item code.
 static u32 ColourSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data)
 {
     (void)data;
     T_COLOUR_SELECTOR *s = SelectorOf(window);
-    switch (msg) {
-    case ACT_TERMINATE:  // the close gadget: Cancel
-        FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
+    switch (item_code) {
+    case COLSEL_RED:  // a slider moved: press, drag, release, wheel or key
+    case COLSEL_GREEN:
+    case COLSEL_BLUE:
+    case COLSEL_HUE:
+    case COLSEL_SATURATION:
+    case COLSEL_INTENSITY:
+        TakeGroup(s, (int)(item_code - COLSEL_RED));
+        return 0;
+    case COLSEL_PREVIEW:  // turned on again: the parent catches up with the colour
+        if (msg == ACT_LMOUSE_UP)
+            SendPreview(s);
+        return 0;
+    case COLSEL_OK:  // the OK button
+        if (msg == ACT_LMOUSE_UP)
+            FinishSelector(&s->base, ACT_REQUESTER_OK);
+        return 0;
+    case COLSEL_CANCEL:  // the Cancel button
+        if (msg == ACT_LMOUSE_UP)
+            FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
         return 0;
     default:
-        switch (item_code) {
-        case COLSEL_RED:  // a slider moved: press, drag, release, wheel or key
-        case COLSEL_GREEN:
-        case COLSEL_BLUE:
-        case COLSEL_HUE:
-        case COLSEL_SATURATION:
-        case COLSEL_INTENSITY:
-            TakeGroup(s, (int)(item_code - COLSEL_RED));
-            return 0;
-        case COLSEL_PREVIEW:  // turned on again: the parent catches up with the colour
-            if (msg == ACT_LMOUSE_UP)
-                SendPreview(s);
-            return 0;
-        case COLSEL_OK:  // the OK button
-            if (msg == ACT_LMOUSE_UP)
-                FinishSelector(&s->base, ACT_REQUESTER_OK);
-            return 0;
-        case COLSEL_CANCEL:  // the Cancel button
-            if (msg == ACT_LMOUSE_UP)
-                FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
-            return 0;
-        default:
-            return 0;
-        }
+        return 0;
     }
 }
 

@@ -132,9 +132,6 @@ static u32 FileSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
     (void)data;
     T_FILE_SELECTOR *s = SelectorOf(window);
     switch (msg) {
-    case ACT_TERMINATE:  // the close gadget: Cancel
-        FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
-        return 0;
     case ACT_WINDOW_RESIZE:  // the gadgets follow the window's size
         Layout(window);
         return 0;

@@ -127,9 +127,6 @@ static u32 FontSelectorMessage(t_Window *window, u32 item_code, u32 msg, void *d
     (void)data;
     T_FONT_SELECTOR *s = SelectorOf(window);
     switch (msg) {
-    case ACT_TERMINATE:  // the close gadget: Cancel
-        FinishSelector(&s->base, ACT_REQUESTER_CANCEL);
-        return 0;
     case ACT_WINDOW_RESIZE:  // the list and the preview follow the window's size
         Layout(window);
         return 0;
@@ -266,7 +263,8 @@ static T_FONT_SELECTOR *FindSelector(t_List *windows, void *selector)
 {
     for (t_Node *n = windows->first; n->next; n = n->next) {
         t_Window *w = (t_Window *)n;
-        if (IsWindowLive(w) && w->message == FontSelectorMessage && (w == selector || w->user_data == selector))
+        T_SELECTOR *base = IsWindowLive(w) ? (T_SELECTOR *)FindHandlerOfKind(w, HANDLER_KIND_SELECTOR) : NULL;
+        if (base && base->message == FontSelectorMessage && (w == selector || w->user_data == selector))
             return SelectorOf(w);
         T_FONT_SELECTOR *inner = FindSelector(&w->children, selector);
         if (inner)

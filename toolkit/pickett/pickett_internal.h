@@ -53,12 +53,14 @@ typedef struct T_SELECTOR {
     void *answer_data;  // what OK and a preview carry
     void *cancel_data;  // what Cancel carries
     t_gadget *cancel;
-    u16 answered;  // OK or Cancel went out: a nested loop must not answer twice
+    u16 answered;          // OK or Cancel went out: a nested loop must not answer twice
+    T_MESSAGE_FN message;  // the selector's own message function, after the close gadget
 } T_SELECTOR;
 
 // Opens a selector as a dialog, centred on its parent and kept on the screen: a handler block of
 // spec->handler_size bytes that begins with a T_SELECTOR, whose parent and item code it sets. The
-// window's user_data is the block plus `user_data_offset`. Null, with nothing open, when it can't.
+// window's user_data is the block plus `user_data_offset`. The close gadget cancels every selector
+// alike; each other message goes to spec->message. Null, with nothing open, when it can't.
 T_SELECTOR *OpenSelector(const T_DIALOG_SPEC *spec, u32 item_code, size_t user_data_offset);
 // Tells the parent `msg` with the answer's data, through the parent's message mask: message
 // 0x1000 + n reaches it only when bit n of the mask given at its creation is set.

@@ -3,13 +3,31 @@
 // before its gadgets.
 #include "pickett/pickett_internal.h"
 
+// The close gadget is Cancel, in every selector; the rest is the selector's own.
+static u32 SelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data)
+{
+    T_SELECTOR *s = (T_SELECTOR *)FindHandlerOfKind(window, HANDLER_KIND_SELECTOR);
+    if (!s)
+        return 0;
+    switch (msg) {
+    case ACT_TERMINATE:  // the close gadget: Cancel
+        FinishSelector(s, ACT_REQUESTER_CANCEL);
+        return 0;
+    default:
+        return s->message ? s->message(window, item_code, msg, data) : 0;
+    }
+}
+
 T_SELECTOR *OpenSelector(const T_DIALOG_SPEC *spec, u32 item_code, size_t user_data_offset)
 {
     T_SELECTOR *s = (T_SELECTOR *)OpenDialog(spec);
     if (!s)
         return NULL;
+    s->head.kind = HANDLER_KIND_SELECTOR;
     s->parent = IsWindowLive(spec->parent) ? spec->parent : NULL;
     s->item_code = item_code;
+    s->message = spec->message;
+    s->head.window->message = SelectorMessage;
     s->head.window->user_data = (char *)s + user_data_offset;
     return s;
 }
