@@ -345,24 +345,22 @@ static void StartHSI(T_COLOUR_SELECTOR *s)
     RGBToHSI(s->sel.rgba, &s->hsia);
 }
 
+// Its height follows the system font: worked out at the opening.
+// clang-format off
+static const T_SELECTOR_KIND colour_selector_kind = {
+    COLSEL_USER_W, 0, COLSEL_FLAGS, IDCMP_TERMINATE,
+    ColourSelectorMessage, ColourSelectorInput, ColourSelectorPaint, "colour selector", sizeof(T_COLOUR_SELECTOR),
+    offsetof(T_COLOUR_SELECTOR, sel)};
+// clang-format on
+
 t_Window *AddColourSelector(T_COLOURSEL_INIT *init)
 {
     if (!init || !init->rgba)
         return NULL;
     i16 rh = SelectorRowHeight(), pad = SELECTOR_PAD, gap = SELECTOR_GAP;
     i16 user_h = pad + COLSEL_SWATCH_H + gap + COLSEL_CHANNELS * (rh + gap) + COLSEL_GROUP_GAP + gap + rh + pad;
-    const T_DIALOG_SPEC spec = {init->title,
-                                init->parent,
-                                COLSEL_USER_W,
-                                user_h,
-                                COLSEL_FLAGS,
-                                IDCMP_TERMINATE,
-                                ColourSelectorMessage,
-                                ColourSelectorInput,
-                                ColourSelectorPaint,
-                                "colour selector",
-                                sizeof(T_COLOUR_SELECTOR)};
-    T_COLOUR_SELECTOR *s = (T_COLOUR_SELECTOR *)OpenSelector(&spec, init->item_code, offsetof(T_COLOUR_SELECTOR, sel));
+    T_COLOUR_SELECTOR *s =
+        (T_COLOUR_SELECTOR *)OpenSelector(&colour_selector_kind, init->title, init->parent, user_h, init->item_code);
     if (!s)
         return NULL;
     t_Window *window = s->base.head.window;

@@ -206,15 +206,18 @@ static u32 FileSelectorInput(t_Handler *handler, u32 event, void *data)
     }
 }
 
+// clang-format off
+static const T_SELECTOR_KIND file_selector_kind = {
+    FILESEL_USER_W, FILESEL_USER_H, FILESEL_FLAGS, IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
+    FileSelectorMessage, FileSelectorInput, NULL, "file selector", sizeof(T_FILE_SELECTOR), 0};
+// clang-format on
+
 t_Window *NewFileSelector(T_FILE_REQUESTER_INIT *init)
 {
     if (!init)
         return NULL;
-    const T_DIALOG_SPEC spec = {init->title,         init->parent,           FILESEL_USER_W,
-                                FILESEL_USER_H,      FILESEL_FLAGS,          IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
-                                FileSelectorMessage, FileSelectorInput,      NULL,
-                                "file selector",     sizeof(T_FILE_SELECTOR)};
-    T_FILE_SELECTOR *s = (T_FILE_SELECTOR *)OpenSelector(&spec, init->item_code, 0);
+    T_FILE_SELECTOR *s =
+        (T_FILE_SELECTOR *)OpenSelector(&file_selector_kind, init->title, init->parent, 0, init->item_code);
     if (!s)
         return NULL;
     t_Window *window = s->base.head.window;

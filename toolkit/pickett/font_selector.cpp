@@ -215,15 +215,19 @@ static u32 FontSelectorInput(t_Handler *handler, u32 event, void *data)
     }
 }
 
+// clang-format off
+static const T_SELECTOR_KIND font_selector_kind = {
+    FONTSEL_USER_W, FONTSEL_USER_H, FONTSEL_FLAGS, IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
+    FontSelectorMessage, FontSelectorInput, FontSelectorPaint, "font selector", sizeof(T_FONT_SELECTOR),
+    offsetof(T_FONT_SELECTOR, sel)};
+// clang-format on
+
 t_Window *NewFontSelector(T_FONTSEL_INIT *init)
 {
     if (!init)
         return NULL;
-    const T_DIALOG_SPEC spec = {init->title,         init->parent,           FONTSEL_USER_W,
-                                FONTSEL_USER_H,      FONTSEL_FLAGS,          IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
-                                FontSelectorMessage, FontSelectorInput,      FontSelectorPaint,
-                                "font selector",     sizeof(T_FONT_SELECTOR)};
-    T_FONT_SELECTOR *s = (T_FONT_SELECTOR *)OpenSelector(&spec, init->item_code, offsetof(T_FONT_SELECTOR, sel));
+    T_FONT_SELECTOR *s =
+        (T_FONT_SELECTOR *)OpenSelector(&font_selector_kind, init->title, init->parent, 0, init->item_code);
     if (!s)
         return NULL;
     t_Window *window = s->base.head.window;

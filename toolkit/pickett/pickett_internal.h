@@ -57,11 +57,23 @@ typedef struct T_SELECTOR {
     T_MESSAGE_FN message;  // the selector's own message function, after the close gadget
 } T_SELECTOR;
 
-// Opens a selector as a dialog, centred on its parent and kept on the screen: a handler block of
-// spec->handler_size bytes that begins with a T_SELECTOR, whose parent and item code it sets. The
-// window's user_data is the block plus `user_data_offset`. The close gadget cancels every selector
-// alike; each other message goes to spec->message. Null, with nothing open, when it can't.
-T_SELECTOR *OpenSelector(const T_DIALOG_SPEC *spec, u32 item_code, size_t user_data_offset);
+// What sets one selector apart from the others: a row for each kind.
+typedef struct T_SELECTOR_KIND {
+    i16 user_w, user_h;
+    u32 flags, idcmp;
+    T_MESSAGE_FN message;  // every message but the close gadget's
+    T_HANDLER_INPUT input;
+    T_HANDLER_PAINT paint;
+    const char *handler_name;
+    u32 record_size;          // the handler block, which begins with a T_SELECTOR
+    size_t user_data_offset;  // the window's user_data is the block plus this
+} T_SELECTOR_KIND;
+
+// Opens a selector of `kind` as a dialog titled `title`, centred on its parent and kept on the
+// screen (`user_h` 0: the kind's height), and sets its parent and item code. The close gadget
+// cancels every selector alike; each other message goes to kind->message. Null, with nothing open,
+// when it can't.
+T_SELECTOR *OpenSelector(const T_SELECTOR_KIND *kind, const char *title, t_Window *parent, i16 user_h, u32 item_code);
 // Tells the parent `msg` with the answer's data, through the parent's message mask: message
 // 0x1000 + n reaches it only when bit n of the mask given at its creation is set.
 void TellParent(T_SELECTOR *selector, u32 msg);

@@ -18,17 +18,28 @@ static u32 SelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data)
     }
 }
 
-T_SELECTOR *OpenSelector(const T_DIALOG_SPEC *spec, u32 item_code, size_t user_data_offset)
+T_SELECTOR *OpenSelector(const T_SELECTOR_KIND *kind, const char *title, t_Window *parent, i16 user_h, u32 item_code)
 {
-    T_SELECTOR *s = (T_SELECTOR *)OpenDialog(spec);
+    const T_DIALOG_SPEC spec = {title,
+                                parent,
+                                kind->user_w,
+                                user_h ? user_h : kind->user_h,
+                                kind->flags,
+                                kind->idcmp,
+                                kind->message,
+                                kind->input,
+                                kind->paint,
+                                kind->handler_name,
+                                kind->record_size};
+    T_SELECTOR *s = (T_SELECTOR *)OpenDialog(&spec);
     if (!s)
         return NULL;
     s->head.kind = HANDLER_KIND_SELECTOR;
-    s->parent = IsWindowLive(spec->parent) ? spec->parent : NULL;
+    s->parent = IsWindowLive(parent) ? parent : NULL;
     s->item_code = item_code;
-    s->message = spec->message;
+    s->message = kind->message;
     s->head.window->message = SelectorMessage;
-    s->head.window->user_data = (char *)s + user_data_offset;
+    s->head.window->user_data = (char *)s + kind->user_data_offset;
     return s;
 }
 
