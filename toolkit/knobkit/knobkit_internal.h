@@ -108,6 +108,9 @@ i16 ComboInset(t_gadget *combo);
 
 // --- Rows of the gadget class table ---------------------------------------------------------------
 T_GADGET_INIT SliderInit, ScrollBarInit, ListBoxInit, DropBoxInit, ComboInit;
+// A slider's or a scroll bar's record of `size` bytes, whose range (min and max, with which both
+// begin) comes from `init`, hung on the gadget's class_data; null when there is no memory.
+void *NewRangeRecord(t_gadget *g, const T_GADGETOBJECTINIT *init, u32 size);
 T_GADGET_DRAW DrawSliderGadget, DrawScrollBarGadget, DrawListBoxGadget, DrawDropBoxGadget, DrawComboGadget;
 T_GADGET_MOUSE SliderMouse, ScrollBarMouse, ListBoxMouse, DropBoxMouse, ComboMouse;
 T_GADGET_KEY SliderKey, ScrollBarKey, ListBoxKey, DropBoxKey;

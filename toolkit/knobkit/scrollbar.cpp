@@ -205,17 +205,29 @@ static void SetBarValue(t_gadget *g, i32 value)
     d->init_val = (u16)ClampScroll(&r, value);
 }
 
+static_assert(offsetof(T_SLIDER_DATA, min) == 0 && offsetof(T_SCROLLBAR_DATA, min) == 0 &&
+                  offsetof(T_SLIDER_DATA, max) == offsetof(T_SCROLLBAR_DATA, max),
+              "a slider's and a scroll bar's records begin with the same range");
+
+void *NewRangeRecord(t_gadget *g, const T_GADGETOBJECTINIT *init, u32 size)
+{
+    T_SCROLLBAR_DATA *range = (T_SCROLLBAR_DATA *)AllocMemC(size);
+    if (range) {
+        range->min = init->min;
+        range->max = init->max;
+        g->class_data = (uintptr_t)range;
+    }
+    return range;
+}
+
 int ScrollBarInit(t_gadget *g, const T_GADGETOBJECTINIT *init)
 {
-    T_SCROLLBAR_DATA *d = (T_SCROLLBAR_DATA *)AllocMemC(sizeof(T_SCROLLBAR_DATA));
-    if (!d)
-        return 0;
-    d->min = init->min;
-    d->max = init->max;
-    d->init_val = (u16)init->init_val;
-    d->mark_width = init->mark_width;
-    g->class_data = (uintptr_t)d;
-    return 1;
+    T_SCROLLBAR_DATA *d = (T_SCROLLBAR_DATA *)NewRangeRecord(g, init, sizeof(T_SCROLLBAR_DATA));
+    if (d) {
+        d->init_val = (u16)init->init_val;
+        d->mark_width = init->mark_width;
+    }
+    return d != NULL;
 }
 
 void ScrollBarFree(t_gadget *g)

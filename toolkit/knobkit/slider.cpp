@@ -85,18 +85,15 @@ static i32 ValueAt(t_gadget *g, const T_RPOS *r, i32 pos)
 
 int SliderInit(t_gadget *g, const T_GADGETOBJECTINIT *init)
 {
-    T_SLIDER_DATA *d = (T_SLIDER_DATA *)AllocMemC(sizeof(T_SLIDER_DATA));
+    T_SLIDER_DATA *d = (T_SLIDER_DATA *)NewRangeRecord(g, init, sizeof(T_SLIDER_DATA));
     if (!d)
         return 0;
-    d->min = init->min;
-    d->max = init->max;
     d->step = init->step;  // kept as given: where the mark moves, a step below 1 counts as 1
     d->value = init->init_val;
     d->mark_width = init->mark_width;
     d->mark_height = init->mark_height;
     d->slider_width = d->track_width = init->base_width;
     d->slider_height = d->track_height = init->base_height;
-    g->class_data = (uintptr_t)d;
     return 1;
 }
 
