@@ -29,11 +29,11 @@ TEST_F(SourceTest, TabLinksTable)
     };
     for (const TAB_CASE &c : cases) {
         SCOPED_TRACE(c.label);
-        std::vector<T_TEST_GADGET> specs;
+        std::vector<T_TEST_GADGET> rows;
         for (const MEMBER &m : c.gadgets)
-            specs.push_back(
+            rows.push_back(
                 {.type = GADGET_TYPE_BUTTON, .text = "g", .item_code = m.item_code, .tab_index = m.tab_index});
-        t_Window *window = MakePage({.name = "Tabs"}, specs);
+        t_Window *window = MakePage({.name = "Tabs"}, rows);
         ASSERT_TRUE(window);
         // Stale links must be replaced, not kept.
         for (t_gadget *g : Gadgets(window))
@@ -53,7 +53,7 @@ TEST_F(SourceTest, TabLinksTable)
 // with the node priorities set; the file's cases and blocks follow that order.
 TEST_F(SourceTest, TypeOrderOnAndOff)
 {
-    const std::vector<T_TEST_GADGET> specs = {
+    const std::vector<T_TEST_GADGET> rows = {
         {.type = GADGET_TYPE_BUTTON, .text = "button A", .item_code = 1},
         {.type = GADGET_TYPE_SLIDER, .text = "slider", .item_code = 2},
         {.type = GADGET_TYPE_STRING, .text = "string", .item_code = 3},
@@ -69,7 +69,7 @@ TEST_F(SourceTest, TypeOrderOnAndOff)
     };
     for (const ORDER_CASE &c : cases) {
         SCOPED_TRACE(c.settings);
-        t_Window *window = MakePage({.name = "Order"}, specs);
+        t_Window *window = MakePage({.name = "Order"}, rows);
         std::string text = SaveAndRead(window, c.settings);
         std::vector<std::string> names, created, cases_written;
         for (t_gadget *g : Gadgets(window)) {

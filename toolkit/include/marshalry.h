@@ -77,7 +77,7 @@ t_Menu *AddApplicationCmdMenu(T_APPLICATION *app, T_MENU_HANDLER *handler, T_MEN
 t_Window *OpenApplicationCmdEditWindow(t_Window *parent, T_APPLICATION *app);
 #define KEY_NAME_SIZE 16                     // a key name's buffer: the longest name and its end
 const char *KeyName(u32 key, char *buffer);  // "Ctrl+O", "F10", "Delete"...; buffer of KEY_NAME_SIZE
-// Reads a key spec: "ctrl+s", "alt+f4", "escape", "f10", "shift+tab", "a", "delete"... (case and
+// Reads a written key: "ctrl+s", "alt+f4", "escape", "f10", "shift+tab", "a", "delete"... (case and
 // spaces do not count); false when unknown.
 int ParseKeyName(const char *name, u16 *key, u16 *qualifiers);
 

@@ -20,30 +20,30 @@ void PlaceDialog(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame
     init->y = parent ? y - parent->user_y : y;
 }
 
-t_Window *OpenDialogWindow(const T_DIALOG_SPEC *spec)
+t_Window *OpenDialogWindow(const T_DIALOG_INIT *dialog)
 {
-    t_Window *parent = IsWindowLive(spec->parent) ? spec->parent : NULL;
+    t_Window *parent = IsWindowLive(dialog->parent) ? dialog->parent : NULL;
     T_DISPLAY_RECORD *rec = DISPLAY_RECORD;
     T_WINDOWOBJINIT wi = {};
-    PlaceDialog(&wi, parent, spec->user_w + 2 * rec->border_size,
-                spec->user_h + 2 * rec->border_size + rec->title_height);
-    wi.flags = parent ? spec->flags | WF_CHILD : spec->flags & ~WF_CHILD;
-    wi.idcmp = spec->idcmp;
-    wi.message = spec->message;
+    PlaceDialog(&wi, parent, dialog->user_w + 2 * rec->border_size,
+                dialog->user_h + 2 * rec->border_size + rec->title_height);
+    wi.flags = parent ? dialog->flags | WF_CHILD : dialog->flags & ~WF_CHILD;
+    wi.idcmp = dialog->idcmp;
+    wi.message = dialog->message;
     wi.parent = parent;
-    t_Window *window = CreateWindowObject(spec->title ? spec->title : "", &wi);
+    t_Window *window = CreateWindowObject(dialog->title ? dialog->title : "", &wi);
     if (window)
         window->UserAreaColour = rec->dialog_colour;
     return window;
 }
 
-void *OpenDialog(const T_DIALOG_SPEC *spec)
+void *OpenDialog(const T_DIALOG_INIT *dialog)
 {
-    t_Window *window = OpenDialogWindow(spec);
+    t_Window *window = OpenDialogWindow(dialog);
     if (!window)
         return NULL;
-    t_Handler *handler =
-        NewHandler(&window->handlers, spec->input, spec->paint, spec->handler_name, 0, spec->handler_size, window);
+    t_Handler *handler = NewHandler(&window->handlers, dialog->input, dialog->paint, dialog->handler_name, 0,
+                                    dialog->handler_size, window);
     if (!handler) {
         RemoveWindow(window);
         return NULL;

@@ -64,10 +64,6 @@ static void RepaintWhole(void)
 {
     lumora_state.repaint_whole = 1;
 }
-static void NoteActivity(void)
-{
-    RepaintWhole();
-}
 
 // The smallest box round both; an empty one (w 0) adds nothing.
 static T_RPOS UniteRects(T_RPOS a, T_RPOS b)
@@ -102,12 +98,14 @@ static void RouteAndNoteDamage(T_INPUT_EVENT *event)
     st->event_limited = 0;
 }
 
+// The rests after which a hover text shows: over a gadget or title, over a tool.
+static const u32 hover_delays[] = {HOVER_DELAY_MS, TOOLBAR_HOVER_MS};
+
 // The pointer's rest has just passed a hover text's delay: the text shows at this turn.
 static int RestEnded(u32 now)
 {
     T_LUMORA_STATE *st = &lumora_state;
-    static const u32 delays[] = {HOVER_DELAY_MS, TOOLBAR_HOVER_MS};
-    for (u32 delay : delays)
+    for (u32 delay : hover_delays)
         if (st->last_move_ms + delay > st->last_paint_ms && st->last_move_ms + delay <= now)
             return 1;
     return 0;
@@ -118,8 +116,7 @@ static u32 QuietWait(u32 now)
 {
     T_LUMORA_STATE *st = &lumora_state;
     u32 wait = IDLE_WAIT_MS;
-    static const u32 delays[] = {HOVER_DELAY_MS, TOOLBAR_HOVER_MS};
-    for (u32 delay : delays)
+    for (u32 delay : hover_delays)
         if (st->last_move_ms + delay > now && st->last_move_ms + delay - now < wait)
             wait = st->last_move_ms + delay - now;
     return wait;
@@ -131,7 +128,7 @@ static void DeliverPosted(void)
     t_List *posted = &lumora_state.posted;
     if (LIST_EMPTY(posted))
         return;
-    NoteActivity();
+    RepaintWhole();
     T_POSTED_MESSAGE *last = (T_POSTED_MESSAGE *)posted->last;
     for (;;) {
         if (LIST_EMPTY(posted))
@@ -168,7 +165,7 @@ static void DeliverFirstRun(void)
         if (!IsWindowLive(w) || (w->state_flags & WSF_FIRSTTIME_DONE))
             continue;
         w->state_flags |= WSF_FIRSTTIME_DONE;
-        NoteActivity();
+        RepaintWhole();
         DeliverMessage(w, 0, ACT_FIRSTTIME_RUN, NULL);
     }
 }
@@ -181,29 +178,27 @@ void CallMouseMoveHooks(void)
             w->mouse_move_fn(w, w->mouse_move_data);
 }
 
-void RepaintScreen(void)
+// The screen, or the area of it (null: all), painted and shown.
+static void PaintAndPresent(const T_RPOS *area)
 {
-    if (!display || !CURRENT_DISPLAY->record)
-        return;
-    PaintScreen(NULL);
+    PaintScreen(area);
     lumora_state.last_paint_ms = _LumoraBase->time_ms;
     display->present();
+}
+
+void RepaintScreen(void)
+{
+    if (display && CURRENT_DISPLAY->record)
+        PaintAndPresent(NULL);
 }
 
 // What the turn changed, and only that: the whole screen, the area its events named, or nothing.
 static int RepaintTurn(void)
 {
     T_LUMORA_STATE *st = &lumora_state;
-    int painted = 1;
-    if (st->repaint_whole) {
-        RepaintScreen();
-    } else if (st->repaint_area.w > 0 && st->repaint_area.h > 0) {
-        PaintScreen(&st->repaint_area);
-        st->last_paint_ms = _LumoraBase->time_ms;
-        display->present();
-    } else {
-        painted = 0;
-    }
+    int painted = st->repaint_whole || (st->repaint_area.w > 0 && st->repaint_area.h > 0);
+    if (painted)
+        PaintAndPresent(st->repaint_whole ? NULL : &st->repaint_area);
     st->repaint_whole = 0;
     st->repaint_area = T_RPOS{0, 0, 0, 0};
     return painted;

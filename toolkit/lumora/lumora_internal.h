@@ -107,7 +107,7 @@ void ForgetHandler(t_Handler *handler);  // drops every reference the toolkit ho
 
 // Dialogs (dialog.cpp): a window of a user area of user_w by user_h, centred on its live parent
 // (a child of it) or on the screen (top level), kept on the screen, in the dialog colour.
-typedef struct T_DIALOG_SPEC {
+typedef struct T_DIALOG_INIT {
     const char *title;
     t_Window *parent;  // null, or no longer live: a top-level window
     i16 user_w, user_h;
@@ -118,13 +118,13 @@ typedef struct T_DIALOG_SPEC {
     T_HANDLER_PAINT paint;
     const char *handler_name;
     u32 handler_size;
-} T_DIALOG_SPEC;
+} T_DIALOG_INIT;
 // The frame's place and size in `init`, for a frame of frame_w by frame_h.
 void PlaceDialog(T_WINDOWOBJINIT *init, t_Window *parent, i16 frame_w, i16 frame_h);
-t_Window *OpenDialogWindow(const T_DIALOG_SPEC *spec);  // the window alone; null if it can't be made
+t_Window *OpenDialogWindow(const T_DIALOG_INIT *dialog);  // the window alone; null if it can't be made
 // The dialog's handler block (its window at ->window); null, and no window, when either can't be
 // made.
-void *OpenDialog(const T_DIALOG_SPEC *spec);
+void *OpenDialog(const T_DIALOG_INIT *dialog);
 
 // Windows (window.cpp).
 #define WINDOW_TITLE_SIZE 512  // a title with its suffix, as the title bar shows it

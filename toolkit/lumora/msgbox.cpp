@@ -278,10 +278,10 @@ t_Window *NewMsgBoxLabels(t_Window *parent, const char *title, const char *text,
     WrapText(&measure);
     T_MSGBOX_SIZE size = MeasureMsgBox(&measure);
 
-    const T_DIALOG_SPEC spec = {title,           parent,        size.user_w, size.user_h, MSGBOX_FLAGS | WF_CHILD,
-                                IDCMP_TERMINATE, MsgBoxMessage, MsgBoxInput, MsgBoxPaint, "msgbox",
-                                sizeof(T_MSGBOX)};
-    T_MSGBOX *box = (T_MSGBOX *)OpenDialog(&spec);
+    const T_DIALOG_INIT dialog = {title,           parent,        size.user_w, size.user_h, MSGBOX_FLAGS | WF_CHILD,
+                                  IDCMP_TERMINATE, MsgBoxMessage, MsgBoxInput, MsgBoxPaint, "msgbox",
+                                  sizeof(T_MSGBOX)};
+    T_MSGBOX *box = (T_MSGBOX *)OpenDialog(&dialog);
     if (!box) {
         FreeMem(measure.text, measure.text_size);
         return NULL;

@@ -160,18 +160,18 @@ t_Window *OpenApplicationCmdEditWindow(t_Window *parent, T_APPLICATION *app)
 {
     if (!app)
         return NULL;
-    const T_DIALOG_SPEC spec = {"Keyboard",
-                                parent,
-                                KEYED_USER_W,
-                                KEYED_USER_H,
-                                KEYED_FLAGS,
-                                IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
-                                KeyEditorMessage,
-                                KeyEditorInput,
-                                NULL,
-                                "key editor",
-                                sizeof(T_KEY_EDITOR)};
-    T_KEY_EDITOR *e = (T_KEY_EDITOR *)OpenDialog(&spec);
+    const T_DIALOG_INIT dialog = {"Keyboard",
+                                  parent,
+                                  KEYED_USER_W,
+                                  KEYED_USER_H,
+                                  KEYED_FLAGS,
+                                  IDCMP_TERMINATE | IDCMP_WINDOW_RESIZE,
+                                  KeyEditorMessage,
+                                  KeyEditorInput,
+                                  NULL,
+                                  "key editor",
+                                  sizeof(T_KEY_EDITOR)};
+    T_KEY_EDITOR *e = (T_KEY_EDITOR *)OpenDialog(&dialog);
     if (!e)
         return NULL;
     t_Window *window = e->head.window;

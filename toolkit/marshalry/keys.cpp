@@ -1,5 +1,5 @@
 // Key names: the one table of the keys' names, which menus and the key editor show and which
-// scripts and key specs ("ctrl+s", "alt+f4", "escape") are read by.
+// scripts and written keys ("ctrl+s", "alt+f4", "escape") are read by.
 #include <ctype.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -35,7 +35,7 @@ static const T_KEY_NAME key_names[] = {
     {KEY_DELETE,    "Delete",    NULL},
 };
 
-// The qualifiers a key spec may hold before its key, each followed by '+'.
+// The qualifiers a written key may hold before its key, each followed by '+'.
 static const T_KEY_NAME qualifier_names[] = {
     // bit            name     alias
     {QUAL_SHIFT,    "Shift",     NULL},
@@ -46,7 +46,7 @@ static const T_KEY_NAME qualifier_names[] = {
 
 #define KEY_F12 (KEY_F1 + KEY_FUNCTION_COUNT - 1)
 #define KEY_CTRL_Z KEY_CTRL('Z')
-#define KEY_WORD_SIZE 64  // the longest word of a key spec read
+#define KEY_WORD_SIZE 64  // the longest word of a written key
 
 // Case and spaces aside, the same word.
 static int SameKeyWord(const char *word, const char *name)
@@ -104,7 +104,7 @@ const char *KeyName(u32 key, char *buffer)
     return buffer;
 }
 
-// The key of the last word of a spec: a named key, F1 to F12, or one character; false if none.
+// The key of the last word of a written key: a named key, F1 to F12, or one character; false if none.
 static int ReadKeyWord(const char *word, u16 qualifiers, u16 *key)
 {
     if (const T_KEY_NAME *k = FindKeyName(key_names, sizeof key_names / sizeof *key_names, word)) {

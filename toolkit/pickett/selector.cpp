@@ -20,18 +20,18 @@ static u32 SelectorMessage(t_Window *window, u32 item_code, u32 msg, void *data)
 
 T_SELECTOR *OpenSelector(const T_SELECTOR_KIND *kind, const char *title, t_Window *parent, i16 user_h, u32 item_code)
 {
-    const T_DIALOG_SPEC spec = {title,
-                                parent,
-                                kind->user_w,
-                                user_h ? user_h : kind->user_h,
-                                kind->flags,
-                                kind->idcmp,
-                                kind->message,
-                                kind->input,
-                                kind->paint,
-                                kind->handler_name,
-                                kind->record_size};
-    T_SELECTOR *s = (T_SELECTOR *)OpenDialog(&spec);
+    const T_DIALOG_INIT dialog = {title,
+                                  parent,
+                                  kind->user_w,
+                                  user_h ? user_h : kind->user_h,
+                                  kind->flags,
+                                  kind->idcmp,
+                                  kind->message,
+                                  kind->input,
+                                  kind->paint,
+                                  kind->handler_name,
+                                  kind->record_size};
+    T_SELECTOR *s = (T_SELECTOR *)OpenDialog(&dialog);
     if (!s)
         return NULL;
     s->head.kind = HANDLER_KIND_SELECTOR;
