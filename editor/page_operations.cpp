@@ -1,6 +1,5 @@
 // The main menu's commands on the active page that are no group operation of their own: the
-// selection commands, tab-order entry, Undo and Redo, and the forms of the clipboard, flip, centre
-// and preview that the command table calls.
+// selection commands, tab-order entry, Undo and Redo, the clipboard and flip, and the preview.
 #include "editor/page_operations.h"
 
 #include "editor/clipboard.h"
@@ -8,10 +7,8 @@
 #include "editor/page_commands.h"
 #include "editor/preview.h"
 
-enum { MARK_SET, MARK_CLEAR, MARK_TOGGLE };
-
 // Sets, clears or toggles the selection mark of every gadget of the page.
-static void MarkAllGadgets(t_Window *page, int how)
+void MarkAllGadgets(t_Window *page, u32 how)
 {
     t_Gaget_Handler *handler = FindGadgetHandler(page);
     if (!handler)
@@ -24,21 +21,6 @@ static void MarkAllGadgets(t_Window *page, int how)
         else
             g->live_flags ^= GADGET_MARK_SELECTED;
     }
-}
-
-void SelectAllGadgets(t_Window *page)
-{
-    MarkAllGadgets(page, MARK_SET);
-}
-
-void SelectNoGadgets(t_Window *page)
-{
-    MarkAllGadgets(page, MARK_CLEAR);
-}
-
-void InvertGadgetSelection(t_Window *page)
-{
-    MarkAllGadgets(page, MARK_TOGGLE);
 }
 
 void EnterTabOrder(t_Window *page)
@@ -58,10 +40,10 @@ void EnterTabOrder(t_Window *page)
     }
 }
 
-// Takes one step back or forth in the page's history.
-static void StepHistory(t_Window *page, int forward)
+void StepHistory(t_Window *page, u32 direction)
 {
     T_WINEDIT_HANDLER *record = PageRecordOf(page);
+    int forward = direction == HISTORY_FORTH;
     if (forward)
         Redo(&record->undo);
     else
@@ -76,48 +58,23 @@ static void StepHistory(t_Window *page, int forward)
     TellMainWindow(page, ITEM_MENU_REFRESH);
 }
 
-void UndoPageStep(t_Window *page)
+void EditMarkedGadgets(t_Window *page, u32 operation)
 {
-    StepHistory(page, 0);
-}
-
-void RedoPageStep(t_Window *page)
-{
-    StepHistory(page, 1);
-}
-
-void CutToClipboard(t_Window *page)
-{
-    CutGadgets(page);
+    switch (operation) {
+    case EDIT_CUT:
+        CutGadgets(page);
+        break;
+    case EDIT_COPY:
+        CopyGadgets(page);
+        break;
+    case EDIT_PASTE:
+        PasteGadgets(page);
+        break;
+    default:  // EDIT_FLIP
+        FlipMarkedGadgets(page);
+        break;
+    }
     TellMainWindow(page, 0);
-}
-
-void CopyToClipboard(t_Window *page)
-{
-    CopyGadgets(page);
-    TellMainWindow(page, 0);
-}
-
-void PasteFromClipboard(t_Window *page)
-{
-    PasteGadgets(page);
-    TellMainWindow(page, 0);
-}
-
-void FlipHorizontal(t_Window *page)
-{
-    FlipMarkedGadgets(page);
-    TellMainWindow(page, 0);
-}
-
-void CentreHorizontally(t_Window *page)
-{
-    CentreMarkedGadgets(page, CENTRE_HORIZONTAL);
-}
-
-void CentreVertically(t_Window *page)
-{
-    CentreMarkedGadgets(page, CENTRE_VERTICAL);
 }
 
 void PreviewPage(t_Window *page)

@@ -1,28 +1,22 @@
 // The main menu's commands on a page: the selection, tab-order entry, the history's steps, the
-// clipboard, flipping and centring. Each takes the page alone, so that the main window's command
-// table names them.
+// clipboard and flipping, and the preview. The main window's command table names each with the
+// page and, where a command has forms, the form it wants.
 #pragma once
 #include "page/records.h"
 
-// Set, clear or toggle the selection mark of every gadget, and nothing else.
-void SelectAllGadgets(t_Window *page);
-void SelectNoGadgets(t_Window *page);
-void InvertGadgetSelection(t_Window *page);
+// Sets, clears or toggles the selection mark of every gadget, and nothing else.
+enum { MARK_SET, MARK_CLEAR, MARK_TOGGLE };
+void MarkAllGadgets(t_Window *page, u32 how);
 // Enters tab-order mode: the next click gives number 1, and the gadgets without a number take
 // the one after the gadget before them in the list.
 void EnterTabOrder(t_Window *page);
 // One step back or forth in the page's history; no gadget stays current. Undo down to the first
 // record leaves the page clean, Redo marks it; the main window's menus follow.
-void UndoPageStep(t_Window *page);
-void RedoPageStep(t_Window *page);
-// Cut, Copy, Paste and Flip Horizontal on the page (editor/clipboard.h, FlipMarkedGadgets); the
+enum { HISTORY_BACK, HISTORY_FORTH };
+void StepHistory(t_Window *page, u32 direction);
+// Cut, Copy, Paste (editor/clipboard.h) or Flip Horizontal (FlipMarkedGadgets) on the page; the
 // main window's menus follow.
-void CutToClipboard(t_Window *page);
-void CopyToClipboard(t_Window *page);
-void PasteFromClipboard(t_Window *page);
-void FlipHorizontal(t_Window *page);
-// CentreMarkedGadgets in each direction.
-void CentreHorizontally(t_Window *page);
-void CentreVertically(t_Window *page);
+enum { EDIT_CUT, EDIT_COPY, EDIT_PASTE, EDIT_FLIP };
+void EditMarkedGadgets(t_Window *page, u32 operation);
 // Opens the page's preview (editor/preview.h).
 void PreviewPage(t_Window *page);

@@ -385,13 +385,13 @@ static void DispatchPageItem(t_Window *window, u32 item_code)
         TellMainWindow(window, 0);
         break;
     case GADGET_MENU_CUT:  // the clipboard, as the Edit menu's entries
-        CutToClipboard(window);
+        EditMarkedGadgets(window, EDIT_CUT);
         break;
     case GADGET_MENU_COPY:
-        CopyToClipboard(window);
+        EditMarkedGadgets(window, EDIT_COPY);
         break;
     case GADGET_MENU_PASTE:
-        PasteFromClipboard(window);
+        EditMarkedGadgets(window, EDIT_PASTE);
         break;
     case PAGE_MENU_RESIZE_TO_CONTENTS:  // from a small window, grown around the gadgets
         window->w = RESIZE_START_WIDTH;

@@ -204,39 +204,41 @@ enum { ON_MAIN, ON_PAGE };
 
 typedef struct T_ITEM_ROW {
     u32 item_code;
-    u8 needs_page;                  // ON_PAGE: runs on the active page, and does nothing without one
-    void (*run)(t_Window *window);  // given the active page, or else the main window
+    u8 needs_page;                               // ON_PAGE: runs on the active page, and does nothing without one
+    void (*run)(t_Window *window);               // given the active page, or else the main window
+    void (*run_form)(t_Window *page, u32 form);  // or a page command of several forms, given `form`
+    u32 form;
 } T_ITEM_ROW;
 
 // The commands, by item code. Any other code (the toolbar's among them) does nothing.
 // clang-format off
-//   item code               needs a page function
+//   item code               needs a page function              or, with a form        form
 static const T_ITEM_ROW item_table[] = {
-    {CMD_OPEN,               ON_MAIN, OpenDocumentSelector},
-    {CMD_CLOSE,              ON_PAGE, ClosePage},  // the page asks to close
-    {CMD_CLOSE_ALL,          ON_MAIN, CloseAllPages},  // one query at a time
-    {CMD_SAVE,               ON_PAGE, SavePageDocument},  // at once when the page has a file
-    {CMD_SAVE_AS,            ON_PAGE, SavePageDocumentAs},
-    {CMD_SAVE_ALL,           ON_MAIN, SaveAllPages},
-    {CMD_EXIT,               ON_MAIN, ExitModule},
-    {CMD_UNDO,               ON_PAGE, UndoPageStep},
-    {CMD_REDO,               ON_PAGE, RedoPageStep},
-    {CMD_CUT,                ON_PAGE, CutToClipboard},  // the page's gadgets through the clipboard
-    {CMD_COPY,               ON_PAGE, CopyToClipboard},
-    {CMD_PASTE,              ON_PAGE, PasteFromClipboard},
-    {CMD_SELECT_ALL,         ON_PAGE, SelectAllGadgets},
-    {CMD_SELECT_NONE,        ON_PAGE, SelectNoGadgets},
-    {CMD_INVERSE_SELECTION,  ON_PAGE, InvertGadgetSelection},
-    {CMD_REORDER_ITEM_CODES, ON_PAGE, ReorderItemCodes},  // the saved codes and the toolkit's
-    {CMD_SETTINGS,           ON_MAIN, OpenSettings},
-    {CMD_CENTRE_HORIZONTAL,  ON_PAGE, CentreHorizontally},
-    {CMD_CENTRE_VERTICAL,    ON_PAGE, CentreVertically},
-    {CMD_SIZE_TO_CONTENT,    ON_PAGE, SizeMarkedToContents},
-    {CMD_FLIP_HORIZONTAL,    ON_PAGE, FlipHorizontal},
-    {CMD_TAB_ORDER,          ON_PAGE, EnterTabOrder},
-    {CMD_KEYBOARD,           ON_MAIN, OpenKeyboardWindow},
-    {CMD_PREVIEW,            ON_PAGE, PreviewPage},  // the page as the finished program
-    {ITEM_ABOUT,             ON_MAIN, ShowAbout},
+    {CMD_OPEN,               ON_MAIN, OpenDocumentSelector,  NULL,                  0},
+    {CMD_CLOSE,              ON_PAGE, ClosePage,             NULL,                  0},  // the page asks to close
+    {CMD_CLOSE_ALL,          ON_MAIN, CloseAllPages,         NULL,                  0},  // one query at a time
+    {CMD_SAVE,               ON_PAGE, SavePageDocument,      NULL,                  0},  // at once with a file
+    {CMD_SAVE_AS,            ON_PAGE, SavePageDocumentAs,    NULL,                  0},
+    {CMD_SAVE_ALL,           ON_MAIN, SaveAllPages,          NULL,                  0},
+    {CMD_EXIT,               ON_MAIN, ExitModule,            NULL,                  0},
+    {CMD_UNDO,               ON_PAGE, NULL,                  StepHistory,           HISTORY_BACK},
+    {CMD_REDO,               ON_PAGE, NULL,                  StepHistory,           HISTORY_FORTH},
+    {CMD_CUT,                ON_PAGE, NULL,                  EditMarkedGadgets,     EDIT_CUT},  // via the clipboard
+    {CMD_COPY,               ON_PAGE, NULL,                  EditMarkedGadgets,     EDIT_COPY},
+    {CMD_PASTE,              ON_PAGE, NULL,                  EditMarkedGadgets,     EDIT_PASTE},
+    {CMD_SELECT_ALL,         ON_PAGE, NULL,                  MarkAllGadgets,        MARK_SET},
+    {CMD_SELECT_NONE,        ON_PAGE, NULL,                  MarkAllGadgets,        MARK_CLEAR},
+    {CMD_INVERSE_SELECTION,  ON_PAGE, NULL,                  MarkAllGadgets,        MARK_TOGGLE},
+    {CMD_REORDER_ITEM_CODES, ON_PAGE, ReorderItemCodes,      NULL,                  0},  // saved codes and toolkit's
+    {CMD_SETTINGS,           ON_MAIN, OpenSettings,          NULL,                  0},
+    {CMD_CENTRE_HORIZONTAL,  ON_PAGE, NULL,                  CentreMarkedGadgets,   CENTRE_HORIZONTAL},
+    {CMD_CENTRE_VERTICAL,    ON_PAGE, NULL,                  CentreMarkedGadgets,   CENTRE_VERTICAL},
+    {CMD_SIZE_TO_CONTENT,    ON_PAGE, SizeMarkedToContents,  NULL,                  0},
+    {CMD_FLIP_HORIZONTAL,    ON_PAGE, NULL,                  EditMarkedGadgets,     EDIT_FLIP},
+    {CMD_TAB_ORDER,          ON_PAGE, EnterTabOrder,         NULL,                  0},
+    {CMD_KEYBOARD,           ON_MAIN, OpenKeyboardWindow,    NULL,                  0},
+    {CMD_PREVIEW,            ON_PAGE, PreviewPage,           NULL,                  0},  // as the finished program
+    {ITEM_ABOUT,             ON_MAIN, ShowAbout,             NULL,                  0},
 };
 // clang-format on
 
@@ -250,10 +252,13 @@ static void DispatchItem(t_Window *window, T_WINEDIT_MAIN *record, u32 item_code
     for (const T_ITEM_ROW &row : item_table) {
         if (row.item_code != item_code)
             continue;
-        if (row.needs_page == ON_MAIN)
-            row.run(window);
-        else if (record->active_page)
-            row.run(record->active_page);
+        t_Window *target = row.needs_page == ON_MAIN ? window : record->active_page;
+        if (!target)
+            return;
+        if (row.run_form)
+            row.run_form(target, row.form);
+        else
+            row.run(target);
         return;
     }
 }
