@@ -30,74 +30,6 @@ static T_PREVIEW *PreviewOf(t_Window *window)
     return window && window->user_data && window->message == PreviewMessage ? (T_PREVIEW *)window->user_data : NULL;
 }
 
-// Whether the tab order may stop at the gadget: shown, enabled, and no label or frame.
-static int TakesFocus(const t_gadget *g)
-{
-    return !(g->live_flags & (GADGET_FLAGS_DISABLED | GADGET_FLAGS_NO_DISPLAY)) && g->type != GADGET_TYPE_TEXT &&
-           g->type != GADGET_TYPE_GROUP;
-}
-
-// The next gadget from `from` along the tab order (tab[1] forward, tab[0] back), passing over those
-// that take no focus; null when the links lead nowhere.
-static t_gadget *AlongTabOrder(t_Window *window, t_gadget *from, int backwards)
-{
-    u32 guard = PageGadgetCount(window) + 1;
-    for (t_gadget *g = from; g && guard; guard--) {
-        u32 code = (backwards ? g->tab[0] : g->tab[1]) & ~TAB_LINK_FIRST;
-        g = code ? FindGadgetByCode(window, code) : NULL;
-        if (g && TakesFocus(g))
-            return g;
-    }
-    return NULL;
-}
-
-// The first gadget of the tab order that takes the focus, or null.
-static t_gadget *FirstInTabOrder(t_Window *window)
-{
-    t_Gaget_Handler *handler = FindGadgetHandler(window);
-    for (t_gadget *g = handler ? handler->first_gadget : NULL; g && g->next; g = g->next)
-        if (g->tab[0] & TAB_LINK_FIRST)
-            return TakesFocus(g) ? g : AlongTabOrder(window, g, 0);
-    return NULL;
-}
-
-// The next gadget in list order (round at the ends) that takes the focus, or null.
-static t_gadget *AlongList(t_Gaget_Handler *handler, t_gadget *from, int backwards)
-{
-    std::vector<t_gadget *> stops;
-    size_t at = 0;
-    for (t_gadget *g = handler->first_gadget; g->next; g = g->next) {
-        if (g == from)
-            at = stops.size();
-        if (TakesFocus(g) || g == from)
-            stops.push_back(g);
-    }
-    if (stops.empty())
-        return NULL;
-    if (!from)
-        return backwards ? stops.back() : stops.front();
-    for (size_t step = 1; step <= stops.size(); step++) {
-        size_t i = backwards ? (at + stops.size() - step) % stops.size() : (at + step) % stops.size();
-        if (TakesFocus(stops[i]))
-            return stops[i];
-    }
-    return NULL;
-}
-
-// Tab and Shift+Tab move the focus along the tab order; outside it they walk in list order.
-static void TabKey(t_Window *window, int backwards)
-{
-    t_Gaget_Handler *handler = FindGadgetHandler(window);
-    if (!handler)
-        return;
-    t_gadget *current = handler->current_gadget;
-    t_gadget *next = current ? AlongTabOrder(window, current, backwards) : FirstInTabOrder(window);
-    if (!next)
-        next = AlongList(handler, current, backwards);
-    if (next)
-        SetCurrentGadget(window, next);
-}
-
 static u32 PreviewInput(t_Handler *handler, u32 event, void *data)
 {
     t_Window *window = handler->window;
@@ -109,7 +41,7 @@ static u32 PreviewInput(t_Handler *handler, u32 event, void *data)
             return 1;
         }
         if (key->key_code == KEY_TAB && !(key->qualifiers & ~QUAL_SHIFT)) {
-            TabKey(window, (key->qualifiers & QUAL_SHIFT) != 0);
+            TabToNextGadget(window, (key->qualifiers & QUAL_SHIFT) != 0);
             return 1;
         }
         return 0;
@@ -208,7 +140,6 @@ t_Window *OpenPreview(t_Window *page)
         read.made[i]->tab_index = gadgets[i]->tab_index;
     BuildTabLinks(window);
     RecalcUserSize(window);
-    t_gadget *first = FirstInTabOrder(window);
-    SetCurrentGadget(window, first ? first : AlongList(FindGadgetHandler(window), NULL, 0));
+    SetCurrentGadget(window, FirstTabGadget(window));
     return window;
 }

@@ -93,9 +93,6 @@ typedef struct T_EDITOR_HOOKS {
 } T_EDITOR_HOOKS;
 extern T_EDITOR_HOOKS editor_hooks;
 
-// On tab[0] of the first gadget of the tab order; the rest of tab[0] and tab[1] are item codes.
-#define TAB_LINK_FIRST 0x80000000u
-
 // Module-wide state.
 extern T_EDITOR_CONFIG *editor_config;  // moves at exit: read through this pointer at each use
 extern T_RESOURCE *config_resource;     // the settings resource behind editor_config

@@ -1,4 +1,5 @@
-// Gadgets: a check box's click and report, and the dialog keys with the tab walk.
+// Gadgets: a check box's click and report, the dialog keys, and the tab walk along the tab
+// chain and the list.
 #include "tests/harness/toolkit_fixture.h"
 
 TEST_F(LumoraTest, CheckBoxTogglesOnAReleaseInsideAndReports)
@@ -53,4 +54,46 @@ TEST_F(LumoraTest, DialogKeysClickAndTabWalk)
     EXPECT_EQ(box->class_data, 1u);
     Key(KEY_TAB, QUAL_SHIFT);
     EXPECT_EQ(GetCurrentGadget(w), ok);
+}
+
+// Tab follows the window's tab chain, past labels, round its ring and back with Shift; from a
+// gadget off the chain it walks in list order.
+TEST_F(LumoraTest, TabFollowsTheTabChainAndOffItTheList)
+{
+    t_Window *w = MakeWindow("Page", 10, 10, 400, 220, 0, 0);
+    // In list order: A, B, the label C, D, and E off the chain. The chain: D (its head), A, C, B.
+    struct {
+        const char *name;
+        u16 type;
+        u32 tab0, tab1;
+    } rows[] = {
+        {"A", GADGET_TYPE_BUTTON, 4, 3},    {"B", GADGET_TYPE_CHECK_BOX, 3, 4},
+        {"C", GADGET_TYPE_TEXT, 1, 2},      {"D", GADGET_TYPE_BUTTON, TAB_LINK_FIRST | 2, 1},
+        {"E", GADGET_TYPE_CHECK_BOX, 0, 0},
+    };
+    t_gadget *g[5];
+    for (u32 i = 0; i < 5; i++) {
+        g[i] = MakeGadget(w, rows[i].name, rows[i].type, 10, (i16)(10 + 30 * i), 80, 20, i + 1, ACT_LMOUSE_UP);
+        g[i]->tab[0] = rows[i].tab0, g[i]->tab[1] = rows[i].tab1;
+    }
+    Turn();
+    SetCurrentGadget(w, FirstTabGadget(w));
+    EXPECT_EQ(GetCurrentGadget(w), g[3]);
+    struct {
+        u16 qualifiers;
+        int expected;
+    } steps[] = {
+        {0, 0},          {0, 1},          {0, 3},           // A, B past the label, round to D
+        {QUAL_SHIFT, 1}, {QUAL_SHIFT, 0}, {QUAL_SHIFT, 3},  // and back
+    };
+    for (const auto &step : steps) {
+        Key(KEY_TAB, step.qualifiers);
+        EXPECT_EQ(GetCurrentGadget(w), g[step.expected]) << "to " << rows[step.expected].name;
+    }
+    SetCurrentGadget(w, g[4]);
+    Key(KEY_TAB);
+    EXPECT_EQ(GetCurrentGadget(w), g[0]) << "off the chain: round the list to A";
+    SetCurrentGadget(w, g[4]);
+    Key(KEY_TAB, QUAL_SHIFT);
+    EXPECT_EQ(GetCurrentGadget(w), g[3]) << "and back to D";
 }

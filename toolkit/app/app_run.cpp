@@ -11,9 +11,8 @@
 
 #define APP_SCREEN_W 800  // the screen until it takes the page's size
 #define APP_SCREEN_H 600
-#define APP_FIRST_TURNS 3          // headless: the first-run message is delivered and the window painted
-#define APP_CLOSE_TURNS 100        // headless: the turns the page has to remove its window once told to end
-#define APP_TAB_FIRST 0x80000000u  // on tab[0] of the first gadget of a page's tab order
+#define APP_FIRST_TURNS 3    // headless: the first-run message is delivered and the window painted
+#define APP_CLOSE_TURNS 100  // headless: the turns the page has to remove its window once told to end
 #define APP_HEADLESS_OPTION "--headless"
 #define APP_HEADLESS_VARIABLE "QF_HEADLESS"
 
@@ -94,36 +93,6 @@ static void FollowScreen(T_WINDOW *window, i16 *last_w, i16 *last_h)
         return;
     T_RPOS frame = {0, 0, w, h};
     ResizeWindow(window, &frame);
-}
-
-T_GADGET *FirstTabGadget(T_WINDOW *window)
-{
-    T_GADGET_HANDLER *gh = FindGadgetHandler(window);
-    if (!gh)
-        return NULL;
-    T_GADGET *head = NULL;
-    for (T_GADGET *g = gh->first_gadget; g->next && !head; g = g->next)
-        if (g->tab[0] & APP_TAB_FIRST)
-            head = g;
-    // The chain from its head: the first gadget on it that takes the focus. The count guards
-    // against a chain that loops without coming back to its head.
-    u32 limit = CountListEntries(&gh->gadget_list);
-    for (T_GADGET *g = head; g && limit; limit--) {
-        if (TabStop(g))
-            return g;
-        u32 next = g->tab[1];
-        g = NULL;
-        for (T_GADGET *c = gh->first_gadget; c->next && next; c = c->next)
-            if (c->item_code == next && c != head)
-                g = c;
-    }
-    // No chain, or none on it takes the focus: the tab walk's first stop.
-    T_GADGET *saved = gh->current_gadget;
-    gh->current_gadget = NULL;
-    TabToNextGadget(window, 0);
-    T_GADGET *first = gh->current_gadget;
-    gh->current_gadget = saved;
-    return first;
 }
 
 // The window and each gadget one a line (a string by its text), for a headless run to show what

@@ -55,6 +55,3 @@ int OpenAppToolkit(int argc, char **argv);
 // turns, printed to standard output (its name and size, then each gadget, one a line) and told to
 // end as its close gadget does. Gives 0, or 1 when there is no window or it wouldn't end.
 int RunAppWindow(T_WINDOW *window);
-// The gadget that takes the focus first: the first one that can take it along the tab order saved
-// with the page, or else the first stop of the tab walk in list order; null when there is none.
-T_GADGET *FirstTabGadget(T_WINDOW *window);

@@ -289,6 +289,18 @@ t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y);  // topmost visible gad
 // cursor at its end.
 const char *GetStringGadgetText(t_gadget *gadget);
 void SetStringGadgetText(t_gadget *gadget, const char *text);
+// The top bit of a gadget's tab[0]: the gadget heads its window's tab chain.
+#define TAB_LINK_FIRST 0x80000000u
+// Tab (or Shift+Tab, `backwards`): the next gadget that takes the focus becomes the current one.
+// From a gadget on the window's tab chain (tab[1] names the gadget after, tab[0] the one before, by
+// item code) the walk follows the chain, passing over gadgets that are hidden, disabled, labels or
+// frames; off the chain, or where it leads nowhere, it goes in list order and into shown combos,
+// round at the ends.
+void TabToNextGadget(t_Window *window, int backwards);
+// The gadget that Tab from nowhere makes current: the first that takes the focus along the tab
+// chain from its head, or else the first stop in list order; null when none takes it. Changes
+// nothing.
+t_gadget *FirstTabGadget(t_Window *window);
 // The keys that every gadget knows, for a gadget's action function to pass on: Tab and Shift+Tab,
 // and the arrow keys, move the current gadget to the next or previous one in list order. True
 // when the key was one of them.

@@ -1,6 +1,5 @@
 // The gadget handler: a window's gadgets, their creation and freeing, placing, marks, lookup, the
-// dispatch of mouse events and keys to a gadget's action_fn or its type's behaviour, and the tab
-// walk of a dialog, which goes into combos.
+// dispatch of mouse events and keys to a gadget's action_fn or its type's behaviour.
 //
 // A gadget's x, y are kept equal to pos_x, pos_y (the saved form) and pos_width, pos_height to
 // base_width, base_height; screen_x, screen_y follow from the user area. ClearAllMarkedGadgets
@@ -416,82 +415,6 @@ int DialogWindow(t_Window *window)
         if (g->action_fn)
             return 0;
     return 1;
-}
-
-// --- The tab walk --------------------------------------------------------------------------------
-// The walk runs through the gadgets in list order and through a shown combo's children right
-// after the combo, as the mouse finds them; it wraps round at the ends.
-
-// A shown combo's children, or null when it has none to walk.
-static t_List *WalkInside(t_gadget *g)
-{
-    if (g->type != GADGET_TYPE_COMBO || !g->class_data || (g->live_flags & GADGET_FLAGS_NO_DISPLAY))
-        return NULL;
-    t_List *children = &((T_LIST_DATA *)g->class_data)->entries;
-    return LIST_EMPTY(children) ? NULL : children;
-}
-
-// The last gadget of the walk at and below `g`.
-static t_gadget *WalkDeepest(t_gadget *g)
-{
-    while (t_List *inside = WalkInside(g))
-        g = (t_gadget *)inside->last;
-    return g;
-}
-
-// The gadget after (or before) `g` in the walk; the first (or last) for null.
-static t_gadget *WalkStep(t_Gaget_Handler *gh, t_gadget *g, int backwards)
-{
-    if (backwards) {
-        if (g && g->prev->prev)
-            return WalkDeepest(g->prev);
-        if (g && g->parent_combo)
-            return g->parent_combo;
-        return WalkDeepest((t_gadget *)gh->gadget_list.last);
-    }
-    if (g) {
-        if (t_List *inside = WalkInside(g))
-            return (t_gadget *)inside->first;
-        for (; g; g = g->parent_combo)
-            if (g->next->next)
-                return g->next;
-    }
-    return gh->first_gadget;
-}
-
-static u32 CountWalk(t_List *list)
-{
-    u32 n = 0;
-    for (t_gadget *g = (t_gadget *)list->first; g->next; g = g->next) {
-        n++;
-        if (t_List *inside = WalkInside(g))
-            n += CountWalk(inside);
-    }
-    return n;
-}
-
-// A combo with children leaves the stop to them.
-int TabStop(t_gadget *g)
-{
-    return !(g->live_flags & (GADGET_FLAGS_DISABLED | GADGET_FLAGS_NO_DISPLAY)) && g->type != GADGET_TYPE_TEXT &&
-           g->type != GADGET_TYPE_GROUP && !WalkInside(g);
-}
-
-// The next stop becomes the current gadget; in a combo, the combo scrolls it into view.
-void TabToNextGadget(t_Window *window, int backwards)
-{
-    t_Gaget_Handler *gh = FindGadgetHandler(window);
-    if (!gh || LIST_EMPTY(&gh->gadget_list))
-        return;
-    t_gadget *g = gh->current_gadget;
-    for (u32 guard = CountWalk(&gh->gadget_list) + 1; guard; guard--) {
-        g = WalkStep(gh, g, backwards);
-        if (TabStop(g)) {
-            gh->current_gadget = g;
-            ScrollComboToGadget(g);
-            return;
-        }
-    }
 }
 
 // --- Painting ------------------------------------------------------------------------------------

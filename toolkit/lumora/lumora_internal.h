@@ -281,5 +281,4 @@ void PaintWindowBitmap(t_Window *window);  // window_bitmap.cpp
 void CallMouseMoveHooks(void);             // loop.cpp: after a mouse move
 void SetPointer(i16 x, i16 y);             // mouse.cpp: the toolkit's pointer, clamped to the limits
 void ClampToLimits(i16 *x, i16 *y);
-void TabToNextGadget(t_Window *window, int backwards);  // gadget_handler.cpp: Tab in a dialog
-int TabStop(t_gadget *g);                               // gadget_handler.cpp: whether the tab walk stops at the gadget
+int TabStop(t_gadget *g);  // tab_walk.cpp: whether the tab walk stops at the gadget
