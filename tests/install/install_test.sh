@@ -22,6 +22,10 @@ for file in bin/quillform "$libdir/libquillform.so" "$libdir/libqftoolkit.so" \
   [ -f "$tree/$file" ] || fail "no $file in the installed tree"
 done
 if grep -rl "$work/first" "$tree" >/dev/null; then fail "a file names the place of the install"; fi
+soname=$(objdump -p "$tree/$libdir/libqftoolkit.so" | awk '$1 == "SONAME" {print $2}')
+[ "$soname" = "libqftoolkit.so.$(echo "$version" | cut -d. -f1,2)" ] ||
+  fail "the toolkit's soname is \"$soname\", not libqftoolkit.so with the version's major and minor"
+[ -f "$tree/$libdir/$soname" ] || fail "no $soname beside libqftoolkit.so"
 
 got=$("$tree/bin/quillform" --version)
 [ "$got" = "Quillform $version" ] || fail "--version says \"$got\", not \"Quillform $version\""
