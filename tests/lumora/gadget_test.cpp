@@ -97,3 +97,27 @@ TEST_F(LumoraTest, TabFollowsTheTabChainAndOffItTheList)
     Key(KEY_TAB, QUAL_SHIFT);
     EXPECT_EQ(GetCurrentGadget(w), g[3]) << "and back to D";
 }
+
+static u32 IgnoreAction(t_Window *, t_gadget *, T_MOUSE_MSG *)
+{
+    return 0;
+}
+
+// A group made after the gadgets it frames lies over them in the list: a plain group lets the
+// mouse through everywhere, an editor's (with an action_fn) only where a gadget stands.
+TEST_F(LumoraTest, GadgetsInsideAGroupStayWithinReach)
+{
+    for (int editor = 0; editor < 2; editor++) {
+        SCOPED_TRACE(editor ? "an editor's group" : "a plain group");
+        t_Window *w = MakeWindow("Page", 10, 10, 400, 220, 0, 0);
+        t_gadget *box = MakeGadget(w, "Box", GADGET_TYPE_CHECK_BOX, 20, 20, 100, 20, 1, ACT_LMOUSE_UP);
+        t_gadget *group = MakeGadget(w, "Group", GADGET_TYPE_GROUP, 10, 10, 200, 100, 0, 0);
+        if (editor)
+            group->action_fn = IgnoreAction;
+        Turn();
+        EXPECT_EQ(GadgetAtPoint(w, box->screen_x + 5, box->screen_y + 5), box);
+        EXPECT_EQ(GadgetAtPoint(w, group->screen_x + 150, group->screen_y + 80), editor ? group : nullptr);
+        RemoveWindow(w);
+        Turn();
+    }
+}

@@ -284,7 +284,9 @@ void ClearAllMarkedGadgets(t_gadget *any);
 void MarkGadgetsInArea(t_gadget *first, T_RPOS *area, u32 first_time);
 // Searches the list in use and, inside combos, their gadgets, by live item code.
 t_gadget *FindGadgetByItemCode(t_Window *window, u32 item_code);
-t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y);  // topmost visible gadget, or null
+// The topmost visible gadget at the point, or null. A group is a frame whose inside is free, or,
+// when it has an action_fn (an editor's), is found where no other gadget stands.
+t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y);
 // A string gadget's text ("" for another type); a new text, cut to the field's length, with the
 // cursor at its end.
 const char *GetStringGadgetText(t_gadget *gadget);

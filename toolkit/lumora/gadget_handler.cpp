@@ -364,10 +364,17 @@ t_gadget *GadgetAtPoint(t_Window *window, i16 x, i16 y)
     T_RPOS user = UserArea(window);
     if (!PointBoxColl(x, y, &user))
         return NULL;
-    for (t_Node *n = gh->gadget_list.last; n->prev; n = n->prev)
-        if (t_gadget *g = HitGadget((t_gadget *)n, x, y))
+    // A group that catches the mouse (an editor's) takes it only where no other gadget stands, so
+    // that the gadgets framed by a group drawn after them stay within reach.
+    t_gadget *group = NULL;
+    for (t_Node *n = gh->gadget_list.last; n->prev; n = n->prev) {
+        t_gadget *g = HitGadget((t_gadget *)n, x, y);
+        if (g && g->type != GADGET_TYPE_GROUP)
             return g;
-    return NULL;
+        if (g && !group)
+            group = g;
+    }
+    return group;
 }
 
 // --- Events --------------------------------------------------------------------------------------
