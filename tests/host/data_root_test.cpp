@@ -11,6 +11,7 @@
 #include <string>
 
 #include "tests/harness/harness.h"
+#include "tests/harness/lock_holder.h"
 
 namespace
 {
@@ -38,21 +39,8 @@ TEST(DataRoot, ASecondEditorOnARootInUseSaysWhoHoldsItAndExits)
 {
     char root[512];
     ASSERT_TRUE(MakeTempRoot(root, sizeof(root)));
-    int ready[2];
-    ASSERT_EQ(pipe(ready), 0);
-    pid_t holder = fork();
-    ASSERT_GE(holder, 0);
-    if (holder == 0) {  // the first editor, as far as the lock goes
-        u32 other;
-        char taken = SetDataRoot(root) && LockDataRoot(&other) == 1 ? 'y' : 'n';
-        if (write(ready[1], &taken, 1) != 1)
-            _exit(1);
-        pause();
-        _exit(0);
-    }
-    char taken = 0;
-    ASSERT_EQ(read(ready[0], &taken, 1), 1);
-    ASSERT_EQ(taken, 'y');
+    pid_t holder = ForkLockHolder(root);  // the first editor, as far as the lock goes
+    ASSERT_GT(holder, 0);
 
     RUN second = RunQuillform(root);
     EXPECT_EQ(second.status, 2);
@@ -63,8 +51,6 @@ TEST(DataRoot, ASecondEditorOnARootInUseSaysWhoHoldsItAndExits)
     waitpid(holder, NULL, 0);
     RUN after = RunQuillform(root);
     EXPECT_EQ(after.status, 0) << after.error;
-    close(ready[0]);
-    close(ready[1]);
     RemoveTree(root);
 }
 

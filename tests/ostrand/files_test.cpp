@@ -12,6 +12,7 @@
 
 #include "ostrand/ostrand_internal.h"
 #include "ostrand/test_support.h"
+#include "tests/harness/lock_holder.h"
 #include "toolkit.h"
 
 // The lines ReadLine gives for `data`, and the bytes each consumed.
@@ -199,21 +200,8 @@ TEST_F(Files, APathTooLongIsRefusedAndNeverCut)
 // The data root is one process's: the lock says who holds it, and goes when that process dies.
 TEST_F(Files, TheDataRootLockNamesItsHolderAndDiesWithIt)
 {
-    int ready[2];
-    ASSERT_EQ(pipe(ready), 0);
-    pid_t holder = fork();
-    ASSERT_GE(holder, 0);
-    if (holder == 0) {
-        u32 other;
-        char taken = LockDataRoot(&other) == 1 ? 'y' : 'n';
-        if (write(ready[1], &taken, 1) != 1)
-            _exit(1);
-        pause();
-        _exit(0);
-    }
-    char taken = 0;
-    ASSERT_EQ(read(ready[0], &taken, 1), 1);
-    EXPECT_EQ(taken, 'y');
+    pid_t holder = ForkLockHolder(NULL);
+    ASSERT_GT(holder, 0);
     u32 who = 0;
     EXPECT_EQ(LockDataRoot(&who), 0);
     EXPECT_EQ(who, (u32)holder);
@@ -221,6 +209,4 @@ TEST_F(Files, TheDataRootLockNamesItsHolderAndDiesWithIt)
     waitpid(holder, NULL, 0);
     EXPECT_EQ(LockDataRoot(&who), 1);
     EXPECT_EQ(LockDataRoot(&who), 1) << "a holder takes it again";
-    close(ready[0]);
-    close(ready[1]);
 }
