@@ -4,16 +4,15 @@
 #include <string.h>
 
 #include "editor/clipboard.h"
-#include "editor/page_window.h"
 #include "editor/undo_records.h"
 #include "page/catalogue.h"
-#include "tests/harness/harness.h"
+#include "tests/bench/bench_support.h"
 
 // A page of `count` gadgets of several kinds, all marked.
 static t_Window *MarkedPage(T_HARNESS *h, i64 count)
 {
     static const i16 tools[] = {TOOL_BUTTON, TOOL_CHECK_BOX, TOOL_TEXT, TOOL_STRING, TOOL_SLIDER_H, TOOL_DROP_BOX};
-    t_Window *page = CreatePageWindow(h->main_window, (char *)"Bench", 0x7C, 10, 60, 1200, 760);
+    t_Window *page = BenchPage(h, "Bench");
     for (i64 i = 0; i < count; i++) {
         T_GADGETOBJECTINIT init;
         FillNewGadgetInit(&init, (i16)(i % 40 * 28), (i16)(i / 40 % 36 * 18), 26, 16);
@@ -30,12 +29,10 @@ static void BM_CopyAndPasteGadgets(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         T_HARNESS h;
-        if (!HarnessStart(&h, NULL, 1280, 800)) {
-            state.SkipWithError("the harness did not start");
+        if (!StartBenchHarness(state, &h))
             return;
-        }
         t_Window *source = MarkedPage(&h, count);
-        t_Window *target = CreatePageWindow(h.main_window, (char *)"Target", 0x7C, 10, 60, 1200, 760);
+        t_Window *target = BenchPage(&h, "Target");
         state.ResumeTiming();
         u32 copied = CopyGadgets(source);
         u32 pasted = PasteGadgets(target);
@@ -56,10 +53,8 @@ static void BM_PasteIntoOwnPage(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         T_HARNESS h;
-        if (!HarnessStart(&h, NULL, 1280, 800)) {
-            state.SkipWithError("the harness did not start");
+        if (!StartBenchHarness(state, &h))
             return;
-        }
         t_Window *page = MarkedPage(&h, count);
         CopyGadgets(page);
         state.ResumeTiming();

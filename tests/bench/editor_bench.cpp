@@ -4,9 +4,9 @@
 #include <string.h>
 
 #include "display/display.h"
-#include "editor/page_window.h"
+#include "editor/undo_records.h"
 #include "page/catalogue.h"
-#include "tests/harness/harness.h"
+#include "tests/bench/bench_support.h"
 
 // From OpenToolkit to the first turn of the loop (which presents the frame), with the module's
 // whole set-up, in a fresh data root each time.
@@ -14,8 +14,8 @@ static void BM_StartToFirstFrame(benchmark::State &state)
 {
     for (auto _ : state) {
         T_HARNESS h;
-        if (!HarnessStart(&h, NULL, 1280, 800))
-            state.SkipWithError("the harness did not start");
+        if (!StartBenchHarness(state, &h))
+            return;
         state.PauseTiming();
         HarnessStop(&h, 0);
         state.ResumeTiming();
@@ -26,10 +26,8 @@ BENCHMARK(BM_StartToFirstFrame)->Unit(benchmark::kMillisecond);
 static void BM_RepaintMainWindow(benchmark::State &state)
 {
     T_HARNESS h;
-    if (!HarnessStart(&h, NULL, 1280, 800)) {
-        state.SkipWithError("the harness did not start");
+    if (!StartBenchHarness(state, &h))
         return;
-    }
     for (auto _ : state) {
         CURRENT_DISPLAY->window_class->refresh_request = 1;
         RefreshHandlers(NULL);
@@ -45,15 +43,11 @@ static void BM_CreateGadgets(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         T_HARNESS h;
-        HarnessStart(&h, NULL, 1280, 800);
-        t_Window *page = CreatePageWindow(h.main_window, (char *)"Bench", 0x7C, 10, 60, 1200, 760);
+        if (!StartBenchHarness(state, &h))
+            return;
+        t_Window *page = BenchPage(&h, "Bench");
         T_GADGETOBJECTINIT init;
-        memset(&init, 0, sizeof(init));
-        init.base_width = 60;
-        init.base_height = 20;
-        init.hover_text = "";
-        init.max = 100;
-        init.step = 1;
+        FillNewGadgetInit(&init, 0, 0, 60, 20);
         state.ResumeTiming();
         for (i64 i = 0; i < count; i++) {
             init.x = (i16)(i % 1000);
@@ -71,12 +65,9 @@ BENCHMARK(BM_CreateGadgets)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond
 // A page of `count` buttons in rows, all of them selected, on a fresh harness.
 static t_Window *SelectedPage(T_HARNESS *h, i64 count)
 {
-    t_Window *page = CreatePageWindow(h->main_window, (char *)"Bench", 0x7C, 10, 60, 1200, 760);
+    t_Window *page = BenchPage(h, "Bench");
     T_GADGETOBJECTINIT init;
-    memset(&init, 0, sizeof(init));
-    init.base_width = 30;
-    init.base_height = 16;
-    init.hover_text = "";
+    FillNewGadgetInit(&init, 0, 0, 30, 16);
     for (i64 i = 0; i < count; i++) {
         init.x = (i16)(i % 36 * 32);
         init.y = (i16)(i / 36 % 40 * 17);
@@ -93,15 +84,12 @@ static t_Window *SelectedPage(T_HARNESS *h, i64 count)
 static void BM_RepaintPage(benchmark::State &state)
 {
     T_HARNESS h;
-    if (!HarnessStart(&h, NULL, 1280, 800)) {
-        state.SkipWithError("the harness did not start");
+    if (!StartBenchHarness(state, &h))
         return;
-    }
     SelectedPage(&h, state.range(0));
     for (auto _ : state)
         RefreshHandlers(NULL);
-    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * state.range(0),
-                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    CountTimePerGadget(state, state.range(0));
     HarnessStop(&h, 0);
 }
 BENCHMARK(BM_RepaintPage)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
@@ -110,10 +98,8 @@ BENCHMARK(BM_RepaintPage)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 static void BM_DragStep(benchmark::State &state)
 {
     T_HARNESS h;
-    if (!HarnessStart(&h, NULL, 1280, 800)) {
-        state.SkipWithError("the harness did not start");
+    if (!StartBenchHarness(state, &h))
         return;
-    }
     t_Window *page = SelectedPage(&h, state.range(0));
     t_gadget *first = FindGadgetHandler(page)->first_gadget;
     i16 x = (i16)(first->screen_x + 10), y = (i16)(first->screen_y + 8);
@@ -132,8 +118,7 @@ static void BM_DragStep(benchmark::State &state)
     }
     PushEvent(INPUT_MOUSE_UP, x, y, 1);
     RefreshHandlers(NULL);
-    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * state.range(0),
-                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    CountTimePerGadget(state, state.range(0));
     HarnessStop(&h, 0);
 }
 BENCHMARK(BM_DragStep)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);

@@ -5,11 +5,11 @@
 
 #include <string>
 
-#include "editor/page_window.h"
-#include "harness/harness.h"
+#include "editor/undo_records.h"
 #include "page/catalogue.h"
 #include "source/open_page.h"
 #include "source/source_writer.h"
+#include "tests/bench/bench_support.h"
 
 namespace
 {
@@ -20,14 +20,10 @@ std::string WriteLargePage(T_HARNESS *h, u32 count)
 {
     static const i16 tools[] = {TOOL_BUTTON,       TOOL_STRING,   TOOL_TEXT,     TOOL_CHECK_BOX,
                                 TOOL_RADIO_BUTTON, TOOL_SLIDER_H, TOOL_DROP_BOX, TOOL_LIST_BOX};
-    t_Window *page = CreatePageWindow(h->main_window, (char *)"Large Page", 0x7C, 10, 60, 1200, 760);
+    t_Window *page = BenchPage(h, "Large Page");
     T_GADGETOBJECTINIT init;
-    memset(&init, 0, sizeof(init));
-    init.base_width = 40;
-    init.base_height = 18;
+    FillNewGadgetInit(&init, 0, 0, 40, 18);
     init.hover_text = "A gadget";
-    init.max = 100;
-    init.step = 1;
     u32 n = 0;
     for (t_gadget *g; n < count; n++) {
         init.x = (i16)(n % 29 * 40);
@@ -48,10 +44,8 @@ std::string WriteLargePage(T_HARNESS *h, u32 count)
 void OpenPages(benchmark::State &state, int and_save)
 {
     T_HARNESS h;
-    if (!HarnessStart(&h, NULL, 1280, 800)) {
-        state.SkipWithError("the harness did not start");
+    if (!StartBenchHarness(state, &h))
         return;
-    }
     u32 count = (u32)state.range(0);
     std::string path = WriteLargePage(&h, count);
     std::string copy = std::string(h.root) + "/saved.cpp";
@@ -74,8 +68,7 @@ void OpenPages(benchmark::State &state, int and_save)
         RefreshHandlers(NULL);
         state.ResumeTiming();
     }
-    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * count,
-                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    CountTimePerGadget(state, count);
     HarnessStop(&h, 0);
 }
 

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "harness/harness.h"
 #include "page/records.h"
 #include "source/source_writer.h"
+#include "tests/bench/bench_support.h"
 
 namespace
 {
@@ -63,8 +63,7 @@ void BM_SavePage(benchmark::State &state)
     for (auto _ : state)
         SavePage(window, path.c_str());
     state.SetItemsProcessed(state.iterations() * count);
-    state.counters["time_per_gadget"] = benchmark::Counter((double)state.iterations() * count,
-                                                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    CountTimePerGadget(state, count);
 
     editor_config = saved_config;
     CloseToolkit();

@@ -4,6 +4,7 @@
 #include <string.h>
 
 #include "editor/page_window.h"
+#include "editor/undo_records.h"
 #include "page/catalogue.h"
 #include "tests/harness/harness.h"
 
@@ -21,15 +22,9 @@ class Catalogue : public ::testing::Test
     t_gadget *Make(i16 tool, i16 x = 10, i16 y = 10, i16 w = 100, i16 h = 20, i32 min = 0, i32 max = 100)
     {
         T_GADGETOBJECTINIT init;
-        memset(&init, 0, sizeof(init));
-        init.x = x;
-        init.y = y;
-        init.base_width = w;
-        init.base_height = h;
-        init.hover_text = "";
+        FillNewGadgetInit(&init, x, y, w, h);
         init.min = min;
         init.max = max;
-        init.step = 1;
         return CreateGadgetByTool(page, tool, &init);
     }
 
