@@ -75,6 +75,14 @@ struct TYPE_CASE {
 
 static char type_case_buffer[64];
 
+// A list-like gadget of five entries, with `flags` on it.
+static t_gadget *FlaggedList(GadgetTest *t, u16 type, i16 h, u32 flags)
+{
+    t_gadget *g = t->MakeList(type, 10, 10, 150, h, 5);
+    g->live_flags |= flags;
+    return g;
+}
+
 static std::vector<TYPE_CASE> TypeCases()
 {
     auto list_state = [](t_gadget *g) {
@@ -109,27 +117,9 @@ static std::vector<TYPE_CASE> TypeCases()
              return t->Make("sb", i);
          },
          [](t_gadget *g) { return (i64)((T_SCROLLBAR_DATA *)g->class_data)->init_val; }},
-        {"list box",
-         [](GadgetTest *t, u32 f) {
-             t_gadget *g = t->MakeList(GADGET_TYPE_LIST_BOX, 10, 10, 150, 100, 5);
-             g->live_flags |= f;
-             return g;
-         },
-         list_state},
-        {"tree",
-         [](GadgetTest *t, u32 f) {
-             t_gadget *g = t->MakeList(GADGET_TYPE_TREE, 10, 10, 150, 100, 5);
-             g->live_flags |= f;
-             return g;
-         },
-         list_state},
-        {"drop box",
-         [](GadgetTest *t, u32 f) {
-             t_gadget *g = t->MakeList(GADGET_TYPE_DROP_BOX, 10, 10, 150, 0, 5);
-             g->live_flags |= f;
-             return g;
-         },
-         list_state},
+        {"list box", [](GadgetTest *t, u32 f) { return FlaggedList(t, GADGET_TYPE_LIST_BOX, 100, f); }, list_state},
+        {"tree", [](GadgetTest *t, u32 f) { return FlaggedList(t, GADGET_TYPE_TREE, 100, f); }, list_state},
+        {"drop box", [](GadgetTest *t, u32 f) { return FlaggedList(t, GADGET_TYPE_DROP_BOX, 0, f); }, list_state},
         {"colour",
          [](GadgetTest *t, u32 f) {
              return t->Make("c", t->Init(GADGET_TYPE_COLOUR_FLAT, 10, 10, 150, 20, 1, 0x73, f));
