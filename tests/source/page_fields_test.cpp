@@ -54,47 +54,18 @@ class PageFieldsTest : public SourceTest
 // writer's record took comes back the same, and no statement goes by unread.
 TEST_F(PageFieldsTest, EveryGadgetStatementReadsBackIntoItsField)
 {
+    // clang-format off
     const std::vector<T_TEST_GADGET> gadgets = {
-        {.type = GADGET_TYPE_BUTTON,
-         .text = "b",
-         .x = -7,
-         .y = 9,
-         .w = 81,
-         .h = 23,
-         .item_code = 0x1f,
-         .flags = GADGET_FLAGS_PUSH | GADGET_FLAGS_BOLD,
-         .action = ACT_LMOUSE_UP | ACT_RMOUSE_DBL,
-         .hover = "tip",
-         .font = "DejaVuSans.ttf",
-         .with_cursor = 1,
-         .cursor = 77,
-         .back_colour = 0x123456,
-         .text_colour = 0x654321},
-        {.type = GADGET_TYPE_SLIDER,
-         .text = "s",
-         .x = 3,
-         .y = 4,
-         .w = 200,
-         .h = 20,
-         .item_code = 2,
-         .flags = GADGET_FLAGS_HORIZONTAL,
-         .min = -5,
-         .max = 300,
-         .step = 3,
-         .mark_width = 8,
-         .mark_height = 16},
-        {.type = GADGET_TYPE_SCROLLBAR,
-         .text = "r",
-         .x = 5,
-         .y = 6,
-         .w = 20,
-         .h = 100,
-         .item_code = 3,
-         .min = 2,
-         .max = 90,
-         .init_val = 40},
+        {.type = GADGET_TYPE_BUTTON, .text = "b", .x = -7, .y = 9, .w = 81, .h = 23, .item_code = 0x1f,
+         .flags = GADGET_FLAGS_PUSH | GADGET_FLAGS_BOLD, .action = ACT_LMOUSE_UP | ACT_RMOUSE_DBL, .hover = "tip",
+         .font = "DejaVuSans.ttf", .with_cursor = 1, .cursor = 77, .back_colour = 0x123456, .text_colour = 0x654321},
+        {.type = GADGET_TYPE_SLIDER, .text = "s", .x = 3, .y = 4, .w = 200, .h = 20, .item_code = 2,
+         .flags = GADGET_FLAGS_HORIZONTAL, .min = -5, .max = 300, .step = 3, .mark_width = 8, .mark_height = 16},
+        {.type = GADGET_TYPE_SCROLLBAR, .text = "r", .x = 5, .y = 6, .w = 20, .h = 100, .item_code = 3, .min = 2,
+         .max = 90, .init_val = 40},
         {.type = GADGET_TYPE_STRING, .text = "t", .x = 1, .y = 2, .w = 90, .h = 20, .item_code = 4},
     };
+    // clang-format on
     t_Window *window = MakePage({.name = "Fields"}, gadgets);
     ASSERT_TRUE(window);
     std::vector<t_gadget *> made = Gadgets(window);
@@ -132,16 +103,12 @@ TEST_F(PageFieldsTest, EveryGadgetStatementReadsBackIntoItsField)
 // The WINDOW block's statements read back into the window record, the colour beside it.
 TEST_F(PageFieldsTest, EveryWindowStatementReadsBackIntoItsField)
 {
-    t_Window *window = MakePage({.name = "Window Fields",
-                                 .flags = WF_CLOSE | WF_TITLE,
-                                 .idcmp = IDCMP_TERMINATE | IDCMP_KEY,
-                                 .x = 11,
-                                 .y = 12,
-                                 .w = 320,
-                                 .h = 200,
-                                 .area_colour = 0x123456,
-                                 .bitmap = "back.png"},
+    // clang-format off
+    t_Window *window = MakePage({.name = "Window Fields", .flags = WF_CLOSE | WF_TITLE,
+                                 .idcmp = IDCMP_TERMINATE | IDCMP_KEY, .x = 11, .y = 12, .w = 320, .h = 200,
+                                 .area_colour = 0x123456, .bitmap = "back.png"},
                                 {});
+    // clang-format on
     ASSERT_TRUE(window);
     window->icon = 5;
     std::string text;
