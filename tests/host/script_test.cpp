@@ -83,7 +83,7 @@ TEST(Script, NamesTheLineThatCantBeRead)
     }
 }
 
-TEST(Script, KeySpecs)
+TEST(Script, WrittenKeys)
 {
     struct {
         const char *name;
